@@ -1,0 +1,152 @@
+#pragma once
+
+#include "arraylib/record.h"
+
+// Accounts of an array, and the sessions that they open.
+
+/// A session, as the login returned it.
+struct QVSessionInfo {
+  std::byte session_id[32];
+};
+QUORVEL_RECORD(QVSessionInfo, 32);
+
+struct LoginRequest {
+  char user_id[257];
+  char passwd[257];
+  std::int32_t log_option;
+  char log_string[128];
+};
+QUORVEL_RECORD(LoginRequest, 648);
+QUORVEL_OFFSET(LoginRequest, log_option, 516);
+
+struct LogoutOption {
+  std::int32_t log_option;
+};
+QUORVEL_RECORD(LogoutOption, 4);
+
+/// An account to create or to change.
+struct Account {
+  char user_id[257];
+  std::int32_t set_passwd;
+  char passwd[257];
+  std::int32_t account_type;
+  std::int32_t role;
+  std::int32_t account_enable;
+};
+QUORVEL_RECORD(Account, 536);
+QUORVEL_OFFSET(Account, set_passwd, 260);
+QUORVEL_OFFSET(Account, passwd, 264);
+QUORVEL_OFFSET(Account, account_type, 524);
+
+struct AccountIdentifier {
+  char user_id[257];
+};
+QUORVEL_RECORD(AccountIdentifier, 257);
+
+struct OwnPasswordChange {
+  char user_id[257];
+  char old_passwd[257];
+  char new_passwd[257];
+};
+QUORVEL_RECORD(OwnPasswordChange, 771);
+
+// Assumed layout: not confirmed by the library's own declarations.
+struct AccountOptionInfo {
+  std::int32_t password_min_length;
+  std::int32_t session_timeout_used;
+  std::int32_t session_timeout;
+};
+QUORVEL_RECORD(AccountOptionInfo, 12);
+
+// Assumed layout: not confirmed by the library's own declarations.
+struct AccountAdditionalInfo {
+  std::int32_t keep_alive_time;
+};
+QUORVEL_RECORD(AccountAdditionalInfo, 4);
+
+// Assumed layout: not confirmed by the library's own declarations.
+struct AccountOption {
+  AccountOptionInfo option_info;
+  AccountAdditionalInfo additional_info;
+};
+QUORVEL_RECORD(AccountOption, 16);
+
+// Assumed layout: not confirmed by the library's own declarations.
+struct QVAccountRole {
+  char role_name[257];
+};
+QUORVEL_RECORD(QVAccountRole, 257);
+
+// Assumed layout: not confirmed by the library's own declarations.
+struct QVAccountRoleInformation {
+  std::int32_t role_valid_index;
+  QVAccountRole role_info[32];
+};
+QUORVEL_RECORD(QVAccountRoleInformation, 8228);
+
+// Assumed layout: not confirmed by the library's own declarations.
+struct QVAccountBaseInfo {
+  char user_id[257];
+  std::int32_t set_passwd;
+  char passwd[257];
+  std::int32_t account_type;
+  std::int32_t role;
+  std::int32_t account_enable;
+};
+QUORVEL_RECORD(QVAccountBaseInfo, 536);
+
+// Assumed layout: not confirmed by the library's own declarations.
+struct QVAccountInfoList {
+  QVAccountBaseInfo account_info[21];
+  std::byte reserved[172];
+};
+QUORVEL_RECORD(QVAccountInfoList, 11428);
+
+// Assumed layout: not confirmed by the library's own declarations.
+struct OwnUserPermission {
+  std::int32_t operation_auth[9];
+  std::int32_t original_operation_auth[9];
+  std::int32_t role;
+};
+QUORVEL_RECORD(OwnUserPermission, 76);
+
+// Assumed layout: not confirmed by the library's own declarations.
+struct AccountBanner {
+  std::int32_t warning_banner_display;
+  char warning_banner[6000];
+};
+QUORVEL_RECORD(AccountBanner, 6004);
+
+QUORVEL_API int QV_LoginQVAccount(const UnitName* unit, const LoginRequest* request,
+                                  QVSessionInfo* session);
+QUORVEL_API int QV_LoginQVAccountAlertCheck(const UnitName* unit, std::int32_t option,
+                                            QVSessionInfo* session);
+QUORVEL_API int QV_LogoutQVAccount(const UnitName* unit, const QVSessionInfo* session,
+                                   const LogoutOption* option);
+QUORVEL_API int QV_LogoutQVAccountAlertCheck(const UnitName* unit, const QVSessionInfo* session,
+                                             const LogoutOption* option);
+QUORVEL_API int QV_ForcedLogoutQVAccount(const UnitName* unit, const QVSessionInfo* session,
+                                         const AccountIdentifier* account);
+QUORVEL_API int QV_DeleteAccount(const UnitName* unit, const QVSessionInfo* session,
+                                 const AccountIdentifier* account);
+QUORVEL_API int QV_CreateAccount(const UnitName* unit, const QVSessionInfo* session,
+                                 const Account* account);
+QUORVEL_API int QV_ChangeAccount(const UnitName* unit, const QVSessionInfo* session,
+                                 const Account* account);
+QUORVEL_API int QV_ChangeOwnUserPassword(const UnitName* unit, const QVSessionInfo* session,
+                                         const OwnPasswordChange* change);
+QUORVEL_API int QV_GetAccountOption(const UnitName* unit, const QVSessionInfo* session,
+                                    AccountOption* option);
+QUORVEL_API int QV_SetAccountOption(const UnitName* unit, const QVSessionInfo* session,
+                                    const AccountOption* option);
+QUORVEL_API int QV_GetQVAccountRoleInformation(const UnitName* unit, const QVSessionInfo* session,
+                                               QVAccountRoleInformation* roles);
+QUORVEL_API int QV_GetAccountInformation(const UnitName* unit, const QVSessionInfo* session,
+                                         QVAccountInfoList* accounts);
+QUORVEL_API int QV_GetOwnUserPermission(const UnitName* unit, const QVSessionInfo* session,
+                                        OwnUserPermission* permission);
+QUORVEL_API int QV_GetAccountBanner(const UnitName* unit, AccountBanner* banner);
+QUORVEL_API int QV_GetAccountBannerAuth(const UnitName* unit, const QVSessionInfo* session,
+                                        AccountBanner* banner);
+QUORVEL_API int QV_SetAccountBannerAuth(const UnitName* unit, const QVSessionInfo* session,
+                                        const AccountBanner* banner);

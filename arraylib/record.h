@@ -1,0 +1,47 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+// Records are plain structs in natural C layout, little-endian, without pointers, so that they are
+// the same on 32 and on 64 bits. A member's type says how the bridge converts it; bridge/class_map.h
+// has the table. `char` is text, `std::byte` raw bytes, `std::int8_t` and `std::uint8_t` numbers.
+
+namespace quorvelj {
+
+struct ClassMap;
+
+/// What a record is on the Java side: a class of the same name.
+template <class Record>
+struct ClassOf;
+
+}  // namespace quorvelj
+
+/// Fixes the size of a record in bytes and ties it to the Java class of its name. The class map is
+/// defined beside the methods that use it.
+#define QUORVEL_RECORD(Record, bytes)                                                     \
+  static_assert(sizeof(Record) == (bytes), "the size of " #Record);                       \
+  template <>                                                                             \
+  struct quorvelj::ClassOf<Record> {                                                      \
+    static constexpr char kName[] = "tessaly/str/diskarray/" #Record;                     \
+    static constexpr char kArraySignature[] = "[[[Ltessaly/str/diskarray/" #Record ";";   \
+    static const ClassMap kMap;                                                           \
+  }
+
+/// Fixes the place of a member in bytes.
+#define QUORVEL_OFFSET(Record, member, bytes) \
+  static_assert(offsetof(Record, member) == (bytes), "the place of " #Record "." #member)
+
+// How a function of the library is declared. The simulator exports them.
+#ifndef QUORVEL_API
+#define QUORVEL_API extern "C"
+#endif
+
+/// A unit name, NUL-terminated: 64 bytes and the NUL.
+using UnitName = char[65];
+
+/// A unit name in the longer buffer that some functions are given.
+using LongUnitName = char[1024];
+
+/// A file path, NUL-terminated.
+using FilePath = char[1024];

@@ -1,0 +1,308 @@
+#include "bridge/class_map.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "bridge/jni_toolkit.h"
+#include "bridge/runtime.h"
+
+namespace quorvelj {
+namespace {
+
+/// A member of a record as its type.
+template <class Value>
+Value valueAt(const std::byte* at) {
+  Value value;
+  std::memcpy(&value, at, sizeof value);
+  return value;
+}
+
+/// The ints of a record, which lie on a boundary of their own.
+const std::int32_t* intsAt(const std::byte* at) { return reinterpret_cast<const std::int32_t*>(at); }
+std::int32_t* intsAt(std::byte* at) { return reinterpret_cast<std::int32_t*>(at); }
+const std::int8_t* bytesAt(const std::byte* at) { return reinterpret_cast<const std::int8_t*>(at); }
+std::int8_t* bytesAt(std::byte* at) { return reinterpret_cast<std::int8_t*>(at); }
+const char* textAt(const std::byte* at) { return reinterpret_cast<const char*>(at); }
+char* textAt(std::byte* at) { return reinterpret_cast<char*>(at); }
+
+jsize lengthOf(const Field& field, std::size_t dimension) {
+  return static_cast<jsize>(field.extents[dimension]);
+}
+
+/// The distance between two elements of a dimension.
+std::size_t strideOf(const Field& field, std::size_t dimension) {
+  std::size_t stride = field.elementBytes;
+  for (std::size_t inner = dimension + 1; inner < field.rank; ++inner) {
+    stride *= field.extents[inner];
+  }
+  return stride;
+}
+
+// Building
+
+bool terminated(const char* slots, std::size_t count, std::size_t width) {
+  for (std::size_t slot = 0; slot < count; ++slot) {
+    if (std::memchr(slots + slot * width, '\0', width) == nullptr) {
+      return false;
+    }
+  }
+  return true;
+}
+
+/// Hands the texts on in a copy in which every slot is one byte wider and ends in a NUL. Apart, to
+/// keep the copy out of the stack frames of nested builders.
+template <class Store>
+[[gnu::noinline]] int withCopiedTexts(const char* slots, std::size_t count, std::size_t width,
+                                      Store store) {
+  // A slot has one byte at the least, so that the copy is at most twice as large.
+  char copy[2 * kMaxTextBytes];
+  for (std::size_t slot = 0; slot < count; ++slot) {
+    char* const start = copy + slot * (width + 1);
+    std::memcpy(start, slots + slot * width, width);
+    start[width] = '\0';
+  }
+  return store(copy, width + 1);
+}
+
+/// Hands texts on in place where the library ended every one inside its width.
+template <class Store>
+int withTexts(const char* slots, std::size_t count, std::size_t width, Store store) {
+  return terminated(slots, count, width) ? store(slots, width)
+                                         : withCopiedTexts(slots, count, width, store);
+}
+
+jobject newArray(JNIEnv* env, const Field& field, std::size_t dimension, const std::byte* at);
+
+/// The elements of one dimension that are objects: records, or the arrays of the next dimension.
+jobjectArray newObjects(JNIEnv* env, const Field& field, std::size_t dimension,
+                        const std::byte* at) {
+  const jsize length = lengthOf(field, dimension);
+  const std::size_t stride = strideOf(field, dimension);
+  if (dimension + 1 == field.rank) {
+    return buildArray(env, *field.element, at, length, stride);
+  }
+  const jobjectArray array = newObjectArrayByName(env, field.signature + dimension + 1, length);
+  if (array == nullptr) {
+    return nullptr;
+  }
+  for (jsize index = 0; index < length; ++index) {
+    const jobject element = newArray(env, field, dimension + 1, at);
+    if (element == nullptr || storeArrayElement(env, array, index, element) != kOk) {
+      return nullptr;
+    }
+    at += stride;
+  }
+  return array;
+}
+
+jobject newArray(JNIEnv* env, const Field& field, std::size_t dimension, const std::byte* at) {
+  if (dimension + 1 < field.rank) {
+    return newObjects(env, field, dimension, at);
+  }
+  switch (field.kind) {
+    case FieldKind::kInt32:
+      return newIntArray(env, intsAt(at), lengthOf(field, dimension));
+    case FieldKind::kInt8:
+      return newIntArrayFromBytes(env, bytesAt(at), lengthOf(field, dimension));
+    case FieldKind::kBytes:
+      return newByteArray(env, at, lengthOf(field, dimension));
+    default:
+      return newObjects(env, field, dimension, at);
+  }
+}
+
+/// Stores a new object in its field and lets go of it.
+int storeNew(JNIEnv* env, jobject object, const Field& field, jobject value) {
+  if (value == nullptr ||
+      setObjectFieldByName(env, object, field.name, field.signature, value) != kOk) {
+    return kFailed;
+  }
+  deleteLocalRef(env, value);
+  return kOk;
+}
+
+int setScalar(JNIEnv* env, jobject object, const Field& field, const std::byte* at) {
+  switch (field.kind) {
+    case FieldKind::kInt32:
+      return setIntField(env, object, field.name, valueAt<std::int32_t>(at));
+    case FieldKind::kInt8:
+      return setIntField(env, object, field.name, valueAt<std::int8_t>(at));
+    case FieldKind::kUInt8:
+      return setIntField(env, object, field.name, valueAt<std::uint8_t>(at));
+    case FieldKind::kText:
+      // A text that cannot be stored does not end a builder.
+      withTexts(textAt(at), 1, field.elementBytes, [&](const char* text, std::size_t) {
+        return setStringField(env, object, field.name, text);
+      });
+      return kOk;
+    default:
+      return storeNew(env, object, field, build(env, *field.element, at));
+  }
+}
+
+int setField(JNIEnv* env, jobject object, const Field& field, const std::byte* at) {
+  if (field.rank == 0) {
+    return setScalar(env, object, field, at);
+  }
+  if (field.rank == 1 && field.kind == FieldKind::kInt32) {
+    return setIntArrayField(env, object, field.name, intsAt(at), lengthOf(field, 0));
+  }
+  if (field.rank == 1 && field.kind == FieldKind::kBytes) {
+    return setByteArrayField(env, object, field.name, at, lengthOf(field, 0));
+  }
+  if (field.kind == FieldKind::kText) {
+    return withTexts(textAt(at), field.extents[0], field.elementBytes,
+                               [&](const char* texts, std::size_t stride) {
+                                 return setStringArrayField(env, object, field.name, texts,
+                                                            lengthOf(field, 0), stride);
+                               });
+  }
+  return storeNew(env, object, field, newArray(env, field, 0, at));
+}
+
+// Reading
+
+/// Reads the elements of one dimension, as many as there is room for. What becomes of an element
+/// that is missing or stops inside is not looked at.
+void readElements(JNIEnv* env, const Field& field, std::size_t dimension, jobjectArray array,
+                  std::byte* at) {
+  const jsize length = std::min(env->GetArrayLength(array), lengthOf(field, dimension));
+  const std::size_t stride = strideOf(field, dimension);
+  for (jsize index = 0; index < length; ++index) {
+    const jobject element = env->GetObjectArrayElement(array, index);
+    if (element != nullptr) {
+      if (dimension + 1 == field.rank) {
+        read(env, *field.element, element, at);
+      } else if (dimension + 2 == field.rank && field.kind == FieldKind::kInt8) {
+        copyIntArrayAsBytes(env, static_cast<jintArray>(element), bytesAt(at), stride);
+      } else {
+        readElements(env, field, dimension + 1, static_cast<jobjectArray>(element), at);
+      }
+    }
+    deleteLocalRef(env, element);
+    at += stride;
+  }
+}
+
+/// Reads the object or array of a field.
+int getObject(JNIEnv* env, jobject object, const Field& field, std::byte* at) {
+  const jobject value = getObjectField(env, object, field.name, field.signature);
+  if (value == nullptr) {
+    return kNothingToRead;
+  }
+  if (field.rank == 0) {
+    read(env, *field.element, value, at);
+  } else {
+    readElements(env, field, 0, static_cast<jobjectArray>(value), at);
+  }
+  deleteLocalRef(env, value);
+  return kOk;
+}
+
+int getInt(JNIEnv* env, jobject object, const Field& field, std::byte* at) {
+  const auto value = static_cast<std::int32_t>(getIntField(env, object, field.name));
+  // The -1 of a field that could not be read is told from a stored one by the exception.
+  if (env->ExceptionOccurred() != nullptr) {
+    return kFailed;
+  }
+  if (field.kind == FieldKind::kInt32) {
+    std::memcpy(at, &value, sizeof value);
+  } else {
+    *at = static_cast<std::byte>(value & 0xFF);
+  }
+  return kOk;
+}
+
+int getScalar(JNIEnv* env, jobject object, const Field& field, std::byte* at) {
+  switch (field.kind) {
+    case FieldKind::kText:
+      return getStringField(env, object, field.name, textAt(at), field.elementBytes);
+    case FieldKind::kRecord:
+      return getObject(env, object, field, at);
+    default:
+      return getInt(env, object, field, at);
+  }
+}
+
+int getField(JNIEnv* env, jobject object, const Field& field, std::byte* at) {
+  if (field.rank == 0) {
+    return getScalar(env, object, field, at);
+  }
+  switch (field.kind) {
+    case FieldKind::kText:
+      return getStringArrayField(env, object, field.name, textAt(at), field.elementBytes,
+                                 field.extents[0]);
+    case FieldKind::kInt32:
+      if (field.rank == 1) {
+        return getIntArrayField(env, object, field.name, intsAt(at), lengthOf(field, 0));
+      }
+      return field.rank == 2 ? getIntMatrixField(env, object, field.name, intsAt(at),
+                                                 lengthOf(field, 0), lengthOf(field, 1))
+                             : kFailed;
+    case FieldKind::kBytes:
+      if (field.rank == 1) {
+        return getByteArrayField(env, object, field.name, at, lengthOf(field, 0));
+      }
+      return field.rank == 2 ? getByteMatrixField(env, object, field.name, at, lengthOf(field, 0),
+                                                  lengthOf(field, 1))
+                             : kFailed;
+    case FieldKind::kInt8:
+      return field.rank == 1 ? getIntArrayFieldAsBytes(env, object, field.name, bytesAt(at),
+                                                       field.extents[0])
+                             : getObject(env, object, field, at);
+    default:
+      return getObject(env, object, field, at);
+  }
+}
+
+}  // namespace
+
+jobject build(JNIEnv* env, const ClassMap& map, const void* record) {
+  flushOutput();
+  if (record == nullptr) {
+    return nullptr;
+  }
+  const jobject object = newObjectByName(env, map.className);
+  if (object == nullptr) {
+    return nullptr;
+  }
+  for (const Field& field : map.fields) {
+    if (setField(env, object, field, static_cast<const std::byte*>(record) + field.offset) != kOk) {
+      return nullptr;
+    }
+  }
+  return object;
+}
+
+jobjectArray buildArray(JNIEnv* env, const ClassMap& map, const void* records, jsize length,
+                        std::size_t recordBytes) {
+  const jobjectArray array = newObjectArrayByName(env, map.className, length);
+  if (array == nullptr) {
+    return nullptr;
+  }
+  auto record = static_cast<const std::byte*>(records);
+  for (jsize index = 0; index < length; ++index) {
+    const jobject element = build(env, map, record);
+    if (element == nullptr || storeArrayElement(env, array, index, element) != kOk) {
+      return nullptr;
+    }
+    record += recordBytes;
+  }
+  return array;
+}
+
+int read(JNIEnv* env, const ClassMap& map, jobject object, void* record) {
+  if (object == nullptr || record == nullptr) {
+    return kNothingToRead;
+  }
+  for (const Field& field : map.fields) {
+    const int result =
+        getField(env, object, field, static_cast<std::byte*>(record) + field.offset);
+    if (result != kOk) {
+      return result;
+    }
+  }
+  return kOk;
+}
+
+}  // namespace quorvelj

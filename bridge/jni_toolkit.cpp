@@ -1,0 +1,536 @@
+#include "bridge/jni_toolkit.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "bridge/runtime.h"
+
+namespace quorvelj {
+namespace {
+
+constexpr char kArrayExceptionClass[] = "tessaly/str/diskarray/DiskArrayException";
+constexpr char kClassNotFoundClass[] = "java/lang/ClassNotFoundException";
+constexpr char kStringClass[] = "java/lang/String";
+constexpr char kStringSignature[] = "Ljava/lang/String;";
+constexpr double kScale = 100.0;
+
+// jint is `long` on 32-bit Windows; everywhere it has the 32 bits of std::int32_t.
+static_assert(sizeof(jint) == sizeof(std::int32_t));
+jint* asJava(std::int32_t* values) { return reinterpret_cast<jint*>(values); }
+const jint* asJava(const std::int32_t* values) { return reinterpret_cast<const jint*>(values); }
+jbyte* asJava(std::byte* bytes) { return reinterpret_cast<jbyte*>(bytes); }
+const jbyte* asJava(const std::byte* bytes) { return reinterpret_cast<const jbyte*>(bytes); }
+
+bool exceptionPending(JNIEnv* env) { return env->ExceptionOccurred() != nullptr; }
+
+/// A field of an object, found by name at this moment.
+struct FoundField {
+  FoundField(JNIEnv* env, jobject object, const char* name, const char* signature)
+      : type(object == nullptr ? nullptr : env->GetObjectClass(object)),
+        id(type == nullptr ? nullptr : env->GetFieldID(type, name, signature)) {}
+  explicit operator bool() const { return id != nullptr; }
+
+  jclass type;
+  jfieldID id;
+};
+
+/// Ends a store or a copy: the exception that it may have raised, then the reference behind it.
+int finish(JNIEnv* env, jobject reference) {
+  if (exceptionPending(env)) {
+    return kFailed;
+  }
+  deleteLocalRef(env, reference);
+  return kOk;
+}
+
+/// Copies a terminated text; a buffer of no bytes is left alone.
+void copyText(const char* text, char* buffer, std::size_t length) {
+  if (length == 0) {
+    return;
+  }
+  std::strncpy(buffer, text, length - 1);
+  buffer[length - 1] = '\0';
+}
+
+/// Copies the characters of `text`; `kFailed` where they cannot be had.
+int copyCharacters(JNIEnv* env, jstring text, char* buffer, std::size_t length) {
+  const char* const characters = env->GetStringUTFChars(text, nullptr);
+  if (characters == nullptr) {
+    return kFailed;
+  }
+  copyText(characters, buffer, length);
+  env->ReleaseStringUTFChars(text, characters);
+  return kOk;
+}
+
+/// The low 16 bits of the scaled value truncated to 32 bits. A value outside 32 bits truncates to
+/// 0x80000000, as the processor's conversion does, of which the low bits are 0.
+jshort toScaledShort(double value) {
+  const double scaled = value * kScale;
+  if (!(scaled > -2147483649.0 && scaled < 2147483648.0)) {
+    return 0;
+  }
+  return static_cast<jshort>(static_cast<std::int32_t>(scaled));
+}
+
+/// Copies the rows of a matrix field. `Region` copies one row: `(row, index)`.
+template <class Region>
+int getMatrixField(JNIEnv* env, jobject object, const char* name, const char* signature, jsize rows,
+                   Region copyRow) {
+  const auto array =
+      static_cast<jobjectArray>(getObjectField(env, object, name, signature));
+  if (array == nullptr) {
+    return kFailed;
+  }
+  for (jsize index = 0; index < rows; ++index) {
+    const jobject row = env->GetObjectArrayElement(array, index);
+    if (row == nullptr) {
+      return kFailed;
+    }
+    copyRow(row, static_cast<std::size_t>(index));
+    if (finish(env, row) != kOk) {
+      return kFailed;
+    }
+  }
+  deleteLocalRef(env, array);
+  return kOk;
+}
+
+}  // namespace
+
+void throwNewByName(JNIEnv* env, const char* className, const char* message) {
+  const jclass type = findClassOrThrow(env, className);
+  if (type != nullptr) {
+    env->ThrowNew(type, message);
+  }
+}
+
+void throwClassNotFound(JNIEnv* env, const char* className) {
+  if (std::strncmp(className, kClassNotFoundClass, sizeof kClassNotFoundClass) != 0) {
+    throwNewByName(env, kClassNotFoundClass, className);
+  }
+}
+
+void throwArrayException(JNIEnv* env, int code) {
+  if (code == kNeverThrown) {
+    return;
+  }
+  if (code == kOutOfMemory) {
+    throwNewByName(env, "java/lang/OutOfMemoryError", "");
+    return;
+  }
+  const jclass type = findClassOrThrow(env, kArrayExceptionClass);
+  if (type == nullptr) {
+    return;
+  }
+  const jmethodID constructor = env->GetMethodID(type, "<init>", "(I)V");
+  if (constructor == nullptr) {
+    return;
+  }
+  const jobject exception = env->NewObject(type, constructor, static_cast<jint>(code));
+  if (exception != nullptr) {
+    env->Throw(static_cast<jthrowable>(exception));
+  }
+}
+
+void deleteLocalRef(JNIEnv* env, jobject reference) {
+  if (env != nullptr && reference != nullptr) {
+    env->DeleteLocalRef(reference);
+  }
+}
+
+jclass findClassOrThrow(JNIEnv* env, const char* className) {
+  const jclass type = env->FindClass(className);
+  if (type == nullptr) {
+    throwClassNotFound(env, className);
+  }
+  return type;
+}
+
+jobject newObjectByName(JNIEnv* env, const char* className) {
+  const jclass type = findClassOrThrow(env, className);
+  if (type == nullptr) {
+    return nullptr;
+  }
+  const jmethodID constructor = env->GetMethodID(type, "<init>", "()V");
+  if (constructor == nullptr) {
+    return nullptr;
+  }
+  const jobject object = env->NewObject(type, constructor);
+  if (object != nullptr) {
+    deleteLocalRef(env, type);
+  }
+  return object;
+}
+
+jobjectArray newObjectArrayByName(JNIEnv* env, const char* elementClassName, jsize length) {
+  const jclass type = findClassOrThrow(env, elementClassName);
+  if (type == nullptr) {
+    return nullptr;
+  }
+  const jobjectArray array = env->NewObjectArray(length, type, nullptr);
+  deleteLocalRef(env, type);
+  return array;
+}
+
+jobject newInteger(JNIEnv* env, jint value) {
+  const jclass type = findClassOrThrow(env, "java/lang/Integer");
+  if (type == nullptr) {
+    return nullptr;
+  }
+  const jmethodID constructor = env->GetMethodID(type, "<init>", "(I)V");
+  if (constructor == nullptr) {
+    return nullptr;
+  }
+  const jobject integer = env->NewObject(type, constructor, value);
+  deleteLocalRef(env, type);
+  return integer;
+}
+
+jintArray newIntArrayFromBytes(JNIEnv* env, const std::int8_t* bytes, jsize count) {
+  const jintArray array = env->NewIntArray(count);
+  if (array == nullptr) {
+    return nullptr;
+  }
+  jint* const elements = env->GetIntArrayElements(array, nullptr);
+  if (elements == nullptr) {
+    return nullptr;
+  }
+  std::copy(bytes, bytes + count, elements);
+  env->ReleaseIntArrayElements(array, elements, 0);
+  return array;
+}
+
+jintArray newIntArray(JNIEnv* env, const std::int32_t* values, jsize count) {
+  const jintArray array = env->NewIntArray(count);
+  if (array == nullptr) {
+    return nullptr;
+  }
+  env->SetIntArrayRegion(array, 0, count, asJava(values));
+  return exceptionPending(env) ? nullptr : array;
+}
+
+jbyteArray newByteArray(JNIEnv* env, const std::byte* bytes, jsize count) {
+  const jbyteArray array = env->NewByteArray(count);
+  if (array == nullptr) {
+    return nullptr;
+  }
+  env->SetByteArrayRegion(array, 0, count, asJava(bytes));
+  return exceptionPending(env) ? nullptr : array;
+}
+
+int storeArrayElement(JNIEnv* env, jobjectArray array, jsize index, jobject element) {
+  env->SetObjectArrayElement(array, index, element);
+  return finish(env, element);
+}
+
+jint getIntField(JNIEnv* env, jobject object, const char* name) {
+  const FoundField field(env, object, name, "I");
+  if (!field) {
+    return -1;
+  }
+  const jint value = env->GetIntField(object, field.id);
+  deleteLocalRef(env, field.type);
+  return value;
+}
+
+int setIntField(JNIEnv* env, jobject object, const char* name, jint value) {
+  const FoundField field(env, object, name, "I");
+  if (!field) {
+    return kFailed;
+  }
+  env->SetIntField(object, field.id, value);
+  return finish(env, field.type);
+}
+
+jobject getObjectField(JNIEnv* env, jobject object, const char* name, const char* signature) {
+  const FoundField field(env, object, name, signature);
+  if (!field) {
+    return nullptr;
+  }
+  const jobject value = env->GetObjectField(object, field.id);
+  deleteLocalRef(env, field.type);
+  return value;
+}
+
+int setObjectFieldByName(JNIEnv* env, jobject object, const char* name, const char* signature,
+                         jobject value) {
+  const FoundField field(env, object, name, signature);
+  if (!field) {
+    return kFailed;
+  }
+  env->SetObjectField(object, field.id, value);
+  return finish(env, field.type);
+}
+
+int getStringField(JNIEnv* env, jobject object, const char* name, char* buffer,
+                   std::size_t length) {
+  const auto text = static_cast<jstring>(getObjectField(env, object, name, kStringSignature));
+  if (text == nullptr || copyCharacters(env, text, buffer, length) != kOk) {
+    return kFailed;
+  }
+  deleteLocalRef(env, text);
+  return kOk;
+}
+
+// The string is made between the two look-ups, so this store cannot begin with a FoundField.
+int setStringField(JNIEnv* env, jobject object, const char* name, const char* value) {
+  const jclass type = object == nullptr ? nullptr : env->GetObjectClass(object);
+  if (type == nullptr) {
+    return kFailed;
+  }
+  const jstring text = env->NewStringUTF(value);
+  if (text == nullptr) {
+    return kFailed;
+  }
+  const jfieldID field = env->GetFieldID(type, name, kStringSignature);
+  if (field == nullptr) {
+    return kFailed;
+  }
+  env->SetObjectField(object, field, text);
+  if (finish(env, type) != kOk) {
+    return kFailed;
+  }
+  deleteLocalRef(env, text);
+  return kOk;
+}
+
+int setSjisStringField(JNIEnv* env, jobject object, const char* name, const char* bytes,
+                       jsize count) {
+  // Looked up directly: a missing String class is not reported as ClassNotFoundException here.
+  const jclass stringType = env->FindClass(kStringClass);
+  if (stringType == nullptr) {
+    return kFailed;
+  }
+  const jmethodID constructor =
+      env->GetMethodID(stringType, "<init>", "([BIILjava/lang/String;)V");
+  if (constructor == nullptr) {
+    return kFailed;
+  }
+  const jbyteArray array = env->NewByteArray(count);
+  if (array == nullptr) {
+    return kFailed;
+  }
+  env->SetByteArrayRegion(array, 0, count, reinterpret_cast<const jbyte*>(bytes));
+  const jstring charset = env->NewStringUTF("Shift_JIS");
+  // Bytes without a NUL count as one more than there are, which the constructor refuses, as it
+  // refuses any length beyond the array; nothing behind the bytes is looked at.
+  const void* const end = std::memchr(bytes, '\0', static_cast<std::size_t>(count));
+  const jint length =
+      end == nullptr ? count + 1 : static_cast<jint>(static_cast<const char*>(end) - bytes);
+  const jobject text = env->NewObject(stringType, constructor, array, jint{0}, length, charset);
+  if (text == nullptr) {
+    return kFailed;
+  }
+  const FoundField field(env, object, name, kStringSignature);
+  if (!field) {
+    return kFailed;
+  }
+  env->SetObjectField(object, field.id, text);
+  if (finish(env, field.type) != kOk) {
+    return kFailed;
+  }
+  deleteLocalRef(env, stringType);
+  deleteLocalRef(env, text);
+  deleteLocalRef(env, array);
+  deleteLocalRef(env, charset);
+  return kOk;
+}
+
+double getScaledShortField(JNIEnv* env, jobject object, const char* name) {
+  const FoundField field(env, object, name, "S");
+  if (!field) {
+    return -1.0;
+  }
+  const jshort value = env->GetShortField(object, field.id);
+  deleteLocalRef(env, field.type);
+  return value / kScale;
+}
+
+int setScaledShortField(JNIEnv* env, jobject object, const char* name, double value) {
+  const FoundField field(env, object, name, "S");
+  if (!field) {
+    return kFailed;
+  }
+  env->SetShortField(object, field.id, toScaledShort(value));
+  return finish(env, field.type);
+}
+
+int getIntArrayField(JNIEnv* env, jobject object, const char* name, std::int32_t* values,
+                     jsize count) {
+  const auto array = static_cast<jintArray>(getObjectField(env, object, name, "[I"));
+  if (array == nullptr) {
+    return kFailed;
+  }
+  env->GetIntArrayRegion(array, 0, count, asJava(values));
+  return finish(env, array);
+}
+
+int setIntArrayField(JNIEnv* env, jobject object, const char* name, const std::int32_t* values,
+                     jsize count) {
+  const jintArray array = newIntArray(env, values, count);
+  if (array == nullptr) {
+    return kFailed;
+  }
+  const int result = setObjectFieldByName(env, object, name, "[I", array);
+  deleteLocalRef(env, array);
+  return result;
+}
+
+int getIntArrayFieldAsBytes(JNIEnv* env, jobject object, const char* name, std::int8_t* bytes,
+                            std::size_t capacity) {
+  const auto array = static_cast<jintArray>(getObjectField(env, object, name, "[I"));
+  if (array == nullptr || copyIntArrayAsBytes(env, array, bytes, capacity) != kOk) {
+    return kFailed;
+  }
+  deleteLocalRef(env, array);
+  return kOk;
+}
+
+int copyIntArrayAsBytes(JNIEnv* env, jintArray array, std::int8_t* bytes, std::size_t capacity) {
+  const auto length = static_cast<std::size_t>(env->GetArrayLength(array));
+  if (length == 0) {
+    if (capacity > 0) {
+      bytes[0] = 0;
+    }
+    return kOk;
+  }
+  jint* const elements = env->GetIntArrayElements(array, nullptr);
+  if (elements == nullptr) {
+    return kFailed;
+  }
+  for (std::size_t index = 0; index < std::min(length, capacity); ++index) {
+    bytes[index] = static_cast<std::int8_t>(elements[index]);
+  }
+  env->ReleaseIntArrayElements(array, elements, 0);
+  return kOk;
+}
+
+int getIntMatrixField(JNIEnv* env, jobject object, const char* name, std::int32_t* values,
+                      jsize rows, jsize cols) {
+  return getMatrixField(env, object, name, "[[I", rows, [=](jobject row, std::size_t index) {
+    env->GetIntArrayRegion(static_cast<jintArray>(row), 0, cols,
+                           asJava(values + index * static_cast<std::size_t>(cols)));
+  });
+}
+
+int getByteArrayField(JNIEnv* env, jobject object, const char* name, std::byte* bytes,
+                      jsize count) {
+  const auto array = static_cast<jbyteArray>(getObjectField(env, object, name, "[B"));
+  if (array == nullptr) {
+    return kFailed;
+  }
+  env->GetByteArrayRegion(array, 0, count, asJava(bytes));
+  return finish(env, array);
+}
+
+int setByteArrayField(JNIEnv* env, jobject object, const char* name, const std::byte* bytes,
+                      jsize count) {
+  const auto array = static_cast<jbyteArray>(getObjectField(env, object, name, "[B"));
+  if (array == nullptr) {
+    return kFailed;
+  }
+  env->SetByteArrayRegion(array, 0, count, asJava(bytes));
+  return finish(env, array);
+}
+
+int getByteMatrixField(JNIEnv* env, jobject object, const char* name, std::byte* bytes, jsize rows,
+                       jsize cols) {
+  return getMatrixField(env, object, name, "[[B", rows, [=](jobject row, std::size_t index) {
+    env->GetByteArrayRegion(static_cast<jbyteArray>(row), 0, cols,
+                            asJava(bytes + index * static_cast<std::size_t>(cols)));
+  });
+}
+
+int getScaledShortArrayField(JNIEnv* env, jobject object, const char* name, double* values,
+                             jsize count) {
+  const auto array = static_cast<jshortArray>(getObjectField(env, object, name, "[S"));
+  if (array == nullptr) {
+    return kFailed;
+  }
+  const auto length = static_cast<std::size_t>(count);
+  const auto shorts = static_cast<jshort*>(allocateRecord(length * sizeof(jshort)));
+  if (shorts == nullptr) {
+    return kFailed;
+  }
+  env->GetShortArrayRegion(array, 0, count, shorts);
+  if (exceptionPending(env)) {
+    releaseRecord(shorts);
+    return kFailed;
+  }
+  std::transform(shorts, shorts + length, values, [](jshort value) { return value / kScale; });
+  deleteLocalRef(env, array);
+  releaseRecord(shorts);
+  return kOk;
+}
+
+int setScaledShortArrayField(JNIEnv* env, jobject object, const char* name, const double* values,
+                             jsize count) {
+  const auto length = static_cast<std::size_t>(count);
+  const auto shorts = static_cast<jshort*>(allocateRecord(length * sizeof(jshort)));
+  if (shorts == nullptr) {
+    return kFailed;
+  }
+  const jshortArray array = env->NewShortArray(count);
+  if (array == nullptr) {
+    releaseRecord(shorts);
+    return kFailed;
+  }
+  std::transform(values, values + length, shorts, toScaledShort);
+  env->SetShortArrayRegion(array, 0, count, shorts);
+  if (exceptionPending(env)) {
+    releaseRecord(shorts);
+    return kFailed;
+  }
+  const int result = setObjectFieldByName(env, object, name, "[S", array);
+  deleteLocalRef(env, array);
+  releaseRecord(shorts);
+  return result;
+}
+
+int getStringArrayField(JNIEnv* env, jobject object, const char* name, char* table,
+                        std::size_t stride, std::size_t capacity) {
+  const auto array =
+      static_cast<jobjectArray>(getObjectField(env, object, name, "[Ljava/lang/String;"));
+  if (array == nullptr) {
+    return kFailed;
+  }
+  const auto length = static_cast<std::size_t>(env->GetArrayLength(array));
+  for (std::size_t index = 0; index < std::min(length, capacity); ++index) {
+    const auto text =
+        static_cast<jstring>(env->GetObjectArrayElement(array, static_cast<jsize>(index)));
+    if (text == nullptr || copyCharacters(env, text, table + index * stride, stride) != kOk) {
+      return kFailed;
+    }
+    deleteLocalRef(env, text);
+  }
+  deleteLocalRef(env, array);
+  return kOk;
+}
+
+int setStringArrayField(JNIEnv* env, jobject object, const char* name, const char* table,
+                        jsize count, std::size_t stride) {
+  const jobjectArray array = newObjectArrayByName(env, kStringClass, count);
+  if (array == nullptr) {
+    return kFailed;
+  }
+  for (jsize index = 0; index < count; ++index) {
+    const jstring text = env->NewStringUTF(table + static_cast<std::size_t>(index) * stride);
+    if (text == nullptr || storeArrayElement(env, array, index, text) != kOk) {
+      return kFailed;
+    }
+  }
+  setObjectFieldByName(env, object, name, "[Ljava/lang/String;", array);
+  deleteLocalRef(env, array);
+  return kOk;
+}
+
+int copyJavaStringToBuffer(JNIEnv* env, jstring text, char* buffer, std::size_t length) {
+  if (text == nullptr || env->GetStringUTFLength(text) == 0) {
+    buffer[0] = '\0';
+    return kFailed;
+  }
+  return copyCharacters(env, text, buffer, length);
+}
+
+}  // namespace quorvelj

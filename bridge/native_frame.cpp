@@ -1,0 +1,45 @@
+#include "bridge/native_frame.h"
+
+namespace quorvelj {
+namespace {
+
+/// The part of a query's end that is the same for an object and an array.
+template <class Build>
+auto finishWith(JNIEnv* env, int result, void* record, Build buildResult) {
+  using Object = decltype(buildResult());
+  if (result != 0) {
+    releaseRecord(record);
+    throwArrayException(env, result);
+    return Object{};
+  }
+  const Object built = buildResult();
+  releaseRecord(record);
+  if (built == nullptr) {
+    throwArrayException(env, kFailed);
+  }
+  return built;
+}
+
+}  // namespace
+
+bool copyRequiredText(JNIEnv* env, jstring text, char* buffer, std::size_t length) {
+  if (text == nullptr) {
+    throwArrayException(env, kMissingArgument);
+    return false;
+  }
+  copyJavaStringToBuffer(env, text, buffer, length);
+  return true;
+}
+
+jobject finishQuery(JNIEnv* env, int result, const ClassMap& map, void* record) {
+  return finishWith(env, result, record, [=, &map] { return build(env, map, record); });
+}
+
+jobjectArray finishArrayQuery(JNIEnv* env, int result, const ClassMap& map, void* records,
+                              jsize length, std::size_t recordBytes) {
+  return finishWith(env, result, records, [=, &map] {
+    return buildArray(env, map, records, length, recordBytes);
+  });
+}
+
+}  // namespace quorvelj

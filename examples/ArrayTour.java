@@ -1,0 +1,1 @@
+public class ArrayTour { public static void main(String[] a) {} }

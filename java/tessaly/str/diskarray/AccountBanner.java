@@ -1,0 +1,9 @@
+package tessaly.str.diskarray;
+
+/** The warning that an array shows before a login. */
+public class AccountBanner {
+    /** Whether it is shown. */
+    public int warning_banner_display;
+    /** At most 5,999 bytes. */
+    public String warning_banner;
+}

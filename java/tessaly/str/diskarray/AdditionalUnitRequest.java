@@ -1,0 +1,6 @@
+package tessaly.str.diskarray;
+
+/** A request to attach additional units. */
+public class AdditionalUnitRequest {
+    public int mode;
+}

@@ -1,0 +1,7 @@
+package tessaly.str.diskarray;
+
+/** The accounts of an array. */
+public class QVAccountInfoList {
+    /** Always 21 elements; those not in use have an empty user_id. */
+    public QVAccountBaseInfo[] account_info;
+}

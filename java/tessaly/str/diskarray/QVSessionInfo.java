@@ -1,0 +1,7 @@
+package tessaly.str.diskarray;
+
+/** A session, as the login returned it; nearly every other method wants it back. */
+public class QVSessionInfo {
+    /** 32 opaque bytes. The native library copies into this array and never replaces it. */
+    public byte[] session_id = new byte[32];
+}

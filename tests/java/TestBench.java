@@ -1,0 +1,139 @@
+import java.lang.reflect.Array;
+import java.lang.reflect.Field;
+import java.lang.reflect.InvocationTargetException;
+import java.lang.reflect.Method;
+import java.util.Arrays;
+import tessaly.str.diskarray.DiskArrayException;
+import tessaly.str.diskarray.DiskArrayUtilityJNI;
+
+/** What the native tests do in Java: calls by name, and fields by paths like "role_info[3].role_name". */
+public final class TestBench {
+    private static final DiskArrayUtilityJNI ARRAY = new DiskArrayUtilityJNI();
+
+    /** How the last call failed: "" or "DiskArrayException 258". */
+    public static String failure;
+
+    private TestBench() {}
+
+    public static Object call(String name, Object[] arguments) throws ReflectiveOperationException {
+        failure = "";
+        for (Method method : DiskArrayUtilityJNI.class.getMethods()) {
+            if (method.getName().equals(name)) {
+                try {
+                    return method.invoke(ARRAY, arguments);
+                } catch (InvocationTargetException thrown) {
+                    failure = describe(thrown.getCause());
+                    return null;
+                }
+            }
+        }
+        throw new NoSuchMethodException(name);
+    }
+
+    private static String describe(Throwable cause) {
+        return cause instanceof DiskArrayException
+                ? "DiskArrayException " + ((DiskArrayException) cause).getCode()
+                : cause.getClass().getSimpleName() + " " + cause.getMessage();
+    }
+
+    public static Object create(String className) throws ReflectiveOperationException {
+        return Class.forName("tessaly.str.diskarray." + className).getConstructor().newInstance();
+    }
+
+    /** The value at a path as text; an array of ints as "[1, 2]", of bytes in decimal. */
+    public static String get(Object root, String path) throws ReflectiveOperationException {
+        Object value = root;
+        for (String step : steps(path)) {
+            value = isIndex(step)
+                    ? Array.get(value, Integer.parseInt(step))
+                    : value.getClass().getField(step).get(value);
+        }
+        if (value instanceof int[]) {
+            return Arrays.toString((int[]) value);
+        }
+        if (value instanceof byte[]) {
+            return Arrays.toString((byte[]) value);
+        }
+        if (value != null && value.getClass().isArray()) {
+            return value.getClass().getSimpleName().replace("[]", "[" + Array.getLength(value) + "]");
+        }
+        return String.valueOf(value);
+    }
+
+    /** Sets the value at a path; objects and arrays on the way are made as they are needed. */
+    public static void set(Object root, String path, String value)
+            throws ReflectiveOperationException {
+        String[] steps = steps(path);
+        Object at = root;
+        for (int step = 0; step < steps.length; step++) {
+            boolean last = step == steps.length - 1;
+            if (isIndex(steps[step])) {
+                int index = Integer.parseInt(steps[step]);
+                Class<?> type = at.getClass().getComponentType();
+                if (last) {
+                    Array.set(at, index, parse(type, value));
+                } else {
+                    if (Array.get(at, index) == null) {
+                        Array.set(at, index, make(type, steps[step + 1]));
+                    }
+                    at = Array.get(at, index);
+                }
+                continue;
+            }
+            Field field = at.getClass().getField(steps[step]);
+            if (last) {
+                field.set(at, parse(field.getType(), value));
+                continue;
+            }
+            if (isIndex(steps[step + 1])) {
+                field.set(at, grown(field.get(at), field.getType(), steps[step + 1]));
+            } else if (field.get(at) == null) {
+                field.set(at, make(field.getType(), steps[step + 1]));
+            }
+            at = field.get(at);
+        }
+    }
+
+    /** Gives the array field at a path a new array of this length; of no length, null. */
+    public static void setLength(Object root, String field, int length)
+            throws ReflectiveOperationException {
+        Field target = root.getClass().getField(field);
+        target.set(root, length < 0
+                ? null : Array.newInstance(target.getType().getComponentType(), length));
+    }
+
+    private static String[] steps(String path) {
+        String plain = path.replace("]", "").replace('[', '.').replaceFirst("^\\.", "");
+        return plain.isEmpty() ? new String[0] : plain.split("\\.");
+    }
+
+    private static boolean isIndex(String step) {
+        return Character.isDigit(step.charAt(0));
+    }
+
+    private static Object make(Class<?> type, String next) throws ReflectiveOperationException {
+        return type.isArray() ? grown(null, type, next) : type.getConstructor().newInstance();
+    }
+
+    private static Object grown(Object array, Class<?> type, String index) {
+        int length = Integer.parseInt(index) + 1;
+        if (array != null && Array.getLength(array) >= length) {
+            return array;
+        }
+        Object longer = Array.newInstance(type.getComponentType(), length);
+        if (array != null) {
+            System.arraycopy(array, 0, longer, 0, Array.getLength(array));
+        }
+        return longer;
+    }
+
+    private static Object parse(Class<?> type, String value) {
+        if (type == int.class) {
+            return Integer.valueOf(value);
+        }
+        if (type == byte.class) {
+            return Byte.valueOf(value);
+        }
+        return value;
+    }
+}

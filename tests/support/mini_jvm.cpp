@@ -1,0 +1,627 @@
+#include "tests/support/mini_jvm.h"
+
+#include <algorithm>
+#include <cstdarg>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+#include "tests/support/recorder.h"
+
+namespace quorvelj::testing {
+
+using Objects = std::vector<void*>;
+
+struct MiniJvm::Member {
+  std::string name;
+  std::string signature;
+  std::size_t index;
+};
+
+struct MiniJvm::Class {
+  std::string name;
+  std::map<std::string, std::unique_ptr<Member>> members;
+  Object* mirror = nullptr;
+};
+
+struct MiniJvm::Object {
+  Class* type = nullptr;
+  Class* mirrored = nullptr;
+  bool input = false;
+  std::vector<Slot> slots;
+  std::variant<std::monostate, std::string, std::vector<jint>, std::vector<jbyte>,
+               std::vector<jshort>, std::vector<Object*>>
+      payload;
+
+  std::string* text() { return std::get_if<std::string>(&payload); }
+  std::vector<Object*>* elements() { return std::get_if<std::vector<Object*>>(&payload); }
+  std::size_t length() const {
+    return std::visit(
+        [](const auto& value) -> std::size_t {
+          if constexpr (std::is_same_v<std::decay_t<decltype(value)>, std::monostate>) {
+            return 0;
+          } else {
+            return value.size();
+          }
+        },
+        payload);
+  }
+};
+
+struct MiniJvm::Reference {
+  Object* object;
+  bool live;
+};
+
+namespace {
+
+constexpr char kText[] = "Ljava/lang/String;";
+constexpr char kBounds[] = "java/lang/ArrayIndexOutOfBoundsException";
+constexpr char kNoMemory[] = "java/lang/OutOfMemoryError";
+
+template <class Pointer>
+Pointer as(jobject reference) {
+  return static_cast<Pointer>(reference);
+}
+
+[[noreturn]] void JNICALL unlisted() {
+  std::fputs("a JNI function that the bridge must not use was called\n", stderr);
+  std::abort();
+}
+
+}  // namespace
+
+/// The JNI functions. Each enters its call, fails where it is to, and does its work otherwise.
+struct MiniJvm::Functions {
+  static MiniJvm& of(JNIEnv* env) { return *reinterpret_cast<Env*>(env)->jvm; }
+
+  static jclass JNICALL findClass(JNIEnv* env, const char* name) {
+    MiniJvm& jvm = of(env);
+    if (jvm.enter(std::string("FindClass ") + name, true) || jvm.isMissing(name)) {
+      jvm.throwNew("java/lang/NoClassDefFoundError", name);
+      return nullptr;
+    }
+    return as<jclass>(jvm.refer(jvm.findClass(name)->mirror));
+  }
+
+  static jclass JNICALL getObjectClass(JNIEnv* env, jobject object) {
+    MiniJvm& jvm = of(env);
+    jvm.enter("GetObjectClass", false);
+    Object* const target = jvm.resolve(object);
+    return target == nullptr ? nullptr : as<jclass>(jvm.refer(target->type->mirror));
+  }
+
+  static Member* member(JNIEnv* env, const char* call, jclass type, const char* name,
+                        const char* signature, const char* error) {
+    MiniJvm& jvm = of(env);
+    const bool fails = jvm.enter(std::string(call) + ' ' + name + ' ' + signature, true);
+    Object* const mirror = jvm.resolve(type);
+    if (fails || mirror == nullptr || mirror->mirrored == nullptr || jvm.isMissing(name)) {
+      jvm.throwNew(error, name);
+      return nullptr;
+    }
+    return jvm.findMember(mirror->mirrored, name, signature);
+  }
+  static jfieldID JNICALL getFieldId(JNIEnv* env, jclass type, const char* name,
+                                     const char* signature) {
+    return reinterpret_cast<jfieldID>(
+        member(env, "GetFieldID", type, name, signature, "java/lang/NoSuchFieldError"));
+  }
+  static jmethodID JNICALL getMethodId(JNIEnv* env, jclass type, const char* name,
+                                       const char* signature) {
+    return reinterpret_cast<jmethodID>(
+        member(env, "GetMethodID", type, name, signature, "java/lang/NoSuchMethodError"));
+  }
+
+  static jobject JNICALL newObjectV(JNIEnv* env, jclass type, jmethodID id, va_list arguments) {
+    MiniJvm& jvm = of(env);
+    if (jvm.enter("NewObject", true)) {
+      jvm.throwNew(kNoMemory);
+      return nullptr;
+    }
+    const auto* const constructor = reinterpret_cast<Member*>(id);
+    Object* const object = jvm.make(jvm.resolve(type)->mirrored);
+    if (constructor->signature == "(I)V") {
+      jvm.slotOf(object, jvm.findMember(object->type, "code", "I")) = {
+          true, va_arg(arguments, jint), nullptr};
+    } else if (constructor->signature == "([BIILjava/lang/String;)V") {
+      Object* const bytes = jvm.resolve(va_arg(arguments, jobject));
+      const auto offset = static_cast<std::size_t>(va_arg(arguments, jint));
+      const auto count = static_cast<std::size_t>(va_arg(arguments, jint));
+      const auto& all = std::get<std::vector<jbyte>>(bytes->payload);
+      if (offset + count > all.size()) {
+        jvm.throwNew("java/lang/StringIndexOutOfBoundsException");
+        return nullptr;
+      }
+      object->payload = std::string(all.begin() + static_cast<std::ptrdiff_t>(offset),
+                                    all.begin() + static_cast<std::ptrdiff_t>(offset + count));
+    }
+    return jvm.refer(object);
+  }
+  static jobject JNICALL newObject(JNIEnv* env, jclass type, jmethodID id, ...) {
+    va_list arguments;
+    va_start(arguments, id);
+    const jobject object = newObjectV(env, type, id, arguments);
+    va_end(arguments);
+    return object;
+  }
+
+  static jint JNICALL throwObject(JNIEnv* env, jthrowable throwable) {
+    MiniJvm& jvm = of(env);
+    jvm.enter("Throw", false);
+    jvm.pending_ = jvm.resolve(throwable);
+    return 0;
+  }
+  static jint JNICALL throwNewObject(JNIEnv* env, jclass type, const char* message) {
+    MiniJvm& jvm = of(env);
+    const std::string& name = jvm.resolve(type)->mirrored->name;
+    if (jvm.enter("ThrowNew " + name + " \"" + message + '"', true)) {
+      jvm.throwNew(kNoMemory);
+      return -1;
+    }
+    jvm.throwNew(name, message);
+    return 0;
+  }
+  static jthrowable JNICALL exceptionOccurred(JNIEnv* env) {
+    MiniJvm& jvm = of(env);
+    jvm.enter("ExceptionOccurred", false);
+    return jvm.pending_ == nullptr ? nullptr : as<jthrowable>(jvm.refer(jvm.pending_));
+  }
+  static void JNICALL deleteLocalRef(JNIEnv* env, jobject reference) {
+    MiniJvm& jvm = of(env);
+    jvm.enter("DeleteLocalRef", false);
+    if (jvm.resolve(reference) != nullptr) {
+      reinterpret_cast<Reference*>(reference)->live = false;
+      --jvm.liveReferences_;
+    }
+  }
+
+  /// The slot of a field access, or null where the access fails.
+  static Slot* access(JNIEnv* env, const char* call, jobject object, jfieldID id,
+                      const char* signature) {
+    MiniJvm& jvm = of(env);
+    const auto* const field = reinterpret_cast<Member*>(id);
+    const bool fails = jvm.enter(call, true);
+    Object* const target = jvm.resolve(object);
+    if (fails || target == nullptr) {
+      jvm.throwNew("java/lang/InternalError");
+      return nullptr;
+    }
+    const bool reference = field->signature[0] == 'L' || field->signature[0] == '[';
+    if (reference ? *signature != 'L' : field->signature != signature) {
+      ++jvm.misuses_;
+    }
+    Slot& slot = jvm.slotOf(target, field);
+    if (!slot.set && *call == 'G' && (target->input || field->signature == "[B")) {
+      slot.set = true;
+      if (reference) {
+        slot.object = jvm.makeInput(field->signature);
+      } else {
+        slot.number = static_cast<jint>(0x01020304 + field->index);
+      }
+    }
+    return &slot;
+  }
+  static jint JNICALL getIntField(JNIEnv* env, jobject object, jfieldID id) {
+    const Slot* const slot = access(env, "GetIntField", object, id, "I");
+    return slot == nullptr ? 0 : slot->number;
+  }
+  static jshort JNICALL getShortField(JNIEnv* env, jobject object, jfieldID id) {
+    const Slot* const slot = access(env, "GetShortField", object, id, "S");
+    return slot == nullptr ? jshort{0} : static_cast<jshort>(slot->number);
+  }
+  static jobject JNICALL getObjectField(JNIEnv* env, jobject object, jfieldID id) {
+    const Slot* const slot = access(env, "GetObjectField", object, id, "L");
+    return slot == nullptr ? nullptr : of(env).refer(slot->object);
+  }
+  static void store(Slot* slot, jint number, Object* object) {
+    if (slot != nullptr) {
+      *slot = {true, number, object};
+    }
+  }
+  static void JNICALL setIntField(JNIEnv* env, jobject object, jfieldID id, jint value) {
+    store(access(env, "SetIntField", object, id, "I"), value, nullptr);
+  }
+  static void JNICALL setShortField(JNIEnv* env, jobject object, jfieldID id, jshort value) {
+    store(access(env, "SetShortField", object, id, "S"), value, nullptr);
+  }
+  static void JNICALL setObjectField(JNIEnv* env, jobject object, jfieldID id, jobject value) {
+    Slot* const slot = access(env, "SetObjectField", object, id, "L");
+    store(slot, 0, value == nullptr ? nullptr : of(env).resolve(value));
+  }
+
+  static jstring JNICALL newStringUtf(JNIEnv* env, const char* text) {
+    MiniJvm& jvm = of(env);
+    if (jvm.enter("NewStringUTF " + std::string(text), true)) {
+      jvm.throwNew(kNoMemory);
+      return nullptr;
+    }
+    return jvm.newText(text);
+  }
+  static jsize JNICALL getStringUtfLength(JNIEnv* env, jstring text) {
+    MiniJvm& jvm = of(env);
+    jvm.enter("GetStringUTFLength", false);
+    return static_cast<jsize>(jvm.resolve(text)->length());
+  }
+  static const char* JNICALL getStringUtfChars(JNIEnv* env, jstring text, jboolean*) {
+    MiniJvm& jvm = of(env);
+    if (jvm.enter("GetStringUTFChars", true)) {
+      jvm.throwNew(kNoMemory);
+      return nullptr;
+    }
+    const std::string& source = *jvm.resolve(text)->text();
+    auto* const copy = new char[source.size() + 1];
+    std::memcpy(copy, source.c_str(), source.size() + 1);
+    ++jvm.unreleased_;
+    return copy;
+  }
+  static void JNICALL releaseStringUtfChars(JNIEnv* env, jstring, const char* characters) {
+    of(env).enter("ReleaseStringUTFChars", false);
+    --of(env).unreleased_;
+    delete[] characters;
+  }
+
+  static jsize JNICALL getArrayLength(JNIEnv* env, jarray array) {
+    MiniJvm& jvm = of(env);
+    jvm.enter("GetArrayLength", false);
+    return static_cast<jsize>(jvm.resolve(array)->length());
+  }
+  /// A new array of `length` elements of one payload type.
+  template <class Payload, class Array>
+  static Array newArray(JNIEnv* env, const char* call, const char* className, jsize length) {
+    MiniJvm& jvm = of(env);
+    if (jvm.enter(std::string(call) + ' ' + std::to_string(length), true) || length < 0) {
+      jvm.throwNew(length < 0 ? "java/lang/NegativeArraySizeException" : kNoMemory);
+      return nullptr;
+    }
+    Object* const object = jvm.make(jvm.findClass(className));
+    object->payload = Payload(static_cast<std::size_t>(length));
+    return as<Array>(jvm.refer(object));
+  }
+  static jintArray JNICALL newIntArray(JNIEnv* env, jsize length) {
+    return newArray<std::vector<jint>, jintArray>(env, "NewIntArray", "[I", length);
+  }
+  static jshortArray JNICALL newShortArray(JNIEnv* env, jsize length) {
+    return newArray<std::vector<jshort>, jshortArray>(env, "NewShortArray", "[S", length);
+  }
+  static jbyteArray JNICALL newByteArray(JNIEnv* env, jsize length) {
+    return newArray<std::vector<jbyte>, jbyteArray>(env, "NewByteArray", "[B", length);
+  }
+  static jobjectArray JNICALL newObjectArray(JNIEnv* env, jsize length, jclass type, jobject) {
+    const std::string element = of(env).resolve(type)->mirrored->name;
+    const std::string name = element[0] == '[' ? '[' + element : "[L" + element + ';';
+    return newArray<std::vector<Object*>, jobjectArray>(env, "NewObjectArray", name.c_str(),
+                                                        length);
+  }
+
+  /// The elements of a region, or null with the exception where it cannot be accessed.
+  template <class Payload>
+  static typename Payload::value_type* region(JNIEnv* env, const char* call, jarray array,
+                                              jsize start, jsize count) {
+    MiniJvm& jvm = of(env);
+    const bool fails = jvm.enter(std::string(call) + ' ' + std::to_string(count), true);
+    Object* const target = jvm.resolve(array);
+    auto* const payload = target == nullptr ? nullptr : std::get_if<Payload>(&target->payload);
+    if (payload == nullptr) {
+      ++jvm.misuses_;
+      return nullptr;
+    }
+    if (fails || start < 0 || count < 0 ||
+        static_cast<std::size_t>(start) + static_cast<std::size_t>(count) > payload->size()) {
+      jvm.throwNew(kBounds);
+      return nullptr;
+    }
+    return payload->data() + start;
+  }
+  template <class Payload, class Value>
+  static void getRegion(JNIEnv* env, const char* call, jarray array, jsize start, jsize count,
+                        Value* values) {
+    const Value* const first = region<Payload>(env, call, array, start, count);
+    if (first != nullptr) {
+      std::copy_n(first, count, values);
+    }
+  }
+  template <class Payload, class Value>
+  static void setRegion(JNIEnv* env, const char* call, jarray array, jsize start, jsize count,
+                        const Value* values) {
+    Value* const first = region<Payload>(env, call, array, start, count);
+    if (first != nullptr) {
+      std::copy_n(values, count, first);
+    }
+  }
+  static void JNICALL getIntRegion(JNIEnv* env, jintArray array, jsize start, jsize count,
+                                   jint* values) {
+    getRegion<std::vector<jint>>(env, "GetIntArrayRegion", array, start, count, values);
+  }
+  static void JNICALL setIntRegion(JNIEnv* env, jintArray array, jsize start, jsize count,
+                                   const jint* values) {
+    setRegion<std::vector<jint>>(env, "SetIntArrayRegion", array, start, count, values);
+  }
+  static void JNICALL getShortRegion(JNIEnv* env, jshortArray array, jsize start, jsize count,
+                                     jshort* values) {
+    getRegion<std::vector<jshort>>(env, "GetShortArrayRegion", array, start, count, values);
+  }
+  static void JNICALL setShortRegion(JNIEnv* env, jshortArray array, jsize start, jsize count,
+                                     const jshort* values) {
+    setRegion<std::vector<jshort>>(env, "SetShortArrayRegion", array, start, count, values);
+  }
+  static void JNICALL getByteRegion(JNIEnv* env, jbyteArray array, jsize start, jsize count,
+                                    jbyte* values) {
+    getRegion<std::vector<jbyte>>(env, "GetByteArrayRegion", array, start, count, values);
+  }
+  static void JNICALL setByteRegion(JNIEnv* env, jbyteArray array, jsize start, jsize count,
+                                    const jbyte* values) {
+    setRegion<std::vector<jbyte>>(env, "SetByteArrayRegion", array, start, count, values);
+  }
+
+  static jint* JNICALL getIntElements(JNIEnv* env, jintArray array, jboolean*) {
+    MiniJvm& jvm = of(env);
+    if (jvm.enter("GetIntArrayElements", true)) {
+      jvm.throwNew(kNoMemory);
+      return nullptr;
+    }
+    const auto& source = std::get<std::vector<jint>>(jvm.resolve(array)->payload);
+    auto* const copy = new jint[source.size()];
+    std::copy(source.begin(), source.end(), copy);
+    ++jvm.unreleased_;
+    return copy;
+  }
+  static void JNICALL releaseIntElements(JNIEnv* env, jintArray array, jint* elements, jint) {
+    MiniJvm& jvm = of(env);
+    jvm.enter("ReleaseIntArrayElements", false);
+    auto& target = std::get<std::vector<jint>>(jvm.resolve(array)->payload);
+    std::copy_n(elements, target.size(), target.begin());
+    --jvm.unreleased_;
+    delete[] elements;
+  }
+
+  /// The place of an element, or null with the exception where there is none.
+  static Object** element(JNIEnv* env, const char* call, jobjectArray array, jsize index) {
+    MiniJvm& jvm = of(env);
+    const bool fails = jvm.enter(call, true);
+    auto& elements = *jvm.resolve(array)->elements();
+    if (fails || index < 0 || static_cast<std::size_t>(index) >= elements.size()) {
+      jvm.throwNew(kBounds);
+      return nullptr;
+    }
+    return &elements[static_cast<std::size_t>(index)];
+  }
+  static jobject JNICALL getElement(JNIEnv* env, jobjectArray array, jsize index) {
+    Object** const place = element(env, "GetObjectArrayElement", array, index);
+    return place == nullptr ? nullptr : of(env).refer(*place);
+  }
+  static void JNICALL setElement(JNIEnv* env, jobjectArray array, jsize index, jobject value) {
+    Object** const place = element(env, "SetObjectArrayElement", array, index);
+    if (place != nullptr) {
+      *place = value == nullptr ? nullptr : of(env).resolve(value);
+    }
+  }
+};
+
+MiniJvm::MiniJvm() : env_{}, table_(std::make_unique<JNINativeInterface_>()) {
+  JNINativeInterface_& table = *table_;
+  auto* const entries = reinterpret_cast<void (*(*))()>(&table);
+  std::fill_n(entries, sizeof table / sizeof *entries, reinterpret_cast<void (*)()>(&unlisted));
+  table.FindClass = &Functions::findClass;
+  table.GetObjectClass = &Functions::getObjectClass;
+  table.GetFieldID = &Functions::getFieldId;
+  table.GetMethodID = &Functions::getMethodId;
+  table.NewObject = &Functions::newObject;
+  table.NewObjectV = &Functions::newObjectV;
+  table.Throw = &Functions::throwObject;
+  table.ThrowNew = &Functions::throwNewObject;
+  table.ExceptionOccurred = &Functions::exceptionOccurred;
+  table.DeleteLocalRef = &Functions::deleteLocalRef;
+  table.GetIntField = &Functions::getIntField;
+  table.GetShortField = &Functions::getShortField;
+  table.GetObjectField = &Functions::getObjectField;
+  table.SetIntField = &Functions::setIntField;
+  table.SetShortField = &Functions::setShortField;
+  table.SetObjectField = &Functions::setObjectField;
+  table.NewStringUTF = &Functions::newStringUtf;
+  table.GetStringUTFLength = &Functions::getStringUtfLength;
+  table.GetStringUTFChars = &Functions::getStringUtfChars;
+  table.ReleaseStringUTFChars = &Functions::releaseStringUtfChars;
+  table.GetArrayLength = &Functions::getArrayLength;
+  table.NewObjectArray = &Functions::newObjectArray;
+  table.GetObjectArrayElement = &Functions::getElement;
+  table.SetObjectArrayElement = &Functions::setElement;
+  table.NewIntArray = &Functions::newIntArray;
+  table.NewShortArray = &Functions::newShortArray;
+  table.NewByteArray = &Functions::newByteArray;
+  table.GetIntArrayElements = &Functions::getIntElements;
+  table.ReleaseIntArrayElements = &Functions::releaseIntElements;
+  table.GetIntArrayRegion = &Functions::getIntRegion;
+  table.SetIntArrayRegion = &Functions::setIntRegion;
+  table.GetShortArrayRegion = &Functions::getShortRegion;
+  table.SetShortArrayRegion = &Functions::setShortRegion;
+  table.GetByteArrayRegion = &Functions::getByteRegion;
+  table.SetByteArrayRegion = &Functions::setByteRegion;
+  env_.env.functions = table_.get();
+  env_.jvm = this;
+}
+
+MiniJvm::~MiniJvm() = default;
+
+bool MiniJvm::isMissing(const std::string& name) const {
+  return std::find(missing_.begin(), missing_.end(), name) != missing_.end();
+}
+
+bool MiniJvm::enter(const std::string& event, bool fallible) {
+  ++calls_;
+  recorder().add(event);
+  return fallible && ++fallibleCalls_ == failingCall_;
+}
+
+MiniJvm::Class* MiniJvm::findClass(const std::string& name) {
+  std::unique_ptr<Class>& type = classes_[name];
+  if (type == nullptr) {
+    type = std::make_unique<Class>();
+    type->name = name;
+    type->mirror = make(nullptr);
+    type->mirror->mirrored = type.get();
+  }
+  return type.get();
+}
+
+MiniJvm::Member* MiniJvm::findMember(Class* type, const std::string& name,
+                                     const std::string& signature) {
+  std::unique_ptr<Member>& member = type->members[name + ' ' + signature];
+  if (member == nullptr) {
+    member = std::make_unique<Member>(Member{name, signature, type->members.size() - 1});
+  }
+  return member.get();
+}
+
+MiniJvm::Object* MiniJvm::make(Class* type) {
+  Object& object = objects_.emplace_back();
+  object.type = type;
+  return &object;
+}
+
+MiniJvm::Object* MiniJvm::makeInput(const std::string& signature) {
+  if (profile.nulls) {
+    return nullptr;
+  }
+  Object* const object = make(findClass("Input"));
+  if (signature == kText) {
+    object->type = findClass("java/lang/String");
+    object->payload = profile.text;
+  } else if (signature == "[I") {
+    object->payload = std::vector<jint>(profile.primitives, 0x01020381);
+  } else if (signature == "[B") {
+    object->payload = std::vector<jbyte>(profile.primitives, jbyte{0x42});
+  } else if (signature == "[S") {
+    object->payload = std::vector<jshort>(profile.primitives, jshort{1234});
+  } else if (signature[0] == '[') {
+    std::vector<Object*> elements(profile.objects);
+    std::generate(elements.begin(), elements.end(), [&] { return makeInput(signature.substr(1)); });
+    object->payload = std::move(elements);
+  } else {
+    object->input = true;
+  }
+  return object;
+}
+
+MiniJvm::Object* MiniJvm::makeThrowable(const std::string& className, const std::string& message,
+                                        jint code) {
+  Object* const throwable = make(findClass(className));
+  throwable->payload = message;
+  slotOf(throwable, findMember(throwable->type, "code", "I")).number = code;
+  return throwable;
+}
+
+void MiniJvm::throwNew(const std::string& className, const std::string& message) {
+  pending_ = makeThrowable(className, message);
+}
+
+std::optional<PendingException> MiniJvm::pending() const {
+  if (pending_ == nullptr) {
+    return std::nullopt;
+  }
+  auto* const self = const_cast<MiniJvm*>(this);
+  const std::string* const message = pending_->text();
+  return PendingException{
+      pending_->type->name, message == nullptr ? "" : *message,
+      self->slotOf(pending_, self->findMember(pending_->type, "code", "I")).number};
+}
+
+jobject MiniJvm::refer(Object* object) {
+  if (object == nullptr) {
+    return nullptr;
+  }
+  mostReferences_ = std::max(mostReferences_, ++liveReferences_);
+  return reinterpret_cast<jobject>(&references_.emplace_back(Reference{object, true}));
+}
+
+MiniJvm::Object* MiniJvm::resolve(jobject reference) {
+  const auto* const known = reinterpret_cast<Reference*>(reference);
+  if (known == nullptr || !known->live) {
+    ++misuses_;
+    return nullptr;
+  }
+  return known->object;
+}
+
+MiniJvm::Slot& MiniJvm::slotOf(Object* object, const Member* member) {
+  if (object->slots.size() <= member->index) {
+    object->slots.resize(member->index + 1);
+  }
+  return object->slots[member->index];
+}
+
+jstring MiniJvm::newText(const std::string& text) {
+  Object* const object = make(findClass("java/lang/String"));
+  object->payload = text;
+  return as<jstring>(refer(object));
+}
+
+jobject MiniJvm::newInput() {
+  Object* const object = make(findClass("Input"));
+  object->input = true;
+  return refer(object);
+}
+
+jvalue MiniJvm::newArgument(const std::string& signature) {
+  jvalue value{};
+  if (signature == "I") {
+    value.i = 3;
+  } else {
+    value.l = refer(makeInput(signature));
+  }
+  return value;
+}
+
+jintArray MiniJvm::newInts(const std::vector<jint>& values) {
+  Object* const object = make(findClass("[I"));
+  object->payload = values;
+  return as<jintArray>(refer(object));
+}
+
+void MiniJvm::setInt(jobject object, const std::string& name, jint value) {
+  Object* const target = resolve(object);
+  slotOf(target, findMember(target->type, name, "I")) = {true, value, nullptr};
+}
+
+void MiniJvm::setObject(jobject object, const std::string& name, const std::string& signature,
+                        jobject value) {
+  Object* const target = resolve(object);
+  slotOf(target, findMember(target->type, name, signature)) = {
+      true, 0, value == nullptr ? nullptr : resolve(value)};
+}
+
+MiniJvm::Slot& MiniJvm::namedSlot(jobject object, const std::string& name) {
+  Object* const target = resolve(object);
+  for (const auto& [key, member] : target->type->members) {
+    if (member->name == name && slotOf(target, member.get()).set) {
+      return slotOf(target, member.get());
+    }
+  }
+  std::fprintf(stderr, "no field %s was set\n", name.c_str());
+  std::abort();
+}
+
+jint MiniJvm::intOf(jobject object, const std::string& name) {
+  return namedSlot(object, name).number;
+}
+jobject MiniJvm::objectOf(jobject object, const std::string& name) {
+  return refer(namedSlot(object, name).object);
+}
+std::string MiniJvm::textOf(jobject object, const std::string& name) {
+  return *namedSlot(object, name).object->text();
+}
+std::vector<jint> MiniJvm::intsOf(jobject array) {
+  return std::get<std::vector<jint>>(resolve(array)->payload);
+}
+std::vector<jbyte> MiniJvm::bytesOf(jobject array) {
+  return std::get<std::vector<jbyte>>(resolve(array)->payload);
+}
+std::vector<jobject> MiniJvm::elementsOf(jobject array) {
+  std::vector<jobject> elements;
+  for (Object* const element : *resolve(array)->elements()) {
+    elements.push_back(refer(element));
+  }
+  return elements;
+}
+
+}  // namespace quorvelj::testing

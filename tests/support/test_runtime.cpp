@@ -1,0 +1,103 @@
+#include "tests/support/test_runtime.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
+#include <map>
+#include <string>
+
+#include "bridge/runtime.h"
+#include "tests/support/recorder.h"
+
+namespace quorvelj::testing {
+namespace {
+
+constexpr std::size_t kGuardBytes = 16;
+constexpr int kGuard = 0xC3;
+constexpr int kFresh = 0xA5;
+
+std::map<void*, std::size_t>& liveBlocks() {
+  static std::map<void*, std::size_t> blocks;
+  return blocks;
+}
+
+bool guarded(const unsigned char* guard) {
+  return std::all_of(guard, guard + kGuardBytes, [](unsigned char byte) { return byte == kGuard; });
+}
+
+void* allocateGuarded(std::size_t bytes, int fill) {
+  if (++testRuntime().allocations == testRuntime().refusedAllocation || bytes > SIZE_MAX / 2) {
+    return nullptr;
+  }
+  auto* const block = static_cast<unsigned char*>(std::malloc(bytes + 2 * kGuardBytes));
+  if (block == nullptr) {
+    return nullptr;
+  }
+  std::memset(block, kGuard, bytes + 2 * kGuardBytes);
+  std::memset(block + kGuardBytes, fill, bytes);
+  liveBlocks()[block + kGuardBytes] = bytes;
+  ++testRuntime().liveRecords;
+  return block + kGuardBytes;
+}
+
+}  // namespace
+
+Recorder& recorder() {
+  static Recorder instance;
+  return instance;
+}
+
+TestRuntime& testRuntime() {
+  static TestRuntime instance;
+  return instance;
+}
+
+void resetTestRuntime(int refusedAllocation) {
+  for (const auto& [record, bytes] : liveBlocks()) {
+    std::free(static_cast<unsigned char*>(record) - kGuardBytes);
+  }
+  liveBlocks().clear();
+  testRuntime() = {.refusedAllocation = refusedAllocation};
+}
+
+}  // namespace quorvelj::testing
+
+namespace quorvelj {
+
+using testing::recorder;
+using testing::testRuntime;
+
+void* allocateRecord(std::size_t bytes) {
+  recorder().add("malloc " + std::to_string(bytes));
+  return testing::allocateGuarded(bytes, testing::kFresh);
+}
+
+void* allocateZeroedRecords(std::size_t count, std::size_t bytes) {
+  recorder().add("calloc " + std::to_string(count) + " x " + std::to_string(bytes));
+  return bytes != 0 && count > SIZE_MAX / bytes ? nullptr
+                                                : testing::allocateGuarded(count * bytes, 0);
+}
+
+void releaseRecord(void* record) {
+  recorder().add(record == nullptr ? "free null" : "free");
+  if (record == nullptr) {
+    return;
+  }
+  const auto found = testing::liveBlocks().find(record);
+  if (found == testing::liveBlocks().end()) {
+    ++testRuntime().damaged;
+    return;
+  }
+  auto* const bytes = static_cast<unsigned char*>(record);
+  if (!testing::guarded(bytes - testing::kGuardBytes) || !testing::guarded(bytes + found->second)) {
+    ++testRuntime().damaged;
+  }
+  testing::liveBlocks().erase(found);
+  --testRuntime().liveRecords;
+  std::free(bytes - testing::kGuardBytes);
+}
+
+void flushOutput() { recorder().add("flush"); }
+
+}  // namespace quorvelj

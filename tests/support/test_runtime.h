@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstddef>
+
+namespace quorvelj::testing {
+
+/// The bridge's C runtime under test: counts what is allocated, refuses one allocation on demand,
+/// fills new records with 0xA5 and keeps guard bytes around them.
+struct TestRuntime {
+  /// The allocation to refuse, counted from 1; 0 refuses none.
+  int refusedAllocation = 0;
+  int allocations = 0;
+  /// Records not yet released.
+  int liveRecords = 0;
+  /// Records that were written outside of, or released twice.
+  int damaged = 0;
+};
+
+TestRuntime& testRuntime();
+
+/// Begins anew, and frees the records that the calls before left behind.
+void resetTestRuntime(int refusedAllocation = 0);
+
+}  // namespace quorvelj::testing

@@ -1,0 +1,231 @@
+// Every native method, with each JNI call and each allocation failed once, the library's special
+// results, and Java inputs of every kind. What holds after each of them is checked in `check`.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <map>
+#include <set>
+
+#include "simulator/control.h"
+#include "tests/support/mini_jvm.h"
+#include "tests/support/native_methods.h"
+#include "tests/support/test_runtime.h"
+
+namespace quorvelj::testing {
+namespace {
+
+constexpr int kMostFaultsPerPass = 400;
+constexpr int kOrdinaryCode = 1234;
+constexpr char kText[] = "Ljava/lang/String;";
+
+int injectedFaults = 0;
+
+/// What a method does otherwise than its kind.
+struct Departure {
+  jint failureValue = 0;
+  /// Releases its records where one could not be had, as an update does.
+  bool releasesOnRefusal = false;
+  /// Returns null without an exception where there is no memory.
+  bool silentWithoutMemory = false;
+  /// Records that it never releases.
+  int neverReleased = 0;
+};
+
+const Departure& departureOf(const NativeMethod& method) {
+  static const std::map<std::string, Departure> departures{
+      {"QV_GetUnitCount", {.failureValue = -1}},
+      {"QV_DiscoverUnitInformation", {.releasesOnRefusal = true}},
+      {"QV_DiscoverUnitInformationEx", {.releasesOnRefusal = true}},
+      {"QV_GetUnitParamTable", {.silentWithoutMemory = true}},
+  };
+  static const Departure regular;
+  const auto found = departures.find(method.name);
+  return found == departures.end() ? regular : found->second;
+}
+
+struct Fault {
+  int jniCall = 0;
+  int allocation = 0;
+  int libraryResult = 0;
+  int nullArgument = -1;
+  InputProfile inputs{};
+  std::vector<unsigned char> output{};
+};
+
+struct Outcome {
+  jvalue result{};
+  std::optional<PendingException> pending;
+  int fallibleCalls = 0;
+  int allocations = 0;
+  int leakedRecords = 0;
+  int libraryCalls = 0;
+  int newReferences = 0;
+};
+
+Outcome play(const NativeMethod& method, const Fault& fault) {
+  quorvelSimReset();
+  quorvelSimForceResult("*", fault.libraryResult, 1);
+  quorvelSimPrepareOutput("*", fault.output.data(), fault.output.size());
+  resetTestRuntime(fault.allocation);
+  MiniJvm jvm;
+  jvm.profile = fault.inputs;
+  std::vector<jvalue> arguments;
+  for (const std::string& type : method.argumentTypes()) {
+    arguments.push_back(jvm.newArgument(type));
+  }
+  if (fault.nullArgument >= 0) {
+    arguments[static_cast<std::size_t>(fault.nullArgument)].l = nullptr;
+  }
+  const int references = jvm.liveReferences();
+  jvm.failCall(fault.jniCall);
+
+  Outcome outcome;
+  outcome.result = method.invoke(jvm.env(), arguments);
+  outcome.pending = jvm.pending();
+  outcome.fallibleCalls = jvm.fallibleCalls();
+  outcome.allocations = testRuntime().allocations;
+  outcome.leakedRecords = testRuntime().liveRecords;
+  outcome.libraryCalls = quorvelSimCallCount("*");
+  outcome.newReferences = jvm.liveReferences() - references;
+
+  ++injectedFaults;
+  EXPECT_EQ(testRuntime().damaged, 0) << "a record was written outside of, or released twice";
+  EXPECT_EQ(jvm.misuses(), 0) << "a dead, null or wrong reference was used";
+  EXPECT_EQ(jvm.unreleased(), 0) << "characters or elements were not released";
+  EXPECT_LE(outcome.libraryCalls, 1);
+  if (method.resultKind() == 'L' && outcome.result.l == nullptr && fault.allocation == 0 &&
+      fault.libraryResult != 256) {
+    EXPECT_TRUE(outcome.pending) << "null without an exception";
+  }
+  return outcome;
+}
+
+void expectFailureValue(const NativeMethod& method, const Outcome& outcome) {
+  if (method.resultKind() == 'L') {
+    EXPECT_EQ(outcome.result.l, nullptr);
+  } else if (method.resultKind() == 'I') {
+    EXPECT_EQ(outcome.result.i, departureOf(method).failureValue);
+  }
+}
+
+void expectCode(const Outcome& outcome, int code) {
+  if (code == 256) {
+    EXPECT_FALSE(outcome.pending);
+    return;
+  }
+  ASSERT_TRUE(outcome.pending);
+  if (code == 65535) {
+    EXPECT_EQ(outcome.pending->className, "java/lang/OutOfMemoryError");
+    EXPECT_EQ(outcome.pending->message, "");
+  } else {
+    EXPECT_EQ(outcome.pending->className, "tessaly/str/diskarray/DiskArrayException");
+    EXPECT_EQ(outcome.pending->code, code);
+  }
+}
+
+class Sweep : public ::testing::TestWithParam<NativeMethod> {
+ protected:
+  ~Sweep() override { resetTestRuntime(); }
+  static void TearDownTestSuite() {
+    std::printf("sweep: %zu native methods, %d faults and inputs injected\n",
+                nativeMethods().size(), injectedFaults);
+  }
+};
+
+TEST_P(Sweep, Succeeds) {
+  const NativeMethod& method = GetParam();
+  // Once on records of zeros, once on records without a NUL in any text.
+  for (const auto& output : {std::vector<unsigned char>{}, std::vector<unsigned char>(1 << 20, 0xFF)}) {
+    const Outcome outcome = play(method, {.output = output});
+    EXPECT_FALSE(outcome.pending);
+    EXPECT_EQ(outcome.libraryCalls, 1);
+    EXPECT_EQ(outcome.leakedRecords, departureOf(method).neverReleased);
+    EXPECT_EQ(outcome.newReferences, method.resultKind() == 'L' ? 1 : 0);
+    EXPECT_TRUE(method.resultKind() != 'L' || outcome.result.l != nullptr);
+  }
+}
+
+TEST_P(Sweep, LibraryResults) {
+  for (const int code : {256, 65535, -1, kOrdinaryCode}) {
+    SCOPED_TRACE("library result " + std::to_string(code));
+    const Outcome outcome = play(GetParam(), {.libraryResult = code});
+    expectCode(outcome, code);
+    expectFailureValue(GetParam(), outcome);
+    EXPECT_EQ(outcome.leakedRecords, departureOf(GetParam()).neverReleased);
+  }
+}
+
+TEST_P(Sweep, EachJniCallFails) {
+  for (const int code : {0, kOrdinaryCode}) {
+    const int calls = play(GetParam(), {.libraryResult = code}).fallibleCalls;
+    const int faults = std::min(calls, kMostFaultsPerPass);
+    for (int fault = 0; fault < faults; ++fault) {
+      // Evenly over the calls, the first and the last included.
+      const int call = 1 + (faults == 1 ? 0 : fault * (calls - 1) / (faults - 1));
+      SCOPED_TRACE("JNI call " + std::to_string(call) + " of " + std::to_string(calls));
+      const Outcome outcome = play(GetParam(), {.jniCall = call, .libraryResult = code});
+      EXPECT_EQ(outcome.libraryCalls, 1);
+      EXPECT_EQ(outcome.leakedRecords, departureOf(GetParam()).neverReleased);
+      if (code != 0) {
+        expectFailureValue(GetParam(), outcome);
+        EXPECT_TRUE(outcome.pending);
+      }
+    }
+  }
+}
+
+TEST_P(Sweep, EachAllocationFails) {
+  const NativeMethod& method = GetParam();
+  const int allocations = play(method, {}).allocations;
+  for (int allocation = 1; allocation <= allocations; ++allocation) {
+    SCOPED_TRACE("allocation " + std::to_string(allocation));
+    const Outcome outcome = play(method, {.allocation = allocation});
+    expectCode(outcome, departureOf(method).silentWithoutMemory ? 256 : 65535);
+    expectFailureValue(method, outcome);
+    EXPECT_EQ(outcome.libraryCalls, 0);
+    const bool releases = method.resultKind() == 'V' || departureOf(method).releasesOnRefusal;
+    EXPECT_EQ(outcome.leakedRecords, releases ? 0 : allocation - 1);
+  }
+}
+
+TEST_P(Sweep, EachArgumentIsNull) {
+  const std::vector<std::string> types = GetParam().argumentTypes();
+  for (std::size_t index = 0; index < types.size(); ++index) {
+    if (types[index] == "I") {
+      continue;
+    }
+    SCOPED_TRACE("argument " + std::to_string(index));
+    const Outcome outcome = play(GetParam(), {.nullArgument = static_cast<int>(index)});
+    if (types[index] == kText) {
+      expectCode(outcome, 258);
+      expectFailureValue(GetParam(), outcome);
+      EXPECT_EQ(outcome.allocations, 0);
+      EXPECT_EQ(outcome.libraryCalls, 0);
+    } else {
+      EXPECT_EQ(outcome.libraryCalls, 1);
+      EXPECT_EQ(outcome.leakedRecords, departureOf(GetParam()).neverReleased);
+    }
+  }
+}
+
+TEST_P(Sweep, AnyJavaInput) {
+  const std::string longText(10'000, 'x');
+  for (const InputProfile& inputs : {
+           InputProfile{.text = "", .primitives = 0, .objects = 0},
+           InputProfile{.text = "x", .primitives = 1, .objects = 1},
+           InputProfile{.text = longText, .primitives = 20'000, .objects = 10'000},
+       }) {
+    SCOPED_TRACE("arrays of " + std::to_string(inputs.primitives));
+    const Outcome outcome = play(GetParam(), {.inputs = inputs});
+    EXPECT_EQ(outcome.libraryCalls, 1);
+    EXPECT_EQ(outcome.leakedRecords, departureOf(GetParam()).neverReleased);
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(NativeMethods, Sweep,
+                         ::testing::ValuesIn(nativeMethods().begin(), nativeMethods().end()),
+                         [](const auto& parameter) { return parameter.param.name; });
+
+}  // namespace
+}  // namespace quorvelj::testing
