@@ -4,8 +4,9 @@
 #include <cstdint>
 
 // Records are plain structs in natural C layout, little-endian, without pointers, so that they are
-// the same on 32 and on 64 bits. A member's type says how the bridge converts it; bridge/class_map.h
-// has the table. `char` is text, `std::byte` raw bytes, `std::int8_t` and `std::uint8_t` numbers.
+// the same on 32 and on 64 bits. A member's type says how the bridge converts it;
+// bridge/class_map.h has the table. `char` is text, `std::byte` raw bytes, `std::int8_t` and
+// `std::uint8_t` numbers.
 
 namespace quorvelj {
 
@@ -19,13 +20,13 @@ struct ClassOf;
 
 /// Fixes the size of a record in bytes and ties it to the Java class of its name. The class map is
 /// defined beside the methods that use it.
-#define QUORVEL_RECORD(Record, bytes)                                                     \
-  static_assert(sizeof(Record) == (bytes), "the size of " #Record);                       \
-  template <>                                                                             \
-  struct quorvelj::ClassOf<Record> {                                                      \
-    static constexpr char kName[] = "tessaly/str/diskarray/" #Record;                     \
-    static constexpr char kArraySignature[] = "[[[Ltessaly/str/diskarray/" #Record ";";   \
-    static const ClassMap kMap;                                                           \
+#define QUORVEL_RECORD(Record, bytes)                                                   \
+  static_assert(sizeof(Record) == (bytes), "the size of " #Record);                     \
+  template <>                                                                           \
+  struct quorvelj::ClassOf<Record> {                                                    \
+    static constexpr char kName[] = "tessaly/str/diskarray/" #Record;                   \
+    static constexpr char kArraySignature[] = "[[[Ltessaly/str/diskarray/" #Record ";"; \
+    static const ClassMap kMap;                                                         \
   }
 
 /// Fixes the place of a member in bytes.

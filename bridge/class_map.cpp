@@ -18,7 +18,9 @@ Value valueAt(const std::byte* at) {
 }
 
 /// The ints of a record, which lie on a boundary of their own.
-const std::int32_t* intsAt(const std::byte* at) { return reinterpret_cast<const std::int32_t*>(at); }
+const std::int32_t* intsAt(const std::byte* at) {
+  return reinterpret_cast<const std::int32_t*>(at);
+}
 std::int32_t* intsAt(std::byte* at) { return reinterpret_cast<std::int32_t*>(at); }
 const std::int8_t* bytesAt(const std::byte* at) { return reinterpret_cast<const std::int8_t*>(at); }
 std::int8_t* bytesAt(std::byte* at) { return reinterpret_cast<std::int8_t*>(at); }
@@ -152,10 +154,10 @@ int setField(JNIEnv* env, jobject object, const Field& field, const std::byte* a
   }
   if (field.kind == FieldKind::kText) {
     return withTexts(textAt(at), field.extents[0], field.elementBytes,
-                               [&](const char* texts, std::size_t stride) {
-                                 return setStringArrayField(env, object, field.name, texts,
-                                                            lengthOf(field, 0), stride);
-                               });
+                     [&](const char* texts, std::size_t stride) {
+                       return setStringArrayField(env, object, field.name, texts,
+                                                  lengthOf(field, 0), stride);
+                     });
   }
   return storeNew(env, object, field, newArray(env, field, 0, at));
 }
@@ -247,9 +249,9 @@ int getField(JNIEnv* env, jobject object, const Field& field, std::byte* at) {
                                                   lengthOf(field, 1))
                              : kFailed;
     case FieldKind::kInt8:
-      return field.rank == 1 ? getIntArrayFieldAsBytes(env, object, field.name, bytesAt(at),
-                                                       field.extents[0])
-                             : getObject(env, object, field, at);
+      return field.rank == 1
+                 ? getIntArrayFieldAsBytes(env, object, field.name, bytesAt(at), field.extents[0])
+                 : getObject(env, object, field, at);
     default:
       return getObject(env, object, field, at);
   }
@@ -296,8 +298,7 @@ int read(JNIEnv* env, const ClassMap& map, jobject object, void* record) {
     return kNothingToRead;
   }
   for (const Field& field : map.fields) {
-    const int result =
-        getField(env, object, field, static_cast<std::byte*>(record) + field.offset);
+    const int result = getField(env, object, field, static_cast<std::byte*>(record) + field.offset);
     if (result != kOk) {
       return result;
     }

@@ -95,9 +95,9 @@ jobject build(JNIEnv* env, const ClassMap& map, const void* record);
 jobjectArray buildArray(JNIEnv* env, const ClassMap& map, const void* records, jsize length,
                         std::size_t recordBytes);
 
-/// Fills `record` from a Java object. Returns 0; -1 where the object, the record or an object inside
-/// it is missing; 2817 where a field could not be read. Stops at the first failure with the later
-/// members as they were, but goes on behind an object or an element that stopped inside.
+/// Fills `record` from a Java object. Returns 0; -1 where the object, the record or an object
+/// inside it is missing; 2817 where a field could not be read. Stops at the first failure with the
+/// later members as they were, but goes on behind an object or an element that stopped inside.
 int read(JNIEnv* env, const ClassMap& map, jobject object, void* record);
 
 /// Derives the field of a record member of the type `Member`.
@@ -154,17 +154,17 @@ consteval Field fieldOf(const char* name, std::size_t offset) {
   quorvelj::fieldOf<decltype(Record::member)>(#member, offsetof(Record, member))
 
 /// Defines the map of a record's own class from its members in fill order.
-#define QUORVELJ_CLASS(Record, ...)                                                      \
-  static constexpr quorvelj::Field kFieldsOf##Record[] = {                               \
-      QUORVELJ_FOR_EACH(QUORVELJ_FIELD, Record __VA_OPT__(, ) __VA_ARGS__)};             \
-  constinit const quorvelj::ClassMap quorvelj::ClassOf<Record>::kMap {                   \
-    quorvelj::ClassOf<Record>::kName, kFieldsOf##Record                                  \
+#define QUORVELJ_CLASS(Record, ...)                                          \
+  static constexpr quorvelj::Field kFieldsOf##Record[] = {                   \
+      QUORVELJ_FOR_EACH(QUORVELJ_FIELD, Record __VA_OPT__(, ) __VA_ARGS__)}; \
+  constinit const quorvelj::ClassMap quorvelj::ClassOf<Record>::kMap {       \
+    quorvelj::ClassOf<Record>::kName, kFieldsOf##Record                      \
   }
 
 /// Defines `name`, a second map of a record's class, from fields in fill order: a form that fills a
 /// subset or another order than the class's own map.
-#define QUORVELJ_MAP(name, Record, ...)                                    \
-  static constexpr quorvelj::Field name##Fields[] = {__VA_ARGS__};         \
+#define QUORVELJ_MAP(name, Record, ...)                            \
+  static constexpr quorvelj::Field name##Fields[] = {__VA_ARGS__}; \
   constinit const quorvelj::ClassMap name { quorvelj::ClassOf<Record>::kName, name##Fields }
 
 // macro(record, a), macro(record, b), … for up to 256 members.
@@ -177,5 +177,6 @@ consteval Field fieldOf(const char* name, std::size_t offset) {
 #define QUORVELJ_FOR_EACH(macro, record, ...) \
   __VA_OPT__(QUORVELJ_EXPAND(QUORVELJ_FOR_FIRST(macro, record, __VA_ARGS__)))
 #define QUORVELJ_FOR_FIRST(macro, record, member, ...) \
-  macro(record, member) __VA_OPT__(, QUORVELJ_FOR_REST QUORVELJ_PARENTHESES(macro, record, __VA_ARGS__))
+  macro(record, member)                                \
+      __VA_OPT__(, QUORVELJ_FOR_REST QUORVELJ_PARENTHESES(macro, record, __VA_ARGS__))
 #define QUORVELJ_FOR_REST() QUORVELJ_FOR_FIRST

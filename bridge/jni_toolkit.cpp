@@ -77,8 +77,7 @@ jshort toScaledShort(double value) {
 template <class Region>
 int getMatrixField(JNIEnv* env, jobject object, const char* name, const char* signature, jsize rows,
                    Region copyRow) {
-  const auto array =
-      static_cast<jobjectArray>(getObjectField(env, object, name, signature));
+  const auto array = static_cast<jobjectArray>(getObjectField(env, object, name, signature));
   if (array == nullptr) {
     return kFailed;
   }
@@ -302,8 +301,7 @@ int setSjisStringField(JNIEnv* env, jobject object, const char* name, const char
   if (stringType == nullptr) {
     return kFailed;
   }
-  const jmethodID constructor =
-      env->GetMethodID(stringType, "<init>", "([BIILjava/lang/String;)V");
+  const jmethodID constructor = env->GetMethodID(stringType, "<init>", "([BIILjava/lang/String;)V");
   if (constructor == nullptr) {
     return kFailed;
   }

@@ -145,8 +145,8 @@ int setStringArrayField(JNIEnv* env, jobject object, const char* name, const cha
 // Arguments
 
 /// Copies `text` as modified UTF-8 into `buffer` of `length` bytes, cut and terminated as in
-/// `getStringField`. An empty text gives an empty buffer and `kFailed`, and so does a null one, with
-/// which JNI must not be called. Where the characters cannot be had the buffer is left alone.
+/// `getStringField`. An empty text gives an empty buffer and `kFailed`, and so does a null one,
+/// with which JNI must not be called. Where the characters cannot be had the buffer is left alone.
 int copyJavaStringToBuffer(JNIEnv* env, jstring text, char* buffer, std::size_t length);
 
 }  // namespace quorvelj

@@ -37,9 +37,8 @@ jobject finishQuery(JNIEnv* env, int result, const ClassMap& map, void* record) 
 
 jobjectArray finishArrayQuery(JNIEnv* env, int result, const ClassMap& map, void* records,
                               jsize length, std::size_t recordBytes) {
-  return finishWith(env, result, records, [=, &map] {
-    return buildArray(env, map, records, length, recordBytes);
-  });
+  return finishWith(env, result, records,
+                    [=, &map] { return buildArray(env, map, records, length, recordBytes); });
 }
 
 }  // namespace quorvelj

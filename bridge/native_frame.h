@@ -15,7 +15,8 @@
 // The call frames: what every native method does around its one library function. A regular method
 // names the function and its Java arguments in the function's order:
 //
-//   NATIVE_METHOD(jobject, GetUnitParam, jstring unit) { return query(env, QV_GetUnitParam, unit); }
+//   NATIVE_METHOD(jobject, GetUnitParam, jstring unit) { return query(env, QV_GetUnitParam, unit);
+//   }
 //
 // What becomes of an argument follows from the function's parameter in its place:
 //
@@ -35,10 +36,10 @@ namespace quorvelj {
 
 /// Opens the definition of the native method `QV_<Operation>`. The Java class declares it, and the
 /// generated header with it: a signature that differs from Java's does not compile.
-#define NATIVE_METHOD(Result, Operation, ...)                                      \
-  extern "C" JNIEXPORT Result JNICALL                                              \
-  Java_tessaly_str_diskarray_DiskArrayUtilityJNI_QV_1##Operation(JNIEnv* env, jobject \
-                                                                 __VA_OPT__(, ) __VA_ARGS__)
+#define NATIVE_METHOD(Result, Operation, ...)                         \
+  extern "C" JNIEXPORT Result JNICALL                                 \
+      Java_tessaly_str_diskarray_DiskArrayUtilityJNI_QV_1##Operation( \
+          JNIEnv* env, jobject __VA_OPT__(, ) __VA_ARGS__)
 
 /// Allocates an uninitialised record, or returns null.
 template <class Record>
@@ -128,7 +129,9 @@ class Inputs {
   }
   /// Allocates every record; false where any cannot be had.
   bool allocateAll() {
-    return each([](auto&... argument) { return (int{argument.allocate()} & ... & 1) != 0; });
+    bool all = true;
+    each([&all](auto&... argument) { ((all = argument.allocate() && all), ...); });
+    return all;
   }
   void readAll(JNIEnv* env) {
     each([env](auto&... argument) { (argument.read(env), ...); });

@@ -13,6 +13,6 @@ void* allocateZeroedRecords(std::size_t count, std::size_t bytes) {
 
 void releaseRecord(void* record) { std::free(record); }
 
-void flushOutput() { std::fflush(stdout); }
+void flushOutput() { static_cast<void>(std::fflush(stdout)); }
 
 }  // namespace quorvelj

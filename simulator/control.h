@@ -1,6 +1,6 @@
 #pragma once
 
-#include <stddef.h>
+#include <cstddef>
 
 // How a test steers the simulator. `function` is the name of a library function, "QV_GetUnitParam",
 // or "*" for all that were told nothing themselves; `index` counts its parameters from 0.
@@ -12,8 +12,8 @@
 /// Forgets everything: units, sessions, what was forced, prepared and kept, and the observer.
 QUORVEL_API void quorvelSimReset();
 
-/// Makes the next `times` calls of `function` return `result` and do nothing else, but that a result
-/// of 0 fills the outputs with what was prepared, or with zeros.
+/// Makes the next `times` calls of `function` return `result` and do nothing else, but that a
+/// result of 0 fills the outputs with what was prepared, or with zeros.
 QUORVEL_API void quorvelSimForceResult(const char* function, int result, int times);
 
 /// Makes every call of `function` succeed with these bytes as its outputs, which lie behind one

@@ -94,11 +94,11 @@ Value describe(Parameter& parameter) {
     return {Value::Role::kNumber, &parameter, sizeof parameter};
   } else {
     constexpr Value::Role kRole =
-        std::is_same_v<Target, const UnitName>                  ? Value::Role::kUnitName
+        std::is_same_v<Target, const UnitName>                          ? Value::Role::kUnitName
         : std::is_same_v<std::remove_all_extents_t<Target>, const char> ? Value::Role::kText
-        : std::is_same_v<Target, const QVSessionInfo>           ? Value::Role::kSession
-        : std::is_const_v<std::remove_all_extents_t<Target>>    ? Value::Role::kInput
-                                                                : Value::Role::kOutput;
+        : std::is_same_v<Target, const QVSessionInfo>                   ? Value::Role::kSession
+        : std::is_const_v<std::remove_all_extents_t<Target>>            ? Value::Role::kInput
+                                                                        : Value::Role::kOutput;
     return {kRole, const_cast<std::remove_const_t<Target>*>(parameter), sizeof(Target)};
   }
 }
@@ -129,12 +129,11 @@ using ParameterOf = std::tuple_element_t<Index, typename Parameters<Function>::A
 
 }  // namespace quorvelsim
 
-#define SIMULATE(count, function, ...)                                                       \
-  int function(SIMULATE_PARAMETERS_##count(function)) {                                      \
-    return quorvelsim::call(                                                                 \
-        #function,                                                                           \
-        static_cast<quorvelsim::Parameters<decltype(function)>::Handler>(                    \
-            SIMULATE_HANDLER(__VA_ARGS__)) SIMULATE_ARGUMENTS_##count);                      \
+#define SIMULATE(count, function, ...)                                                        \
+  int function(SIMULATE_PARAMETERS_##count(function)) {                                       \
+    return quorvelsim::call(#function,                                                        \
+                            static_cast<quorvelsim::Parameters<decltype(function)>::Handler>( \
+                                SIMULATE_HANDLER(__VA_ARGS__)) SIMULATE_ARGUMENTS_##count);   \
   }
 #define SIMULATE_HANDLER(...) SIMULATE_FIRST(__VA_ARGS__ __VA_OPT__(, ) nullptr)
 #define SIMULATE_FIRST(first, ...) first

@@ -26,9 +26,9 @@ constexpr Station kNetwork[] = {
 constexpr std::int32_t kPort = 2000;
 
 const Station* findStation(const std::string& address) {
-  const auto* const found = std::find_if(
-      std::begin(kNetwork), std::end(kNetwork),
-      [&](const Station& station) { return address == station.address; });
+  const auto* const found =
+      std::find_if(std::begin(kNetwork), std::end(kNetwork),
+                   [&](const Station& station) { return address == station.address; });
   return found == std::end(kNetwork) ? nullptr : found;
 }
 

@@ -134,8 +134,8 @@ TEST_F(ClassMapTest, LongArraysStopAtTheRecordsCapacity) {
 TEST_F(ClassMapTest, ShortArraysAndNullElementsLeaveTheRest) {
   jvm_.profile.objects = 2;
   const jobject object = jvm_.newInput();
-  const jobjectArray list = jvm_.env()->NewObjectArray(
-      1, jvm_.env()->FindClass("tessaly/str/diskarray/Inner"), nullptr);
+  const jobjectArray list =
+      jvm_.env()->NewObjectArray(1, jvm_.env()->FindClass("tessaly/str/diskarray/Inner"), nullptr);
   jvm_.setObject(object, "list", "[Ltessaly/str/diskarray/Inner;", list);
   Sampler record = sample();
   EXPECT_EQ(read(jvm_.env(), kReadSampler, object, &record), 0);
@@ -161,8 +161,8 @@ TEST_F(ClassMapTest, ReadingStopsAtTheFirstFailure) {
 TEST_F(ClassMapTest, BuildingFailsOnAnythingButAText) {
   const Sampler record = sample();
   EXPECT_EQ(build(jvm_.env(), ClassOf<Sampler>::kMap, nullptr), nullptr);
-  for (const char* const field : {"word", "words", "grid", "bytes", "raw", "rawCube", "inner",
-                                  "list", "cube", "number"}) {
+  for (const char* const field :
+       {"word", "words", "grid", "bytes", "raw", "rawCube", "inner", "list", "cube", "number"}) {
     MiniJvm jvm;
     jvm.removeField(field);
     EXPECT_EQ(build(jvm.env(), ClassOf<Sampler>::kMap, &record), nullptr) << field;

@@ -22,8 +22,8 @@ Events operator+(Events left, const Events& right) {
 }
 
 const Events kCopyName{"GetStringUTFLength", "GetStringUTFChars", "ReleaseStringUTFChars"};
-const Events kReadSession{"GetObjectClass",    "GetFieldID session_id [B", "GetObjectField",
-                          "DeleteLocalRef",    "GetByteArrayRegion 32",    "ExceptionOccurred",
+const Events kReadSession{"GetObjectClass", "GetFieldID session_id [B", "GetObjectField",
+                          "DeleteLocalRef", "GetByteArrayRegion 32",    "ExceptionOccurred",
                           "DeleteLocalRef"};
 
 Events readInt(const std::string& name) {
@@ -43,8 +43,8 @@ Events newObject(const std::string& name) {
   return {"FindClass tessaly/str/diskarray/" + name, "GetMethodID <init> ()V", "NewObject",
           "DeleteLocalRef"};
 }
-const Events kThrow{"FindClass tessaly/str/diskarray/DiskArrayException",
-                    "GetMethodID <init> (I)V", "NewObject", "Throw"};
+const Events kThrow{"FindClass tessaly/str/diskarray/DiskArrayException", "GetMethodID <init> (I)V",
+                    "NewObject", "Throw"};
 const Events kThrowOutOfMemory{"FindClass java/lang/OutOfMemoryError",
                                "ThrowNew java/lang/OutOfMemoryError \"\""};
 
@@ -90,24 +90,24 @@ class FrameTrace : public ::testing::Test {
 
 TEST_F(FrameTrace, Query) {
   expectSame(traceMethod("QV_GetAccountBannerAuth", {text("unit"), input()}),
-            Events{"flush"} + kCopyName + Events{"malloc 32"} + kReadSession +
-                Events{"malloc 6004", "QV_GetAccountBannerAuth", "free", "flush"} +
-                newObject("AccountBanner") + setInt("warning_banner_display") +
-                setText("warning_banner", "") + Events{"free", "flush"});
+             Events{"flush"} + kCopyName + Events{"malloc 32"} + kReadSession +
+                 Events{"malloc 6004", "QV_GetAccountBannerAuth", "free", "flush"} +
+                 newObject("AccountBanner") + setInt("warning_banner_display") +
+                 setText("warning_banner", "") + Events{"free", "flush"});
 }
 
 TEST_F(FrameTrace, QueryThatTheLibraryRefuses) {
   quorvelSimForceResult("*", 7, 1);
   expectSame(traceMethod("QV_GetAccountBannerAuth", {text("unit"), input()}),
-            Events{"flush"} + kCopyName + Events{"malloc 32"} + kReadSession +
-                Events{"malloc 6004", "QV_GetAccountBannerAuth", "free", "free"} + kThrow);
+             Events{"flush"} + kCopyName + Events{"malloc 32"} + kReadSession +
+                 Events{"malloc 6004", "QV_GetAccountBannerAuth", "free", "free"} + kThrow);
 }
 
 TEST_F(FrameTrace, QueryWithoutMemoryForItsResult) {
   testRuntime().refusedAllocation = 2;
   expectSame(traceMethod("QV_GetAccountBannerAuth", {text("unit"), input()}),
-            Events{"flush"} + kCopyName + Events{"malloc 32"} + kReadSession +
-                Events{"malloc 6004"} + kThrowOutOfMemory);
+             Events{"flush"} + kCopyName + Events{"malloc 32"} + kReadSession +
+                 Events{"malloc 6004"} + kThrowOutOfMemory);
 }
 
 TEST_F(FrameTrace, NestedObjectsAndArrays) {
@@ -121,34 +121,35 @@ TEST_F(FrameTrace, NestedObjectsAndArrays) {
     expected = expected + Events{"flush"} + newObject("QVAccountRole") + setText("role_name", "") +
                storeElement;
   }
-  expected = expected + Events{"GetObjectClass",
-                               "GetFieldID role_info [Ltessaly/str/diskarray/QVAccountRole;",
-                               "SetObjectField", "ExceptionOccurred", "DeleteLocalRef",
-                               "DeleteLocalRef", "free", "flush"};
+  expected = expected +
+             Events{"GetObjectClass", "GetFieldID role_info [Ltessaly/str/diskarray/QVAccountRole;",
+                    "SetObjectField", "ExceptionOccurred",
+                    "DeleteLocalRef", "DeleteLocalRef",
+                    "free",           "flush"};
   expectSame(traceMethod("QV_GetQVAccountRoleInformation", {text("unit"), input()}), expected);
 }
 
 TEST_F(FrameTrace, Update) {
   expectSame(traceMethod("QV_AddAdditionalUnit", {text("unit"), input(), input()}),
-            Events{"flush"} + kCopyName + Events{"malloc 32", "malloc 4"} + kReadSession +
-                readInt("mode") + Events{"QV_AddAdditionalUnit", "free", "free", "flush"});
+             Events{"flush"} + kCopyName + Events{"malloc 32", "malloc 4"} + kReadSession +
+                 readInt("mode") + Events{"QV_AddAdditionalUnit", "free", "free", "flush"});
 }
 
 TEST_F(FrameTrace, UpdateWithoutMemory) {
   testRuntime().refusedAllocation = 1;
   expectSame(traceMethod("QV_AddAdditionalUnit", {text("unit"), input(), input()}),
-            Events{"flush"} + kCopyName + Events{"malloc 32", "malloc 4"} + kThrowOutOfMemory +
-                Events({"free null", "free"}));
+             Events{"flush"} + kCopyName + Events{"malloc 32", "malloc 4"} + kThrowOutOfMemory +
+                 Events({"free null", "free"}));
 }
 
 TEST_F(FrameTrace, Plain) {
   expectSame(traceMethod("QV_UnitDelete", {text("unit")}),
-            Events{"flush"} + kCopyName + Events{"QV_UnitDelete", "flush"});
+             Events{"flush"} + kCopyName + Events{"QV_UnitDelete", "flush"});
 }
 
 TEST_F(FrameTrace, EmptyNameGoesOn) {
   expectSame(traceMethod("QV_UnitDelete", {text("")}),
-            Events({"flush", "GetStringUTFLength", "QV_UnitDelete", "flush"}));
+             Events({"flush", "GetStringUTFLength", "QV_UnitDelete", "flush"}));
 }
 
 TEST_F(FrameTrace, NullNameIsRefusedFirst) {
@@ -169,10 +170,10 @@ TEST_F(FrameTrace, Value) {
       Events{"flush"} + kCopyName + Events{"malloc 32"} + kReadSession + Events{"library", "free"};
   jint result = 0;
   expectSame(trace([&] { result = value(jvm_.env(), countSomething, name, session, jint{2}); }),
-            head + Events{"flush"});
+             head + Events{"flush"});
   EXPECT_EQ(result, 42);
   expectSame(trace([&] { result = value(jvm_.env(), countSomething, name, session, jint{-9}); }),
-            head + kThrow);
+             head + kThrow);
   EXPECT_EQ(result, 0);
   EXPECT_EQ(jvm_.pending()->code, -9);
 }
@@ -188,13 +189,14 @@ TEST_F(FrameTrace, ArrayResult) {
   const jstring name = jvm_.newText("unit");
   const Events store{"SetObjectArrayElement", "ExceptionOccurred", "DeleteLocalRef"};
   jobjectArray result = nullptr;
-  expectSame(trace([&] { result = query(jvm_.env(), listAccounts, name); }),
-            Events{"flush"} + kCopyName +
-                Events{"malloc 514", "library", "FindClass tessaly/str/diskarray/AccountIdentifier",
-                       "NewObjectArray 2", "DeleteLocalRef", "flush"} +
-                newObject("AccountIdentifier") + setText("user_id", "a") + store +
-                Events{"flush"} + newObject("AccountIdentifier") + setText("user_id", "b") + store +
-                Events{"free", "flush"});
+  expectSame(
+      trace([&] { result = query(jvm_.env(), listAccounts, name); }),
+      Events{"flush"} + kCopyName +
+          Events{"malloc 514", "library", "FindClass tessaly/str/diskarray/AccountIdentifier",
+                 "NewObjectArray 2", "DeleteLocalRef", "flush"} +
+          newObject("AccountIdentifier") + setText("user_id", "a") + store + Events{"flush"} +
+          newObject("AccountIdentifier") + setText("user_id", "b") + store +
+          Events{"free", "flush"});
   EXPECT_EQ(jvm_.textOf(jvm_.elementsOf(result)[1], "user_id"), "b");
 }
 
@@ -207,15 +209,16 @@ TEST_F(FrameTrace, Quiet) {
 TEST_F(FrameTrace, QuietTable) {
   jvalue none{};
   expectSame(traceMethod("QV_GetUnitParamTable", {none}),
-            Events({"calloc 0 x 612", "QV_GetUnitParamTable",
-                    "FindClass tessaly/str/diskarray/QVUnitParam", "NewObjectArray 0",
-                    "DeleteLocalRef", "flush", "free"}));
+             Events({"calloc 0 x 612", "QV_GetUnitParamTable",
+                     "FindClass tessaly/str/diskarray/QVUnitParam", "NewObjectArray 0",
+                     "DeleteLocalRef", "flush", "free"}));
   quorvelSimForceResult("*", 0, 1);
   jvm_.removeClass("tessaly/str/diskarray/QVUnitParam");
   traceMethod("QV_GetUnitParamTable", {none});
   EXPECT_EQ(jvm_.pending()->code, -1);
   none.i = -1;
-  expectSame(traceMethod("QV_GetUnitParamTable", {none}), Events({"calloc 18446744073709551615 x 612"}));
+  expectSame(traceMethod("QV_GetUnitParamTable", {none}),
+             Events({"calloc 18446744073709551615 x 612"}));
 }
 
 TEST_F(FrameTrace, DiscoveryReleasesItsRequestWithoutMemory) {

@@ -136,7 +136,8 @@ class Sweep : public ::testing::TestWithParam<NativeMethod> {
 TEST_P(Sweep, Succeeds) {
   const NativeMethod& method = GetParam();
   // Once on records of zeros, once on records without a NUL in any text.
-  for (const auto& output : {std::vector<unsigned char>{}, std::vector<unsigned char>(1 << 20, 0xFF)}) {
+  for (const auto& output :
+       {std::vector<unsigned char>{}, std::vector<unsigned char>(1 << 20, 0xFF)}) {
     const Outcome outcome = play(method, {.output = output});
     EXPECT_FALSE(outcome.pending);
     EXPECT_EQ(outcome.libraryCalls, 1);

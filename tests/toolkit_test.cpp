@@ -1,11 +1,10 @@
 // What each toolkit operation returns, throws and copies.
-#include "bridge/jni_toolkit.h"
-
 #include <gtest/gtest.h>
 
 #include <array>
 #include <cstring>
 
+#include "bridge/jni_toolkit.h"
 #include "tests/support/mini_jvm.h"
 #include "tests/support/recorder.h"
 #include "tests/support/test_runtime.h"
@@ -39,10 +38,10 @@ TEST_F(Toolkit, ThrowsByCode) {
 
 TEST_F(Toolkit, MissingClassesAreNamed) {
   jvm_.removeClass("tessaly/str/diskarray/DiskArrayException");
-  EXPECT_EQ(thrownBy(7), "java/lang/ClassNotFoundException:tessaly/str/diskarray/DiskArrayException");
-  jvm_.removeClass("java/lang/ClassNotFoundException");
   EXPECT_EQ(thrownBy(7),
-            "java/lang/NoClassDefFoundError:java/lang/ClassNotFoundException");
+            "java/lang/ClassNotFoundException:tessaly/str/diskarray/DiskArrayException");
+  jvm_.removeClass("java/lang/ClassNotFoundException");
+  EXPECT_EQ(thrownBy(7), "java/lang/NoClassDefFoundError:java/lang/ClassNotFoundException");
   EXPECT_EQ(newObjectByName(env_, "tessaly/str/diskarray/DiskArrayException"), nullptr);
   EXPECT_EQ(newObjectArrayByName(env_, "tessaly/str/diskarray/DiskArrayException", 2), nullptr);
 }

@@ -68,12 +68,11 @@ TEST_F(AccountAuthentication, RequestRecords) {
   for (const char* const method : {"QV_CreateAccount", "QV_ChangeAccount"}) {
     inSession(method, "Account", 536,
               {textAt(0, 257, "user_id"), int32At(260, "set_passwd"), textAt(264, 257, "passwd"),
-               int32At(524, "account_type"), int32At(528, "role"),
-               int32At(532, "account_enable")});
+               int32At(524, "account_type"), int32At(528, "role"), int32At(532, "account_enable")});
   }
-  inSession("QV_ChangeOwnUserPassword", "OwnPasswordChange", 771,
-            {textAt(0, 257, "user_id"), textAt(257, 257, "old_passwd"),
-             textAt(514, 257, "new_passwd")});
+  inSession(
+      "QV_ChangeOwnUserPassword", "OwnPasswordChange", 771,
+      {textAt(0, 257, "user_id"), textAt(257, 257, "old_passwd"), textAt(514, 257, "new_passwd")});
   inSession("QV_SetAccountOption", "AccountOption", 16,
             int32sAt(0, {"option_info.password_min_length", "option_info.session_timeout_used",
                          "option_info.session_timeout", "additional_info.keep_alive_time"}));
@@ -97,18 +96,16 @@ TEST_F(AccountAuthentication, ResultRecords) {
               {int32At(0, "role_valid_index"), textAt(4, 257, "role_info[0].role_name"),
                textAt(7971, 257, "role_info[31].role_name")});
   // 21 accounts of 536 bytes.
-  expectBuilt("QV_GetAccountInformation", {unit_, session}, 11428,
-              {textAt(0, 257, "account_info[0].user_id"),
-               textAt(10720, 257, "account_info[20].user_id"),
-               int32At(10980, "account_info[20].set_passwd"),
-               textAt(10984, 257, "account_info[20].passwd"),
-               int32At(11244, "account_info[20].account_type"),
-               int32At(11248, "account_info[20].role"),
-               int32At(11252, "account_info[20].account_enable")});
+  expectBuilt(
+      "QV_GetAccountInformation", {unit_, session}, 11428,
+      {textAt(0, 257, "account_info[0].user_id"), textAt(10720, 257, "account_info[20].user_id"),
+       int32At(10980, "account_info[20].set_passwd"), textAt(10984, 257, "account_info[20].passwd"),
+       int32At(11244, "account_info[20].account_type"), int32At(11248, "account_info[20].role"),
+       int32At(11252, "account_info[20].account_enable")});
   expectBuilt("QV_GetOwnUserPermission", {unit_, session}, 76,
               {int32At(0, "operation_auth[0]"), int32At(32, "operation_auth[8]"),
-               int32At(36, "original_operation_auth[0]"),
-               int32At(68, "original_operation_auth[8]"), int32At(72, "role")});
+               int32At(36, "original_operation_auth[0]"), int32At(68, "original_operation_auth[8]"),
+               int32At(72, "role")});
   const std::vector<Member> banner{int32At(0, "warning_banner_display"),
                                    textAt(4, 6000, "warning_banner")};
   expectBuilt("QV_GetAccountBanner", {unit_}, 6004, banner);
@@ -131,8 +128,9 @@ TEST_F(AccountAuthentication, ShortOrMissingSessionIdentifiers) {
   const jobject session = create("QVSessionInfo");
   setLength(session, "session_id", 31);
   quorvelSimForceResult("QV_LogoutQVAccount", 0, 1);
-  EXPECT_EQ(call("QV_LogoutQVAccount", {unit_, session, create("LogoutOption")}).failure.substr(0, 30),
-            "ArrayIndexOutOfBoundsException");
+  EXPECT_EQ(
+      call("QV_LogoutQVAccount", {unit_, session, create("LogoutOption")}).failure.substr(0, 30),
+      "ArrayIndexOutOfBoundsException");
   EXPECT_EQ(quorvelSimCallCount("QV_LogoutQVAccount"), 1);
   setLength(session, "session_id", -1);
   quorvelSimForceResult("QV_LogoutQVAccount", 0, 1);

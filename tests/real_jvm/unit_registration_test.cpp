@@ -8,10 +8,10 @@ namespace quorvelj::testing {
 namespace {
 
 const std::vector<Member> kUnitParam{
-    textAt(0, 65, "unit_name"),  textAt(65, 17, "group_name"), int8At(82, "connect_type"),
-    int8At(83, "qv_type"),       uint8At(84, "device_type"),   int8At(85, "unit_conf"),
-    int8At(86, "alert"),         textAt(87, 256, "ctl0"),      textAt(343, 256, "ctl1"),
-    textAt(599, 9, "serial"),    int32At(608, "ssl_used"),
+    textAt(0, 65, "unit_name"), textAt(65, 17, "group_name"), int8At(82, "connect_type"),
+    int8At(83, "qv_type"),      uint8At(84, "device_type"),   int8At(85, "unit_conf"),
+    int8At(86, "alert"),        textAt(87, 256, "ctl0"),      textAt(343, 256, "ctl1"),
+    textAt(599, 9, "serial"),   int32At(608, "ssl_used"),
 };
 
 class UnitRegistration : public ::testing::Test {
@@ -48,9 +48,9 @@ TEST_F(UnitRegistration, Records) {
 
   const jobject request = create("DiscoverUnitRequest");
   for (const char* const method : {"QV_DiscoverUnitInformation", "QV_DiscoverUnitInformationEx"}) {
-    expectRead(method, {request}, request, 0, 264,
-               {uint8At(0, "connect_type"), textAt(1, 256, "ip_dev"),
-                int32At(260, "communication_mode")});
+    expectRead(
+        method, {request}, request, 0, 264,
+        {uint8At(0, "connect_type"), textAt(1, 256, "ip_dev"), int32At(260, "communication_mode")});
     expectBuilt(method, {request}, 276,
                 {uint8At(0, "connect_type"), textAt(1, 256, "ip_dev"), uint8At(257, "qv_type"),
                  uint8At(258, "device_type"), uint8At(259, "unit_conf"), uint8At(260, "ctlno"),
@@ -60,8 +60,7 @@ TEST_F(UnitRegistration, Records) {
   const jobject session = create("QVSessionInfo");
   expectBuilt("QV_GetAdditionalUnitInformation", {text("u"), session}, 32,
               int32sAt(0, {"inquiry_time", "polling_time", "time_out", "add_unit_num",
-                           "connect_unit_num", "unit_type", "unit_status",
-                           "unit_status_subcode"}));
+                           "connect_unit_num", "unit_type", "unit_status", "unit_status_subcode"}));
   const jobject additional = create("AdditionalUnitRequest");
   expectRead("QV_AddAdditionalUnit", {text("u"), session, additional}, additional, 2, 4,
              {int32At(0, "mode")});

@@ -21,8 +21,7 @@ Value unpack(const jvalue& argument) {
 template <auto Function>
 struct Invoker;
 
-template <class Result, class... Argument,
-          Result(JNICALL* Function)(JNIEnv*, jobject, Argument...)>
+template <class Result, class... Argument, Result(JNICALL* Function)(JNIEnv*, jobject, Argument...)>
 struct Invoker<Function> {
   static jvalue invoke(JNIEnv* env, const std::vector<jvalue>& arguments) {
     return [&]<std::size_t... Index>(std::index_sequence<Index...>) {
@@ -35,7 +34,8 @@ struct Invoker<Function> {
         result.l = Function(env, nullptr, unpack<Argument>(arguments[Index])...);
       }
       return result;
-    }(std::index_sequence_for<Argument...>{});
+    }
+    (std::index_sequence_for<Argument...>{});
   }
 };
 

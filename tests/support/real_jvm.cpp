@@ -143,23 +143,19 @@ void setLength(jobject object, const char* field, int length) {
 }
 
 std::string get(jobject object, const std::string& path) {
-  return fromJava(callBench("get",
-                            "(Ljava/lang/Object;Ljava/lang/String;)Ljava/lang/String;", object,
-                            text(path)));
+  return fromJava(callBench("get", "(Ljava/lang/Object;Ljava/lang/String;)Ljava/lang/String;",
+                            object, text(path)));
 }
 
 Called call(const char* method, const std::vector<jobject>& arguments) {
-  const jobjectArray array =
-      realJvm()->NewObjectArray(static_cast<jsize>(arguments.size()),
-                                realJvm()->FindClass("java/lang/Object"), nullptr);
+  const jobjectArray array = realJvm()->NewObjectArray(
+      static_cast<jsize>(arguments.size()), realJvm()->FindClass("java/lang/Object"), nullptr);
   for (std::size_t index = 0; index < arguments.size(); ++index) {
     realJvm()->SetObjectArrayElement(array, static_cast<jsize>(index), arguments[index]);
   }
-  const jobject result =
-      callBench("call", "(Ljava/lang/String;[Ljava/lang/Object;)Ljava/lang/Object;", text(method),
-                array);
-  const jfieldID failure =
-      realJvm()->GetStaticFieldID(bench(), "failure", "Ljava/lang/String;");
+  const jobject result = callBench(
+      "call", "(Ljava/lang/String;[Ljava/lang/Object;)Ljava/lang/Object;", text(method), array);
+  const jfieldID failure = realJvm()->GetStaticFieldID(bench(), "failure", "Ljava/lang/String;");
   return {result, fromJava(realJvm()->GetStaticObjectField(bench(), failure))};
 }
 

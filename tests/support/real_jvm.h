@@ -19,7 +19,8 @@ jobject number(jint value);
 /// A new object of the package's class.
 jobject create(const char* className);
 
-/// Sets the field at a path, "server[1].ip_address", from its text form; makes what lies on the way.
+/// Sets the field at a path, "server[1].ip_address", from its text form; makes what lies on the
+/// way.
 void set(jobject object, const std::string& path, const std::string& value);
 /// Sets a text field to null, or an array field to a new array of a length or to null.
 void setNull(jobject object, const char* field);
@@ -62,9 +63,9 @@ std::vector<Member> int32sAt(std::size_t offset, const std::vector<const char*>&
 void expectBuilt(const char* method, const std::vector<jobject>& arguments, std::size_t size,
                  const std::vector<Member>& members);
 
-/// Sets the fields of `object`, which must be among the arguments, and finds each value at its place
-/// in the record of `size` bytes that the library was given as its `parameter`; texts as long as
-/// fits, and longer.
+/// Sets the fields of `object`, which must be among the arguments, and finds each value at its
+/// place in the record of `size` bytes that the library was given as its `parameter`; texts as long
+/// as fits, and longer.
 void expectRead(const char* method, const std::vector<jobject>& arguments, jobject object,
                 int parameter, std::size_t size, const std::vector<Member>& members);
 

@@ -1,0 +1,24 @@
+# The commands of the README. Each installs what is missing first; that needs Debian and root.
+BUILD := build/linux
+JAVA := java -Djava.library.path=$(BUILD)/lib
+
+.PHONY: tour test benchmark clean packages-build packages-test
+
+tour: packages-build
+	cmake --preset linux -DQUORVELJ_TESTS=OFF
+	cmake --build --preset linux
+	$(JAVA) -cp $(BUILD)/lib/quorvelj.jar:$(BUILD)/lib/array-tour.jar ArrayTour
+
+test: packages-test
+	scripts/test.sh
+
+benchmark: packages-test
+	cmake --preset linux -DQUORVELJ_BENCHMARKS=ON
+	cmake --build --preset linux
+	$(BUILD)/lib/class_map_benchmark --benchmark_min_time=3
+
+packages-build packages-test:
+	scripts/install-packages.sh $(@:packages-%=%)
+
+clean:
+	rm -rf build dist

@@ -1,0 +1,86 @@
+// What the toolkit and the frames meet in a real Java virtual machine only.
+#include <gtest/gtest.h>
+
+#include <cstring>
+
+#include "bridge/jni_toolkit.h"
+#include "simulator/control.h"
+#include "tests/support/real_jvm.h"
+
+namespace quorvelj::testing {
+namespace {
+
+class HotSpot : public ::testing::Test {
+ protected:
+  HotSpot() { realJvm()->PushLocalFrame(64); }
+  ~HotSpot() override {
+    realJvm()->ExceptionClear();
+    realJvm()->PopLocalFrame(nullptr);
+  }
+
+  /// The pending exception as Java shows it; it is cleared.
+  std::string pending() {
+    const jthrowable thrown = env_->ExceptionOccurred();
+    if (thrown == nullptr) {
+      return "";
+    }
+    env_->ExceptionClear();
+    const jmethodID method =
+        env_->GetMethodID(env_->FindClass("java/lang/Object"), "toString", "()Ljava/lang/String;");
+    const auto shown = static_cast<jstring>(env_->CallObjectMethod(thrown, method));
+    char buffer[256];
+    copyJavaStringToBuffer(env_, shown, buffer, sizeof buffer);
+    return buffer;
+  }
+  /// Calls a native method past Java's check of its argument's class.
+  void callUnchecked(const char* method, const char* signature, jobject argument) {
+    const jclass type = env_->FindClass("tessaly/str/diskarray/DiskArrayUtilityJNI");
+    const jobject array = env_->NewObject(type, env_->GetMethodID(type, "<init>", "()V"));
+    env_->CallVoidMethod(array, env_->GetMethodID(type, method, signature), argument);
+  }
+
+  JNIEnv* env_ = realJvm();
+};
+
+TEST_F(HotSpot, MissingClassIsReportedByName) {
+  EXPECT_EQ(newObjectByName(env_, "tessaly/str/diskarray/Nothing"), nullptr);
+  EXPECT_EQ(pending(), "java.lang.ClassNotFoundException: tessaly/str/diskarray/Nothing");
+}
+
+TEST_F(HotSpot, ExceptionsAreThrownOverAPendingOne) {
+  EXPECT_EQ(newObjectByName(env_, "tessaly/str/diskarray/Nothing"), nullptr);
+  throwArrayException(env_, 2817);
+  EXPECT_EQ(pending(), "tessaly.str.diskarray.DiskArrayException: disk array error 2817");
+}
+
+TEST_F(HotSpot, ObjectOfAClassWithoutTheFields) {
+  quorvelSimForceResult("QV_UnitAdd", 0, 2);
+  const char* const signature = "(Ltessaly/str/diskarray/QVUnitParam;)V";
+  const int before = quorvelSimCallCount("QV_UnitAdd");
+  callUnchecked("QV_UnitAdd", signature, create("AccountIdentifier"));
+  EXPECT_EQ(pending(),
+            "java.lang.NoSuchFieldError: tessaly.str.diskarray.AccountIdentifier.unit_name "
+            "Ljava/lang/String;");
+  // The field is there, in another type.
+  callUnchecked("QV_UnitAdd", signature, env_->AllocObject(env_->FindClass("MistypedUnit")));
+  EXPECT_EQ(pending(), "java.lang.NoSuchFieldError: MistypedUnit.unit_name Ljava/lang/String;");
+  EXPECT_EQ(quorvelSimCallCount("QV_UnitAdd"), before + 2);
+}
+
+TEST_F(HotSpot, ShiftJisIsDecoded) {
+  const jobject identifier = create("AccountIdentifier");
+  EXPECT_EQ(setSjisStringField(env_, identifier, "user_id", "\x83\x65\x83\x58\x83\x67\0...", 10),
+            0);
+  EXPECT_EQ(get(identifier, "user_id"), "テスト");
+  EXPECT_EQ(setSjisStringField(env_, identifier, "user_id", "abc", 3), 2817);
+  EXPECT_EQ(pending().substr(0, 45), "java.lang.StringIndexOutOfBoundsException: of");
+}
+
+TEST_F(HotSpot, TextCutInsideACharacter) {
+  const jobject identifier = create("AccountIdentifier");
+  EXPECT_EQ(setStringField(env_, identifier, "user_id", "ab\xC3"), 0);
+  EXPECT_EQ(get(identifier, "user_id").substr(0, 2), "ab");
+}
+
+}  // namespace
+}  // namespace quorvelj::testing
