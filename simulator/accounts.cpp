@@ -15,10 +15,6 @@ constexpr const char* kRoles[] = {"", "Account Administrator", "Storage Administ
 /// The user of the sessions that the alert check opens, which no account has.
 constexpr char kAlertCheckUser[] = "";
 
-Bytes identifierOf(const QVSessionInfo& session) {
-  return {std::begin(session.session_id), std::end(session.session_id)};
-}
-
 /// The account of a session's user, or null.
 Account* ownAccount(const UnitName* unit, const QVSessionInfo* session) {
   Unit& known = *findUnit(textOf(*unit));

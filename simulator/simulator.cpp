@@ -69,7 +69,8 @@ int admit(std::span<const Value> values, Unit*& unit) {
         return kUnknownUnit;
       }
     } else if (value.role == Role::kSession && unit != nullptr &&
-               !unit->sessions.contains(bytesOf(value))) {
+               !unit->sessions.contains(
+                   identifierOf(*static_cast<const QVSessionInfo*>(value.data)))) {
       return kUnknownSession;
     }
   }
@@ -105,6 +106,10 @@ State& state() { return simulator().state; }
 Unit* findUnit(const std::string& name) {
   const auto found = state().units.find(name);
   return name.empty() || found == state().units.end() ? nullptr : &found->second;
+}
+
+std::string identifierOf(const QVSessionInfo& session) {
+  return {reinterpret_cast<const char*>(session.session_id), sizeof session.session_id};
 }
 
 int run(const std::string& function, std::span<const Value> values,

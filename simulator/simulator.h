@@ -49,7 +49,7 @@ struct Unit {
   AdditionalUnitInformation additional{};
   std::map<std::string, Account> accounts;
   /// The user of each session, by its identifier.
-  std::map<Bytes, std::string> sessions;
+  std::map<std::string, std::string> sessions;
   /// What Set functions were given, by operation and selecting ints.
   std::map<std::string, Bytes> kept;
 };
@@ -71,6 +71,9 @@ std::string textOf(const char (&text)[N]) {
   const std::string whole(text, N);
   return whole.substr(0, whole.find('\0'));
 }
+
+/// The identifier of a session as the key of its unit's sessions.
+std::string identifierOf(const QVSessionInfo& session);
 
 /// Fills a text member, cut to its width and terminated.
 template <std::size_t N>
