@@ -15,3 +15,4 @@ for preset in windows-x86 linux; do
   echo "== tests of $preset"
   ctest --preset "$preset"
 done
+grep -h '^sweep:' build/linux/Testing/Temporary/LastTest.log

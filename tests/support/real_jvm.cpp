@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -65,6 +66,61 @@ std::string fromJava(jobject value) {
   std::string copy = characters;
   realJvm()->ReleaseStringUTFChars(string, characters);
   return copy;
+}
+
+/// The fields that native code looked up during a call, in order. The look-up is swapped in the
+/// thread's JNI function table for as long.
+class FieldLog {
+ public:
+  FieldLog() : own_(*realJvm()->functions), original_(realJvm()->functions) {
+    names().clear();
+    lookUp() = own_.GetFieldID;
+    own_.GetFieldID = &logged;
+    realJvm()->functions = &own_;
+  }
+  ~FieldLog() { realJvm()->functions = original_; }
+  FieldLog(const FieldLog&) = delete;
+  FieldLog& operator=(const FieldLog&) = delete;
+
+  static std::vector<std::string>& names() {
+    static std::vector<std::string> looked;
+    return looked;
+  }
+
+ private:
+  using LookUp = decltype(JNINativeInterface_::GetFieldID);
+  static LookUp& lookUp() {
+    static LookUp original = nullptr;
+    return original;
+  }
+  static jfieldID JNICALL logged(JNIEnv* env, jclass type, const char* name,
+                                 const char* signature) {
+    names().emplace_back(name);
+    return lookUp()(env, type, name, signature);
+  }
+
+  JNINativeInterface_ own_;
+  const JNINativeInterface_* original_;
+};
+
+/// Expects the members' fields in the order of their list, others between them or not.
+void expectOrder(const std::vector<Member>& members) {
+  auto at = FieldLog::names().begin();
+  for (const Member& member : members) {
+    std::string name = member.path.substr(member.path.rfind('.') + 1);
+    name = name.substr(0, name.find('['));
+    // Elements of one array are looked up once, as their array.
+    if (at != FieldLog::names().begin() && *(at - 1) == name && member.path.back() == ']') {
+      continue;
+    }
+    at = std::find(at, FieldLog::names().end(), name);
+    if (at == FieldLog::names().end()) {
+      ADD_FAILURE() << member.path << " is not visited in its order: "
+                    << ::testing::PrintToString(FieldLog::names());
+      return;
+    }
+    ++at;
+  }
 }
 
 /// A text of ASCII letters that differs from member to member.
@@ -153,8 +209,12 @@ Called call(const char* method, const std::vector<jobject>& arguments) {
   for (std::size_t index = 0; index < arguments.size(); ++index) {
     realJvm()->SetObjectArrayElement(array, static_cast<jsize>(index), arguments[index]);
   }
-  const jobject result = callBench(
-      "call", "(Ljava/lang/String;[Ljava/lang/Object;)Ljava/lang/Object;", text(method), array);
+  jobject result = nullptr;
+  {
+    const FieldLog log;
+    result = callBench("call", "(Ljava/lang/String;[Ljava/lang/Object;)Ljava/lang/Object;",
+                       text(method), array);
+  }
   const jfieldID failure = realJvm()->GetStaticFieldID(bench(), "failure", "Ljava/lang/String;");
   return {result, fromJava(realJvm()->GetStaticObjectField(bench(), failure))};
 }
@@ -205,6 +265,7 @@ void expectBuilt(const char* method, const std::vector<jobject>& arguments, std:
     const Called called = call(method, arguments);
     quorvelSimPrepareOutput(method, nullptr, 0);
     ASSERT_EQ(called.failure, "");
+    expectOrder(members);
     for (std::size_t index = 0; index < members.size(); ++index) {
       EXPECT_EQ(get(called.result, members[index].path), expected[index]) << members[index].path;
     }
@@ -242,6 +303,7 @@ void expectRead(const char* method, const std::vector<jobject>& arguments, jobje
     }
     quorvelSimForceResult(method, 0, 1);
     EXPECT_EQ(call(method, arguments).failure, "");
+    expectOrder(members);
     std::vector<unsigned char> record(size);
     ASSERT_EQ(quorvelSimLastInput(method, parameter, record.data(), size), size);
     for (std::size_t index = 0; index < size; ++index) {

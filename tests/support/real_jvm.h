@@ -57,6 +57,8 @@ Member bytesAt(std::size_t offset, std::size_t width, const char* path);
 /// Consecutive ints from an offset on.
 std::vector<Member> int32sAt(std::size_t offset, const std::vector<const char*>& paths);
 
+// Members are listed in the order in which the bridge visits them, which is checked as well.
+
 /// Plants values in a record of `size` bytes that the library returns from `method`, and finds each
 /// of them under its path in the Java result; bytes at 0x80 and at 0xFF, texts with and without
 /// their NUL.
