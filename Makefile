@@ -15,7 +15,7 @@ test: packages-test
 benchmark: packages-test
 	cmake --preset linux -DQUORVELJ_BENCHMARKS=ON
 	cmake --build --preset linux
-	$(BUILD)/lib/class_map_benchmark --benchmark_min_time=3
+	$(BUILD)/lib/benchmarks --benchmark_min_time=3
 
 packages-build packages-test:
 	scripts/install-packages.sh $(@:packages-%=%)

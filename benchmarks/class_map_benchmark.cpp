@@ -1,12 +1,7 @@
 // What walking a class map costs against the same JNI calls written out in one function.
-#include <benchmark/benchmark.h>
-#include <jni.h>
-
-#include <chrono>
 #include <cstdio>
-#include <cstdlib>
-#include <string>
 
+#include "benchmarks/comparison.h"
 #include "bridge/class_map.h"
 
 struct TwentyFourInts {
@@ -108,50 +103,7 @@ int readInLoop(JNIEnv* env, jobject object, TwentyFourInts& record) {
   return 0;
 }
 
-JNIEnv* jvm() {
-  static JNIEnv* const env = [] {
-    std::string classPath = "-Djava.class.path=" QUORVELJ_CLASS_PATH;
-    JavaVMOption option{classPath.data(), nullptr};
-    JavaVMInitArgs arguments{JNI_VERSION_1_8, 1, &option, JNI_FALSE};
-    JavaVM* machine = nullptr;
-    JNIEnv* started = nullptr;
-    if (JNI_CreateJavaVM(&machine, reinterpret_cast<void**>(&started), &arguments) != JNI_OK) {
-      std::abort();
-    }
-    return started;
-  }();
-  return env;
-}
-
 const quorvelj::ClassMap& map() { return quorvelj::ClassOf<TwentyFourInts>::kMap; }
-
-/// Times batches of `byMap` and `byHand` by turns, so that both meet the same machine, and reports
-/// nanoseconds per object and their ratio.
-template <class ByMap, class ByHand>
-void compare(benchmark::State& state, ByMap byMap, ByHand byHand) {
-  using Clock = std::chrono::steady_clock;
-  constexpr int kBatch = 100;
-  const auto timed = [](auto& work) {
-    const Clock::time_point start = Clock::now();
-    for (int index = 0; index < kBatch; ++index) {
-      work();
-    }
-    return Clock::now() - start;
-  };
-  Clock::duration mapTime{};
-  Clock::duration handTime{};
-  for (auto _ : state) {
-    mapTime += timed(byMap);
-    handTime += timed(byHand);
-  }
-  const auto perObject = [&](Clock::duration time) {
-    return std::chrono::duration<double, std::nano>(time).count() /
-           (static_cast<double>(state.iterations()) * kBatch);
-  };
-  state.counters["map_ns"] = perObject(mapTime);
-  state.counters["hand_ns"] = perObject(handTime);
-  state.counters["ratio"] = perObject(mapTime) / perObject(handTime);
-}
 
 void release(JNIEnv* env, jobject object) {
   if (object == nullptr) {
@@ -186,5 +138,3 @@ BENCHMARK(BM_Read24Ints);
 BENCHMARK(BM_Read24IntsAgainstLoop);
 
 }  // namespace
-
-BENCHMARK_MAIN();

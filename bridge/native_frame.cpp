@@ -41,4 +41,18 @@ jobjectArray finishArrayQuery(JNIEnv* env, int result, const ClassMap& map, void
                     [=, &map] { return buildArray(env, map, records, length, recordBytes); });
 }
 
+void fillPartialArray(JNIEnv* env, jobjectArray array, const ClassMap& map, const void* records,
+                      jsize length, std::size_t recordBytes) {
+  const auto* record = static_cast<const std::byte*>(records);
+  for (jsize index = 0; index < length; ++index) {
+    const jobject element = build(env, map, record);
+    if (element == nullptr) {
+      return;
+    }
+    env->SetObjectArrayElement(array, index, element);
+    deleteLocalRef(env, element);
+    record += recordBytes;
+  }
+}
+
 }  // namespace quorvelj

@@ -58,6 +58,11 @@ jobject finishQuery(JNIEnv* env, int result, const ClassMap& map, void* record);
 jobjectArray finishArrayQuery(JNIEnv* env, int result, const ClassMap& map, void* records,
                               jsize length, std::size_t recordBytes);
 
+/// Fills `array` with objects built from `length` records. Stops at the first that cannot be built
+/// and leaves the rest null; no exception is tested for or thrown.
+void fillPartialArray(JNIEnv* env, jobjectArray array, const ClassMap& map, const void* records,
+                      jsize length, std::size_t recordBytes);
+
 /// One parameter of a library function, made from the Java argument in its place.
 template <class Parameter>
 class Argument;
@@ -176,31 +181,32 @@ struct QueryResult;
 template <class Record>
 struct QueryResult<Record*> {
   using Object = jobject;
-  static Object finish(JNIEnv* env, int result, Record* record) {
-    return finishQuery(env, result, ClassOf<Record>::kMap, record);
+  static constexpr const ClassMap& kMap = ClassOf<Record>::kMap;
+  static Object finish(JNIEnv* env, int result, const ClassMap& map, Record* record) {
+    return finishQuery(env, result, map, record);
   }
 };
 
 template <class Record, std::size_t N>
 struct QueryResult<Record (*)[N]> {
   using Object = jobjectArray;
-  static Object finish(JNIEnv* env, int result, Record (*records)[N]) {
-    return finishArrayQuery(env, result, ClassOf<Record>::kMap, records, static_cast<jsize>(N),
-                            sizeof(Record));
+  static constexpr const ClassMap& kMap = ClassOf<Record>::kMap;
+  static Object finish(JNIEnv* env, int result, const ClassMap& map, Record (*records)[N]) {
+    return finishArrayQuery(env, result, map, records, static_cast<jsize>(N), sizeof(Record));
   }
 };
 
-/// A method that returns a new object or array. A record that was allocated before one that could
-/// not be had is not released.
+template <class Function>
+using QueryResultOf = QueryResult<typename FunctionWithOutput<Function>::Output>;
+
+/// A `query` whose result is built by `map` instead of its class's own.
 template <class Function, class... Java>
-auto query(JNIEnv* env, Function function, Java... java) {
-  using Signature = FunctionWithOutput<Function>;
-  using Output = typename Signature::Output;
-  using Result = QueryResult<Output>;
-  using Object = typename Result::Object;
+auto queryAs(JNIEnv* env, const ClassMap& map, Function function, Java... java) {
+  using Output = typename FunctionWithOutput<Function>::Output;
+  using Object = typename QueryResultOf<Function>::Object;
 
   flushOutput();
-  typename Signature::InputsOf inputs(java...);
+  typename FunctionWithOutput<Function>::InputsOf inputs(java...);
   if (!inputs.accept(env)) {
     return Object{};
   }
@@ -214,11 +220,18 @@ auto query(JNIEnv* env, Function function, Java... java) {
   }
   const int result = inputs.call(function, output);
   inputs.releaseAll();
-  const Object built = Result::finish(env, result, output);
+  const Object built = QueryResultOf<Function>::finish(env, result, map, output);
   if (built != nullptr) {
     flushOutput();
   }
   return built;
+}
+
+/// A method that returns a new object or array. A record that was allocated before one that could
+/// not be had is not released.
+template <class Function, class... Java>
+auto query(JNIEnv* env, Function function, Java... java) {
+  return queryAs(env, QueryResultOf<Function>::kMap, function, java...);
 }
 
 /// A method that returns the int that the library writes, or 0 with an exception.

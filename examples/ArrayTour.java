@@ -1,16 +1,9 @@
-import tessaly.str.diskarray.Account;
-import tessaly.str.diskarray.AccountBanner;
-import tessaly.str.diskarray.AccountIdentifier;
-import tessaly.str.diskarray.AccountOption;
 import tessaly.str.diskarray.DiscoverUnit;
 import tessaly.str.diskarray.DiscoverUnitRequest;
 import tessaly.str.diskarray.DiskArrayException;
 import tessaly.str.diskarray.DiskArrayUtilityJNI;
 import tessaly.str.diskarray.LoginRequest;
 import tessaly.str.diskarray.LogoutOption;
-import tessaly.str.diskarray.OwnUserPermission;
-import tessaly.str.diskarray.QVAccountBaseInfo;
-import tessaly.str.diskarray.QVAccountRoleInformation;
 import tessaly.str.diskarray.QVSessionInfo;
 import tessaly.str.diskarray.QVUnitParam;
 
@@ -21,12 +14,7 @@ import tessaly.str.diskarray.QVUnitParam;
  * <p>Arguments: user, password and the addresses of two units; without them, those of the simulator.
  */
 public final class ArrayTour {
-    private static final DiskArrayUtilityJNI ARRAY = new DiskArrayUtilityJNI();
-
-    /** A step of the tour that may be refused. */
-    private interface Step {
-        void run() throws DiskArrayException;
-    }
+    private static final DiskArrayUtilityJNI ARRAY = Visit.ARRAY;
 
     private final String user;
     private final String password;
@@ -47,24 +35,14 @@ public final class ArrayTour {
     }
 
     private void run() {
-        step("Discovering units", this::discover);
-        step("Registering two units", this::register);
-        step("Registering a unit twice", () -> ARRAY.QV_UnitAdd(unit(names[0], addresses[0])));
-        step("Registered units", this::listUnits);
-        step("A wrong password", () -> login(names[0], "not " + password));
-        step("Inside a session", this::visit);
-        step("A missing unit name", () -> ARRAY.QV_GetUnitParam(null));
-        step("Deleting the units", this::delete);
-    }
-
-    /** Runs a step under its heading; a refusal is shown with its code and the tour goes on. */
-    private static void step(String heading, Step step) {
-        System.out.println(heading);
-        try {
-            step.run();
-        } catch (DiskArrayException refused) {
-            System.out.println("  refused with code " + refused.getCode() + "\n");
-        }
+        Visit.step("Discovering units", this::discover);
+        Visit.step("Registering two units", this::register);
+        Visit.step("Registering a unit twice", () -> ARRAY.QV_UnitAdd(unit(names[0], addresses[0])));
+        Visit.step("Registered units", this::listUnits);
+        Visit.step("A wrong password", () -> login(names[0], "not " + password));
+        Visit.step("Inside a session", this::visit);
+        Visit.step("A missing unit name", () -> ARRAY.QV_GetUnitParam(null));
+        Visit.step("Deleting the units", this::delete);
     }
 
     private void discover() throws DiskArrayException {
@@ -116,51 +94,10 @@ public final class ArrayTour {
         String unit = names[0];
         QVSessionInfo session = login(unit, password);
         System.out.println("  logged in to " + unit + " as " + user + "\n");
-        step("Accounts", () -> accounts(unit, session));
-        step("Settings", () -> settings(unit, session));
+        Visit visit = new Visit(unit, session);
+        AccountsPage.show(visit);
         ARRAY.QV_LogoutQVAccount(unit, session, new LogoutOption());
-        step("After the logout", () -> ARRAY.QV_GetOwnUserPermission(unit, session));
-    }
-
-    private void accounts(String unit, QVSessionInfo session) throws DiskArrayException {
-        Account viewer = new Account();
-        viewer.user_id = "tour-viewer";
-        viewer.set_passwd = 1;
-        viewer.passwd = "see but not touch";
-        viewer.role = 3;
-        viewer.account_enable = 1;
-        ARRAY.QV_CreateAccount(unit, session, viewer);
-        QVAccountRoleInformation roles = ARRAY.QV_GetQVAccountRoleInformation(unit, session);
-        Table table = new Table("Account", "Role", "Enabled");
-        for (QVAccountBaseInfo account :
-                ARRAY.QV_GetAccountInformation(unit, session).account_info) {
-            if (!account.user_id.isEmpty()) {
-                table.row(account.user_id, roles.role_info[account.role].role_name,
-                        account.account_enable == 0 ? "no" : "yes");
-            }
-        }
-        table.print();
-        AccountIdentifier identifier = new AccountIdentifier();
-        identifier.user_id = viewer.user_id;
-        ARRAY.QV_DeleteAccount(unit, session, identifier);
-    }
-
-    private void settings(String unit, QVSessionInfo session) throws DiskArrayException {
-        AccountBanner banner = new AccountBanner();
-        banner.warning_banner_display = 1;
-        banner.warning_banner = "Authorised users only.";
-        ARRAY.QV_SetAccountBannerAuth(unit, session, banner);
-        OwnUserPermission permission = ARRAY.QV_GetOwnUserPermission(unit, session);
-        AccountOption option = ARRAY.QV_GetAccountOption(unit, session);
-        new Table("Setting", "Value")
-                .row("banner", ARRAY.QV_GetAccountBanner(unit).warning_banner)
-                .row("own role", permission.role)
-                .row("operations allowed", permission.operation_auth.length)
-                .row("shortest password", option.option_info.password_min_length)
-                .row("session timeout", option.option_info.session_timeout)
-                .row("additional units",
-                        ARRAY.QV_GetAdditionalUnitInformation(unit, session).add_unit_num)
-                .print();
+        Visit.step("After the logout", () -> ARRAY.QV_GetOwnUserPermission(unit, session));
     }
 
     private void delete() throws DiskArrayException {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <any>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -9,6 +10,7 @@
 #include <string>
 #include <tuple>
 #include <type_traits>
+#include <typeindex>
 #include <vector>
 
 #include "arraylib/accounts.h"
@@ -46,12 +48,23 @@ using Bytes = std::vector<std::byte>;
 
 struct Unit {
   QVUnitParam param{};
-  AdditionalUnitInformation additional{};
   std::map<std::string, Account> accounts;
   /// The user of each session, by its identifier.
   std::map<std::string, std::string> sessions;
   /// What Set functions were given, by operation and selecting ints.
   std::map<std::string, Bytes> kept;
+  /// What a subsystem keeps of a unit, in a type of its own.
+  std::map<std::type_index, std::any> parts;
+
+  /// The unit's `Part`, as it was left, or a new one.
+  template <class Part>
+  Part& part() {
+    std::any& held = parts[typeid(Part)];
+    if (!held.has_value()) {
+      held = Part{};
+    }
+    return std::any_cast<Part&>(held);
+  }
 };
 
 struct State {
@@ -156,6 +169,16 @@ using ParameterOf = std::tuple_element_t<Index, typename Parameters<Function>::A
   SIMULATE_PARAMETERS_5(function), SIMULATE_PARAMETER(function, 5)
 #define SIMULATE_PARAMETERS_7(function) \
   SIMULATE_PARAMETERS_6(function), SIMULATE_PARAMETER(function, 6)
+#define SIMULATE_PARAMETERS_8(function) \
+  SIMULATE_PARAMETERS_7(function), SIMULATE_PARAMETER(function, 7)
+#define SIMULATE_PARAMETERS_9(function) \
+  SIMULATE_PARAMETERS_8(function), SIMULATE_PARAMETER(function, 8)
+#define SIMULATE_PARAMETERS_10(function) \
+  SIMULATE_PARAMETERS_9(function), SIMULATE_PARAMETER(function, 9)
+#define SIMULATE_PARAMETERS_11(function) \
+  SIMULATE_PARAMETERS_10(function), SIMULATE_PARAMETER(function, 10)
+#define SIMULATE_PARAMETERS_12(function) \
+  SIMULATE_PARAMETERS_11(function), SIMULATE_PARAMETER(function, 11)
 #define SIMULATE_ARGUMENTS_0
 #define SIMULATE_ARGUMENTS_1 , p0
 #define SIMULATE_ARGUMENTS_2 SIMULATE_ARGUMENTS_1, p1
@@ -164,3 +187,8 @@ using ParameterOf = std::tuple_element_t<Index, typename Parameters<Function>::A
 #define SIMULATE_ARGUMENTS_5 SIMULATE_ARGUMENTS_4, p4
 #define SIMULATE_ARGUMENTS_6 SIMULATE_ARGUMENTS_5, p5
 #define SIMULATE_ARGUMENTS_7 SIMULATE_ARGUMENTS_6, p6
+#define SIMULATE_ARGUMENTS_8 SIMULATE_ARGUMENTS_7, p7
+#define SIMULATE_ARGUMENTS_9 SIMULATE_ARGUMENTS_8, p8
+#define SIMULATE_ARGUMENTS_10 SIMULATE_ARGUMENTS_9, p9
+#define SIMULATE_ARGUMENTS_11 SIMULATE_ARGUMENTS_10, p10
+#define SIMULATE_ARGUMENTS_12 SIMULATE_ARGUMENTS_11, p11

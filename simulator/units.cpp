@@ -143,7 +143,7 @@ int discover(const DiscoverUnitRequest* request, DiscoverUnit* found) {
 }
 
 int addAdditionalUnit(const UnitName* unit, const QVSessionInfo*, const AdditionalUnitRequest*) {
-  AdditionalUnitInformation& additional = findUnit(textOf(*unit))->additional;
+  auto& additional = findUnit(textOf(*unit))->part<AdditionalUnitInformation>();
   ++additional.add_unit_num;
   ++additional.connect_unit_num;
   return 0;
@@ -151,7 +151,7 @@ int addAdditionalUnit(const UnitName* unit, const QVSessionInfo*, const Addition
 
 int getAdditionalUnits(const UnitName* unit, const QVSessionInfo*,
                        AdditionalUnitInformation* information) {
-  *information = findUnit(textOf(*unit))->additional;
+  *information = findUnit(textOf(*unit))->part<AdditionalUnitInformation>();
   return 0;
 }
 

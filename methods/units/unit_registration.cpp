@@ -99,15 +99,9 @@ NATIVE_METHOD(jobjectArray, GetUnitParamTable, jint count) {
     array = newObjectArrayByName(env, ClassOf<QVUnitParam>::kName, count);
     if (array == nullptr) {
       result = -1;
+    } else {
+      fillPartialArray(env, array, ClassOf<QVUnitParam>::kMap, table, count, sizeof(QVUnitParam));
     }
-  }
-  for (jsize index = 0; array != nullptr && index < count; ++index) {
-    const jobject unit = build(env, ClassOf<QVUnitParam>::kMap, table + index);
-    if (unit == nullptr) {
-      break;
-    }
-    env->SetObjectArrayElement(array, index, unit);
-    deleteLocalRef(env, unit);
   }
   flushOutput();
   releaseRecord(table);

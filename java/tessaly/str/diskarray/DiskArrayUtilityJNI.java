@@ -58,6 +58,38 @@ public class DiskArrayUtilityJNI {
     public native AdditionalUnitInformation QV_GetAdditionalUnitInformation(
             String unit, QVSessionInfo session) throws DiskArrayException;
 
+    // Unit login, session and array users
+
+    // Unit condition
+
+    // All-information bundles
+
+    // Drives and parts
+
+    // Performance collection and output
+
+    // Statistical information
+
+    // RAID groups
+
+    // Logical units and formatting
+
+    // Pools, virtual volumes and special LUs
+
+    // Host groups and LU mapping
+
+    // iSCSI targets and ports
+
+    // Fibre ports and LAN settings
+
+    // Copy pairs
+
+    // Remote paths and consistency groups
+
+    // Volume migration
+
+    // Firmware download and replacement
+
     // Account authentication
 
     /** Logs in with an account of the array. */
@@ -129,4 +161,10 @@ public class DiskArrayUtilityJNI {
     /** Sets the warning that is shown before a login. */
     public native void QV_SetAccountBannerAuth(
             String unit, QVSessionInfo session, AccountBanner banner) throws DiskArrayException;
+
+    // Audit log
+
+    // Alert check and e-mail alerts
+
+    // SNMP configuration
 }

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <benchmark/benchmark.h>
+#include <jni.h>
+
+#include <chrono>
+#include <cstdlib>
+#include <string>
+
+// A real Java virtual machine, and the comparison of two ways to do the same in it.
+
+/// The machine, started on first use, with the Java half and the benchmarks' classes.
+inline JNIEnv* jvm() {
+  static JNIEnv* const env = [] {
+    std::string classPath = "-Djava.class.path=" QUORVELJ_CLASS_PATH;
+    JavaVMOption option{classPath.data(), nullptr};
+    JavaVMInitArgs arguments{JNI_VERSION_1_8, 1, &option, JNI_FALSE};
+    JavaVM* machine = nullptr;
+    JNIEnv* started = nullptr;
+    if (JNI_CreateJavaVM(&machine, reinterpret_cast<void**>(&started), &arguments) != JNI_OK) {
+      std::abort();
+    }
+    return started;
+  }();
+  return env;
+}
+
+/// Times batches of `batch` calls of `byMap` and `byHand` by turns, so that both meet the same
+/// machine, and reports nanoseconds per object and their ratio.
+template <class ByMap, class ByHand>
+void compare(benchmark::State& state, ByMap byMap, ByHand byHand, int batch = 100) {
+  using Clock = std::chrono::steady_clock;
+  const auto timed = [batch](auto& work) {
+    const Clock::time_point start = Clock::now();
+    for (int index = 0; index < batch; ++index) {
+      work();
+    }
+    return Clock::now() - start;
+  };
+  Clock::duration mapTime{};
+  Clock::duration handTime{};
+  for (auto _ : state) {
+    mapTime += timed(byMap);
+    handTime += timed(byHand);
+  }
+  const auto perObject = [&](Clock::duration time) {
+    return std::chrono::duration<double, std::nano>(time).count() /
+           (static_cast<double>(state.iterations()) * batch);
+  };
+  state.counters["map_ns"] = perObject(mapTime);
+  state.counters["hand_ns"] = perObject(handTime);
+  state.counters["ratio"] = perObject(mapTime) / perObject(handTime);
+}
