@@ -3,9 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <cstdio>
 #include <map>
-#include <set>
 
 #include "simulator/control.h"
 #include "tests/support/mini_jvm.h"
@@ -15,7 +15,11 @@
 namespace quorvelj::testing {
 namespace {
 
+// A method with more JNI calls than this has its faults spread over them, and fewer of them the
+// more calls it makes, so that the whole sweep stays a matter of a minute.
 constexpr int kMostFaultsPerPass = 400;
+constexpr int kFewestFaultsPerPass = 5;
+constexpr int kMostCallsPerPass = 8'000'000;
 constexpr int kOrdinaryCode = 1234;
 constexpr char kText[] = "Ljava/lang/String;";
 
@@ -160,10 +164,14 @@ TEST_P(Sweep, LibraryResults) {
 TEST_P(Sweep, EachJniCallFails) {
   for (const int code : {0, kOrdinaryCode}) {
     const int calls = play(GetParam(), {.libraryResult = code}).fallibleCalls;
-    const int faults = std::min(calls, kMostFaultsPerPass);
+    const int affordable = std::clamp(kMostCallsPerPass / std::max(calls, 1), kFewestFaultsPerPass,
+                                      kMostFaultsPerPass);
+    const int faults = std::min(calls, affordable);
     for (int fault = 0; fault < faults; ++fault) {
       // Evenly over the calls, the first and the last included.
-      const int call = 1 + (faults == 1 ? 0 : fault * (calls - 1) / (faults - 1));
+      const int call =
+          1 +
+          (faults == 1 ? 0 : static_cast<int>(std::int64_t{fault} * (calls - 1) / (faults - 1)));
       SCOPED_TRACE("JNI call " + std::to_string(call) + " of " + std::to_string(calls));
       const Outcome outcome = play(GetParam(), {.jniCall = call, .libraryResult = code});
       EXPECT_EQ(outcome.libraryCalls, 1);

@@ -5,12 +5,11 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <sstream>
 
 #include "tests/support/recorder.h"
 
 namespace quorvelj::testing {
-
-using Objects = std::vector<void*>;
 
 struct MiniJvm::Member {
   std::string name;
@@ -21,6 +20,7 @@ struct MiniJvm::Member {
 struct MiniJvm::Class {
   std::string name;
   std::map<std::string, std::unique_ptr<Member>> members;
+  std::unordered_map<const void*, Member*> recentMembers;
   Object* mirror = nullptr;
 };
 
@@ -71,13 +71,25 @@ Pointer as(jobject reference) {
 
 }  // namespace
 
+template <class... Detail>
+bool MiniJvm::enter(bool fallible, const char* call, const Detail&... detail) {
+  ++calls_;
+  if (recorder().tracing) {
+    std::ostringstream event;
+    event << call;
+    static_cast<void>((event << ... << detail));
+    recorder().add(event.str());
+  }
+  return fallible && ++fallibleCalls_ == failingCall_;
+}
+
 /// The JNI functions. Each enters its call, fails where it is to, and does its work otherwise.
 struct MiniJvm::Functions {
   static MiniJvm& of(JNIEnv* env) { return *reinterpret_cast<Env*>(env)->jvm; }
 
   static jclass JNICALL findClass(JNIEnv* env, const char* name) {
     MiniJvm& jvm = of(env);
-    if (jvm.enter(std::string("FindClass ") + name, true) || jvm.isMissing(name)) {
+    if (jvm.enter(true, "FindClass ", name) || jvm.isMissing(name)) {
       jvm.throwNew("java/lang/NoClassDefFoundError", name);
       return nullptr;
     }
@@ -86,7 +98,7 @@ struct MiniJvm::Functions {
 
   static jclass JNICALL getObjectClass(JNIEnv* env, jobject object) {
     MiniJvm& jvm = of(env);
-    jvm.enter("GetObjectClass", false);
+    jvm.enter(false, "GetObjectClass");
     Object* const target = jvm.resolve(object);
     return target == nullptr ? nullptr : as<jclass>(jvm.refer(target->type->mirror));
   }
@@ -94,7 +106,7 @@ struct MiniJvm::Functions {
   static Member* member(JNIEnv* env, const char* call, jclass type, const char* name,
                         const char* signature, const char* error) {
     MiniJvm& jvm = of(env);
-    const bool fails = jvm.enter(std::string(call) + ' ' + name + ' ' + signature, true);
+    const bool fails = jvm.enter(true, call, name, " ", signature);
     Object* const mirror = jvm.resolve(type);
     if (fails || mirror == nullptr || mirror->mirrored == nullptr || jvm.isMissing(name)) {
       jvm.throwNew(error, name);
@@ -105,17 +117,17 @@ struct MiniJvm::Functions {
   static jfieldID JNICALL getFieldId(JNIEnv* env, jclass type, const char* name,
                                      const char* signature) {
     return reinterpret_cast<jfieldID>(
-        member(env, "GetFieldID", type, name, signature, "java/lang/NoSuchFieldError"));
+        member(env, "GetFieldID ", type, name, signature, "java/lang/NoSuchFieldError"));
   }
   static jmethodID JNICALL getMethodId(JNIEnv* env, jclass type, const char* name,
                                        const char* signature) {
     return reinterpret_cast<jmethodID>(
-        member(env, "GetMethodID", type, name, signature, "java/lang/NoSuchMethodError"));
+        member(env, "GetMethodID ", type, name, signature, "java/lang/NoSuchMethodError"));
   }
 
   static jobject JNICALL newObjectV(JNIEnv* env, jclass type, jmethodID id, va_list arguments) {
     MiniJvm& jvm = of(env);
-    if (jvm.enter("NewObject", true)) {
+    if (jvm.enter(true, "NewObject")) {
       jvm.throwNew(kNoMemory);
       return nullptr;
     }
@@ -148,14 +160,14 @@ struct MiniJvm::Functions {
 
   static jint JNICALL throwObject(JNIEnv* env, jthrowable throwable) {
     MiniJvm& jvm = of(env);
-    jvm.enter("Throw", false);
+    jvm.enter(false, "Throw");
     jvm.pending_ = jvm.resolve(throwable);
     return 0;
   }
   static jint JNICALL throwNewObject(JNIEnv* env, jclass type, const char* message) {
     MiniJvm& jvm = of(env);
     const std::string& name = jvm.resolve(type)->mirrored->name;
-    if (jvm.enter("ThrowNew " + name + " \"" + message + '"', true)) {
+    if (jvm.enter(true, "ThrowNew ", name.c_str(), " \"", message, "\"")) {
       jvm.throwNew(kNoMemory);
       return -1;
     }
@@ -164,12 +176,12 @@ struct MiniJvm::Functions {
   }
   static jthrowable JNICALL exceptionOccurred(JNIEnv* env) {
     MiniJvm& jvm = of(env);
-    jvm.enter("ExceptionOccurred", false);
+    jvm.enter(false, "ExceptionOccurred");
     return jvm.pending_ == nullptr ? nullptr : as<jthrowable>(jvm.refer(jvm.pending_));
   }
   static void JNICALL deleteLocalRef(JNIEnv* env, jobject reference) {
     MiniJvm& jvm = of(env);
-    jvm.enter("DeleteLocalRef", false);
+    jvm.enter(false, "DeleteLocalRef");
     if (jvm.resolve(reference) != nullptr) {
       reinterpret_cast<Reference*>(reference)->live = false;
       --jvm.liveReferences_;
@@ -181,7 +193,7 @@ struct MiniJvm::Functions {
                       const char* signature) {
     MiniJvm& jvm = of(env);
     const auto* const field = reinterpret_cast<Member*>(id);
-    const bool fails = jvm.enter(call, true);
+    const bool fails = jvm.enter(true, call);
     Object* const target = jvm.resolve(object);
     if (fails || target == nullptr) {
       jvm.throwNew("java/lang/InternalError");
@@ -232,7 +244,7 @@ struct MiniJvm::Functions {
 
   static jstring JNICALL newStringUtf(JNIEnv* env, const char* text) {
     MiniJvm& jvm = of(env);
-    if (jvm.enter("NewStringUTF " + std::string(text), true)) {
+    if (jvm.enter(true, "NewStringUTF ", text)) {
       jvm.throwNew(kNoMemory);
       return nullptr;
     }
@@ -240,12 +252,12 @@ struct MiniJvm::Functions {
   }
   static jsize JNICALL getStringUtfLength(JNIEnv* env, jstring text) {
     MiniJvm& jvm = of(env);
-    jvm.enter("GetStringUTFLength", false);
+    jvm.enter(false, "GetStringUTFLength");
     return static_cast<jsize>(jvm.resolve(text)->length());
   }
   static const char* JNICALL getStringUtfChars(JNIEnv* env, jstring text, jboolean*) {
     MiniJvm& jvm = of(env);
-    if (jvm.enter("GetStringUTFChars", true)) {
+    if (jvm.enter(true, "GetStringUTFChars")) {
       jvm.throwNew(kNoMemory);
       return nullptr;
     }
@@ -256,21 +268,21 @@ struct MiniJvm::Functions {
     return copy;
   }
   static void JNICALL releaseStringUtfChars(JNIEnv* env, jstring, const char* characters) {
-    of(env).enter("ReleaseStringUTFChars", false);
+    of(env).enter(false, "ReleaseStringUTFChars");
     --of(env).unreleased_;
     delete[] characters;
   }
 
   static jsize JNICALL getArrayLength(JNIEnv* env, jarray array) {
     MiniJvm& jvm = of(env);
-    jvm.enter("GetArrayLength", false);
+    jvm.enter(false, "GetArrayLength");
     return static_cast<jsize>(jvm.resolve(array)->length());
   }
   /// A new array of `length` elements of one payload type.
   template <class Payload, class Array>
   static Array newArray(JNIEnv* env, const char* call, const char* className, jsize length) {
     MiniJvm& jvm = of(env);
-    if (jvm.enter(std::string(call) + ' ' + std::to_string(length), true) || length < 0) {
+    if (jvm.enter(true, call, length) || length < 0) {
       jvm.throwNew(length < 0 ? "java/lang/NegativeArraySizeException" : kNoMemory);
       return nullptr;
     }
@@ -279,18 +291,18 @@ struct MiniJvm::Functions {
     return as<Array>(jvm.refer(object));
   }
   static jintArray JNICALL newIntArray(JNIEnv* env, jsize length) {
-    return newArray<std::vector<jint>, jintArray>(env, "NewIntArray", "[I", length);
+    return newArray<std::vector<jint>, jintArray>(env, "NewIntArray ", "[I", length);
   }
   static jshortArray JNICALL newShortArray(JNIEnv* env, jsize length) {
-    return newArray<std::vector<jshort>, jshortArray>(env, "NewShortArray", "[S", length);
+    return newArray<std::vector<jshort>, jshortArray>(env, "NewShortArray ", "[S", length);
   }
   static jbyteArray JNICALL newByteArray(JNIEnv* env, jsize length) {
-    return newArray<std::vector<jbyte>, jbyteArray>(env, "NewByteArray", "[B", length);
+    return newArray<std::vector<jbyte>, jbyteArray>(env, "NewByteArray ", "[B", length);
   }
   static jobjectArray JNICALL newObjectArray(JNIEnv* env, jsize length, jclass type, jobject) {
     const std::string element = of(env).resolve(type)->mirrored->name;
     const std::string name = element[0] == '[' ? '[' + element : "[L" + element + ';';
-    return newArray<std::vector<Object*>, jobjectArray>(env, "NewObjectArray", name.c_str(),
+    return newArray<std::vector<Object*>, jobjectArray>(env, "NewObjectArray ", name.c_str(),
                                                         length);
   }
 
@@ -299,7 +311,7 @@ struct MiniJvm::Functions {
   static typename Payload::value_type* region(JNIEnv* env, const char* call, jarray array,
                                               jsize start, jsize count) {
     MiniJvm& jvm = of(env);
-    const bool fails = jvm.enter(std::string(call) + ' ' + std::to_string(count), true);
+    const bool fails = jvm.enter(true, call, count);
     Object* const target = jvm.resolve(array);
     auto* const payload = target == nullptr ? nullptr : std::get_if<Payload>(&target->payload);
     if (payload == nullptr) {
@@ -331,32 +343,32 @@ struct MiniJvm::Functions {
   }
   static void JNICALL getIntRegion(JNIEnv* env, jintArray array, jsize start, jsize count,
                                    jint* values) {
-    getRegion<std::vector<jint>>(env, "GetIntArrayRegion", array, start, count, values);
+    getRegion<std::vector<jint>>(env, "GetIntArrayRegion ", array, start, count, values);
   }
   static void JNICALL setIntRegion(JNIEnv* env, jintArray array, jsize start, jsize count,
                                    const jint* values) {
-    setRegion<std::vector<jint>>(env, "SetIntArrayRegion", array, start, count, values);
+    setRegion<std::vector<jint>>(env, "SetIntArrayRegion ", array, start, count, values);
   }
   static void JNICALL getShortRegion(JNIEnv* env, jshortArray array, jsize start, jsize count,
                                      jshort* values) {
-    getRegion<std::vector<jshort>>(env, "GetShortArrayRegion", array, start, count, values);
+    getRegion<std::vector<jshort>>(env, "GetShortArrayRegion ", array, start, count, values);
   }
   static void JNICALL setShortRegion(JNIEnv* env, jshortArray array, jsize start, jsize count,
                                      const jshort* values) {
-    setRegion<std::vector<jshort>>(env, "SetShortArrayRegion", array, start, count, values);
+    setRegion<std::vector<jshort>>(env, "SetShortArrayRegion ", array, start, count, values);
   }
   static void JNICALL getByteRegion(JNIEnv* env, jbyteArray array, jsize start, jsize count,
                                     jbyte* values) {
-    getRegion<std::vector<jbyte>>(env, "GetByteArrayRegion", array, start, count, values);
+    getRegion<std::vector<jbyte>>(env, "GetByteArrayRegion ", array, start, count, values);
   }
   static void JNICALL setByteRegion(JNIEnv* env, jbyteArray array, jsize start, jsize count,
                                     const jbyte* values) {
-    setRegion<std::vector<jbyte>>(env, "SetByteArrayRegion", array, start, count, values);
+    setRegion<std::vector<jbyte>>(env, "SetByteArrayRegion ", array, start, count, values);
   }
 
   static jint* JNICALL getIntElements(JNIEnv* env, jintArray array, jboolean*) {
     MiniJvm& jvm = of(env);
-    if (jvm.enter("GetIntArrayElements", true)) {
+    if (jvm.enter(true, "GetIntArrayElements")) {
       jvm.throwNew(kNoMemory);
       return nullptr;
     }
@@ -368,7 +380,7 @@ struct MiniJvm::Functions {
   }
   static void JNICALL releaseIntElements(JNIEnv* env, jintArray array, jint* elements, jint) {
     MiniJvm& jvm = of(env);
-    jvm.enter("ReleaseIntArrayElements", false);
+    jvm.enter(false, "ReleaseIntArrayElements");
     auto& target = std::get<std::vector<jint>>(jvm.resolve(array)->payload);
     std::copy_n(elements, target.size(), target.begin());
     --jvm.unreleased_;
@@ -378,7 +390,7 @@ struct MiniJvm::Functions {
   /// The place of an element, or null with the exception where there is none.
   static Object** element(JNIEnv* env, const char* call, jobjectArray array, jsize index) {
     MiniJvm& jvm = of(env);
-    const bool fails = jvm.enter(call, true);
+    const bool fails = jvm.enter(true, call);
     auto& elements = *jvm.resolve(array)->elements();
     if (fails || index < 0 || static_cast<std::size_t>(index) >= elements.size()) {
       jvm.throwNew(kBounds);
@@ -443,17 +455,18 @@ MiniJvm::MiniJvm() : env_{}, table_(std::make_unique<JNINativeInterface_>()) {
 
 MiniJvm::~MiniJvm() = default;
 
-bool MiniJvm::isMissing(const std::string& name) const {
-  return std::find(missing_.begin(), missing_.end(), name) != missing_.end();
+bool MiniJvm::isMissing(std::string_view name) const {
+  return !missing_.empty() && std::find(missing_.begin(), missing_.end(), name) != missing_.end();
 }
 
-bool MiniJvm::enter(const std::string& event, bool fallible) {
-  ++calls_;
-  recorder().add(event);
-  return fallible && ++fallibleCalls_ == failingCall_;
-}
+// The bridge asks by the same constants over and over: what an address named before is tried first,
+// and compared, because a test's own texts come and go.
 
-MiniJvm::Class* MiniJvm::findClass(const std::string& name) {
+MiniJvm::Class* MiniJvm::findClass(const char* name) {
+  Class*& recent = recentClasses_[name];
+  if (recent != nullptr && recent->name == name) {
+    return recent;
+  }
   std::unique_ptr<Class>& type = classes_[name];
   if (type == nullptr) {
     type = std::make_unique<Class>();
@@ -461,16 +474,21 @@ MiniJvm::Class* MiniJvm::findClass(const std::string& name) {
     type->mirror = make(nullptr);
     type->mirror->mirrored = type.get();
   }
-  return type.get();
+  recent = type.get();
+  return recent;
 }
 
-MiniJvm::Member* MiniJvm::findMember(Class* type, const std::string& name,
-                                     const std::string& signature) {
-  std::unique_ptr<Member>& member = type->members[name + ' ' + signature];
+MiniJvm::Member* MiniJvm::findMember(Class* type, const char* name, const char* signature) {
+  Member*& recent = type->recentMembers[name];
+  if (recent != nullptr && recent->name == name && recent->signature == signature) {
+    return recent;
+  }
+  std::unique_ptr<Member>& member = type->members[std::string(name) + ' ' + signature];
   if (member == nullptr) {
     member = std::make_unique<Member>(Member{name, signature, type->members.size() - 1});
   }
-  return member.get();
+  recent = member.get();
+  return recent;
 }
 
 MiniJvm::Object* MiniJvm::make(Class* type) {
@@ -505,7 +523,7 @@ MiniJvm::Object* MiniJvm::makeInput(const std::string& signature) {
 
 MiniJvm::Object* MiniJvm::makeThrowable(const std::string& className, const std::string& message,
                                         jint code) {
-  Object* const throwable = make(findClass(className));
+  Object* const throwable = make(findClass(className.c_str()));
   throwable->payload = message;
   slotOf(throwable, findMember(throwable->type, "code", "I")).number = code;
   return throwable;
@@ -545,7 +563,7 @@ MiniJvm::Object* MiniJvm::resolve(jobject reference) {
 
 MiniJvm::Slot& MiniJvm::slotOf(Object* object, const Member* member) {
   if (object->slots.size() <= member->index) {
-    object->slots.resize(member->index + 1);
+    object->slots.resize(object->type->members.size());
   }
   return object->slots[member->index];
 }
@@ -580,13 +598,13 @@ jintArray MiniJvm::newInts(const std::vector<jint>& values) {
 
 void MiniJvm::setInt(jobject object, const std::string& name, jint value) {
   Object* const target = resolve(object);
-  slotOf(target, findMember(target->type, name, "I")) = {true, value, nullptr};
+  slotOf(target, findMember(target->type, name.c_str(), "I")) = {true, value, nullptr};
 }
 
 void MiniJvm::setObject(jobject object, const std::string& name, const std::string& signature,
                         jobject value) {
   Object* const target = resolve(object);
-  slotOf(target, findMember(target->type, name, signature)) = {
+  slotOf(target, findMember(target->type, name.c_str(), signature.c_str())) = {
       true, 0, value == nullptr ? nullptr : resolve(value)};
 }
 

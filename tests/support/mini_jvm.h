@@ -7,6 +7,8 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <unordered_map>
 #include <variant>
 #include <vector>
 
@@ -94,8 +96,8 @@ class MiniJvm {
     Object* object = nullptr;
   };
 
-  Class* findClass(const std::string& name);
-  Member* findMember(Class* type, const std::string& name, const std::string& signature);
+  Class* findClass(const char* name);
+  Member* findMember(Class* type, const char* name, const char* signature);
   Object* make(Class* type);
   Object* makeInput(const std::string& signature);
   Object* makeThrowable(const std::string& className, const std::string& message, jint code = 0);
@@ -103,14 +105,16 @@ class MiniJvm {
   Object* resolve(jobject reference);
   Slot& slotOf(Object* object, const Member* member);
   Slot& namedSlot(jobject object, const std::string& name);
-  bool isMissing(const std::string& name) const;
+  bool isMissing(std::string_view name) const;
   /// Enters a JNI call: counts and traces it. True where it is to fail.
-  bool enter(const std::string& event, bool fallible);
+  template <class... Detail>
+  bool enter(bool fallible, const char* call, const Detail&... detail);
   void throwNew(const std::string& className, const std::string& message = "");
 
   Env env_;
   std::unique_ptr<JNINativeInterface_> table_;
   std::map<std::string, std::unique_ptr<Class>> classes_;
+  std::unordered_map<const void*, Class*> recentClasses_;
   std::deque<Object> objects_;
   std::deque<Reference> references_;
   std::vector<std::string> missing_;
