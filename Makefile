@@ -2,7 +2,7 @@
 BUILD := build/linux
 JAVA := java -Djava.library.path=$(BUILD)/lib
 
-.PHONY: tour test benchmark clean packages-build packages-test
+.PHONY: tour test benchmark dist clean packages-build packages-test packages-dist
 
 tour: packages-build
 	cmake --preset linux -DQUORVELJ_TESTS=OFF
@@ -17,7 +17,10 @@ benchmark: packages-test
 	cmake --build --preset linux
 	$(BUILD)/lib/benchmarks --benchmark_min_time=3
 
-packages-build packages-test:
+dist: packages-dist
+	scripts/dist.sh
+
+packages-build packages-test packages-dist:
 	scripts/install-packages.sh $(@:packages-%=%)
 
 clean:

@@ -52,9 +52,16 @@ target_include_directories(quorvelj_java SYSTEM INTERFACE
   "$<IF:$<BOOL:${WIN32}>,${PROJECT_SOURCE_DIR}/cmake/win32,${java_home}/include/linux>"
   "${java_home}/include")
 
-if(NOT CMAKE_CROSSCOMPILING)
-  # A Java virtual machine to run inside a test or a benchmark.
+# A Java virtual machine of the target's width, to run inside a test or a benchmark: the compiler's
+# own, or the one that Debian installs beside it.
+set(jvm_home "${java_home}")
+if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+  string(REPLACE "-amd64" "-i386" jvm_home "${java_home}")
+endif()
+if(NOT WIN32 AND EXISTS "${jvm_home}/lib/server/libjvm.so")
   add_library(quorvelj_jvm SHARED IMPORTED)
   set_target_properties(quorvelj_jvm PROPERTIES
-    IMPORTED_LOCATION "${java_home}/lib/server/libjvm.so")
+    IMPORTED_LOCATION "${jvm_home}/lib/server/libjvm.so")
+  # Debian's 32-bit libjvm leaves a name open that it never calls.
+  target_link_options(quorvelj_jvm INTERFACE -Wl,--unresolved-symbols=ignore-in-shared-libs)
 endif()

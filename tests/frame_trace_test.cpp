@@ -1,6 +1,7 @@
 // The exact order of JNI calls, allocations, releases, flushes and library calls in every frame.
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <cstring>
 
 #include "arraylib/accounts.h"
@@ -218,7 +219,7 @@ TEST_F(FrameTrace, QuietTable) {
   EXPECT_EQ(jvm_.pending()->code, -1);
   none.i = -1;
   expectSame(traceMethod("QV_GetUnitParamTable", {none}),
-             Events({"calloc 18446744073709551615 x 612"}));
+             Events({"calloc " + std::to_string(SIZE_MAX) + " x 612"}));
 }
 
 TEST_F(FrameTrace, DiscoveryReleasesItsRequestWithoutMemory) {

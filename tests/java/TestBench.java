@@ -1,15 +1,17 @@
+import java.io.IOException;
 import java.lang.reflect.Array;
 import java.lang.reflect.Field;
 import java.lang.reflect.InvocationTargetException;
 import java.lang.reflect.Method;
 import java.util.Arrays;
+import java.util.Collections;
+import java.util.jar.JarEntry;
+import java.util.jar.JarFile;
 import tessaly.str.diskarray.DiskArrayException;
 import tessaly.str.diskarray.DiskArrayUtilityJNI;
 
 /** What the native tests do in Java: calls by name, and fields by paths like "role_info[3].role_name". */
 public final class TestBench {
-    private static final DiskArrayUtilityJNI ARRAY = new DiskArrayUtilityJNI();
-
     /** How the last call failed: "" or "DiskArrayException 258". */
     public static String failure;
 
@@ -20,7 +22,7 @@ public final class TestBench {
         for (Method method : DiskArrayUtilityJNI.class.getMethods()) {
             if (method.getName().equals(name)) {
                 try {
-                    return method.invoke(ARRAY, arguments);
+                    return method.invoke(new DiskArrayUtilityJNI(), arguments);
                 } catch (InvocationTargetException thrown) {
                     failure = describe(thrown.getCause());
                     return null;
@@ -100,6 +102,34 @@ public final class TestBench {
         Field target = root.getClass().getField(field);
         target.set(root, length < 0
                 ? null : Array.newInstance(target.getType().getComponentType(), length));
+    }
+
+    /**
+     * Prints the fields of every class of a jar: "QVSessionInfo session_id [B 32", with the length
+     * of the array that the constructor makes, or -1.
+     */
+    public static void main(String[] arguments) throws ReflectiveOperationException, IOException {
+        try (JarFile jar = new JarFile(arguments[0])) {
+            for (JarEntry entry : Collections.list(jar.entries())) {
+                String name = entry.getName().replace(".class", "").replace('/', '.');
+                if (!entry.getName().endsWith(".class") || name.matches(".*(JNI|Exception|package-info)")) {
+                    continue;
+                }
+                Object object = Class.forName(name).getConstructor().newInstance();
+                for (Field field : object.getClass().getFields()) {
+                    Object value = field.get(object);
+                    boolean made = value != null && value.getClass().isArray();
+                    System.out.println(object.getClass().getSimpleName() + " " + field.getName() + " "
+                            + signature(field.getType()) + " " + (made ? Array.getLength(value) : -1));
+                }
+            }
+        }
+    }
+
+    private static String signature(Class<?> type) {
+        return type == int.class
+                ? "I"
+                : Array.newInstance(type, 0).getClass().getName().replace('.', '/').substring(1);
     }
 
     private static String[] steps(String path) {

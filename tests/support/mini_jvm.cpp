@@ -15,12 +15,15 @@ struct MiniJvm::Member {
   std::string name;
   std::string signature;
   std::size_t index;
+  /// The length of the array that the constructor makes, or -1.
+  int madeLength = -1;
 };
 
 struct MiniJvm::Class {
   std::string name;
   std::map<std::string, std::unique_ptr<Member>> members;
   std::unordered_map<const void*, Member*> recentMembers;
+  bool learnt = false;
   Object* mirror = nullptr;
 };
 
@@ -112,6 +115,11 @@ struct MiniJvm::Functions {
       jvm.throwNew(error, name);
       return nullptr;
     }
+    if (mirror->mirrored->learnt && *name != '<' &&
+        !mirror->mirrored->members.contains(std::string(name) + ' ' + signature)) {
+      jvm.throwNew(error, name);
+      return nullptr;
+    }
     return jvm.findMember(mirror->mirrored, name, signature);
   }
   static jfieldID JNICALL getFieldId(JNIEnv* env, jclass type, const char* name,
@@ -133,6 +141,13 @@ struct MiniJvm::Functions {
     }
     const auto* const constructor = reinterpret_cast<Member*>(id);
     Object* const object = jvm.make(jvm.resolve(type)->mirrored);
+    for (const auto& [key, member] : object->type->members) {
+      if (member->madeLength >= 0) {
+        Object* const array = jvm.make(jvm.findClass("[B"));
+        array->payload = std::vector<jbyte>(static_cast<std::size_t>(member->madeLength));
+        jvm.slotOf(object, member.get()) = {true, 0, array};
+      }
+    }
     if (constructor->signature == "(I)V") {
       jvm.slotOf(object, jvm.findMember(object->type, "code", "I")) = {
           true, va_arg(arguments, jint), nullptr};
@@ -204,7 +219,8 @@ struct MiniJvm::Functions {
       ++jvm.misuses_;
     }
     Slot& slot = jvm.slotOf(target, field);
-    if (!slot.set && *call == 'G' && (target->input || field->signature == "[B")) {
+    if (!slot.set && *call == 'G' && !target->type->learnt &&
+        (target->input || field->signature == "[B")) {
       slot.set = true;
       if (reference) {
         slot.object = jvm.makeInput(field->signature);
@@ -485,7 +501,7 @@ MiniJvm::Member* MiniJvm::findMember(Class* type, const char* name, const char* 
   }
   std::unique_ptr<Member>& member = type->members[std::string(name) + ' ' + signature];
   if (member == nullptr) {
-    member = std::make_unique<Member>(Member{name, signature, type->members.size() - 1});
+    member = std::make_unique<Member>(Member{name, signature, type->members.size() - 1, -1});
   }
   recent = member.get();
   return recent;
@@ -567,6 +583,28 @@ MiniJvm::Slot& MiniJvm::slotOf(Object* object, const Member* member) {
   }
   return object->slots[member->index];
 }
+
+void MiniJvm::learnClasses(std::istream& fields) {
+  std::string className;
+  std::string name;
+  std::string signature;
+  for (int length = 0; fields >> className >> name >> signature >> length;) {
+    Class* const type = findClass(("tessaly/str/diskarray/" + className).c_str());
+    type->learnt = true;
+    findMember(type, name.c_str(), signature.c_str())->madeLength = length;
+  }
+}
+
+std::string MiniJvm::signatureOf(jobject object, const std::string& field) {
+  for (const auto& [key, member] : resolve(object)->type->members) {
+    if (member->name == field) {
+      return member->signature;
+    }
+  }
+  return "";
+}
+
+std::string MiniJvm::classOf(jobject object) { return resolve(object)->type->name; }
 
 jstring MiniJvm::newText(const std::string& text) {
   Object* const object = make(findClass("java/lang/String"));

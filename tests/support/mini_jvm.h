@@ -3,6 +3,7 @@
 #include <jni.h>
 
 #include <deque>
+#include <istream>
 #include <map>
 #include <memory>
 #include <optional>
@@ -39,6 +40,14 @@ class MiniJvm {
   MiniJvm& operator=(const MiniJvm&) = delete;
 
   JNIEnv* env() { return &env_.env; }
+
+  /// Learns classes, a field a line: "QVSessionInfo session_id [B 32", with the length of the array
+  /// that the constructor makes, or -1. A class that was learnt has these fields and no others.
+  void learnClasses(std::istream& fields);
+  /// The signature of a field of a learnt class, or "" where it has none of that name.
+  std::string signatureOf(jobject object, const std::string& field);
+  /// Slash form.
+  std::string classOf(jobject object);
 
   /// Objects for a test to hand over. An input's fields follow the profile until they are set.
   jstring newText(const std::string& text);

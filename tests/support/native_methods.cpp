@@ -2,54 +2,8 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <utility>
-
-#include "tessaly_str_diskarray_DiskArrayUtilityJNI.h"
 
 namespace quorvelj::testing {
-namespace {
-
-template <class Value>
-Value unpack(const jvalue& argument) {
-  if constexpr (std::is_same_v<Value, jint>) {
-    return argument.i;
-  } else {
-    return static_cast<Value>(argument.l);
-  }
-}
-
-template <auto Function>
-struct Invoker;
-
-template <class Result, class... Argument, Result(JNICALL* Function)(JNIEnv*, jobject, Argument...)>
-struct Invoker<Function> {
-  static jvalue invoke(JNIEnv* env, const std::vector<jvalue>& arguments) {
-    return [&]<std::size_t... Index>(std::index_sequence<Index...>) {
-      jvalue result{};
-      if constexpr (std::is_same_v<Result, void>) {
-        Function(env, nullptr, unpack<Argument>(arguments[Index])...);
-      } else if constexpr (std::is_same_v<Result, jint>) {
-        result.i = Function(env, nullptr, unpack<Argument>(arguments[Index])...);
-      } else {
-        result.l = Function(env, nullptr, unpack<Argument>(arguments[Index])...);
-      }
-      return result;
-    }
-    (std::index_sequence_for<Argument...>{});
-  }
-};
-
-const std::vector<NativeMethod>& table() {
-#define NATIVE_METHOD_ENTRY(name, escaped, signature) \
-  {#name, signature, Invoker<&Java_tessaly_str_diskarray_DiskArrayUtilityJNI_##escaped>::invoke},
-  static const std::vector<NativeMethod> methods{
-#include "native_methods.inc"
-  };
-#undef NATIVE_METHOD_ENTRY
-  return methods;
-}
-
-}  // namespace
 
 std::vector<std::string> NativeMethod::argumentTypes() const {
   std::vector<std::string> types;
@@ -67,10 +21,8 @@ char NativeMethod::resultKind() const {
   return kind == '[' ? 'L' : kind;
 }
 
-std::span<const NativeMethod> nativeMethods() { return table(); }
-
 const NativeMethod& nativeMethod(const std::string& name) {
-  for (const NativeMethod& method : table()) {
+  for (const NativeMethod& method : nativeMethods()) {
     if (method.name == name) {
       return method;
     }

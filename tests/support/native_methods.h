@@ -2,6 +2,7 @@
 
 #include <jni.h>
 
+#include <functional>
 #include <ostream>
 #include <span>
 #include <string>
@@ -13,7 +14,7 @@ namespace quorvelj::testing {
 struct NativeMethod {
   std::string name;       // "QV_GetUnitParam"
   std::string signature;  // "(Ljava/lang/String;)Ltessaly/str/diskarray/QVUnitParam;"
-  jvalue (*invoke)(JNIEnv* env, const std::vector<jvalue>& arguments);
+  std::function<jvalue(JNIEnv* env, const std::vector<jvalue>& arguments)> invoke;
 
   /// The JNI types of the arguments: "I", "Ljava/lang/String;".
   std::vector<std::string> argumentTypes() const;
@@ -23,7 +24,8 @@ struct NativeMethod {
   friend void PrintTo(const NativeMethod& method, std::ostream* out) { *out << method.name; }
 };
 
-/// All of them. There is no list to keep: a method is here by being declared in Java.
+/// All of them: those linked into this program, or those of the DLL that it loads. There is no list
+/// to keep: a method is here by being declared in Java.
 std::span<const NativeMethod> nativeMethods();
 
 const NativeMethod& nativeMethod(const std::string& name);

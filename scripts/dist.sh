@@ -1,0 +1,30 @@
+#!/usr/bin/env bash
+# Makes dist/quorvelj-<version>.zip and .tar.gz: the DLL, the Linux libraries of both widths, the
+# jars, the library's headers and the README, with SHA-256 sums. Equal sources give equal bytes.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+version=$(sed -n 's/^project(quorvelj VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
+name="quorvelj-$version"
+root="dist/$name"
+rm -rf dist
+mkdir -p "$root"/{windows-x86,linux-x86_64,linux-i386,arraylib}
+
+for preset in windows-x86 linux-i386 linux; do
+  cmake --preset "$preset" >/dev/null
+  cmake --build --preset "$preset" --target quorvelj java_half array_tour
+done
+cp build/windows-x86/lib/quorvelj.dll "$root/windows-x86/"
+strip -o "$root/linux-i386/libquorvelj.so" build/linux-i386/lib/libquorvelj.so
+strip -o "$root/linux-x86_64/libquorvelj.so" build/linux/lib/libquorvelj.so
+cp build/linux/lib/{quorvelj,array-tour}.jar README.md "$root/"
+cp arraylib/*.h "$root/arraylib/"
+(cd "$root" && find . -type f ! -name SHA256SUMS -printf '%P\n' | LC_ALL=C sort |
+  xargs sha256sum >SHA256SUMS)
+
+# One time, one owner and one order for all entries, and no more of the file system than that.
+find "$root" -exec touch --no-dereference --date=2024-01-01T00:00:00Z {} +
+tar --directory dist --sort=name --mtime=2024-01-01T00:00:00Z --owner=0 --group=0 --numeric-owner \
+  --mode=u=rwX,go=rX -cf - "$name" | gzip --no-name >"dist/$name.tar.gz"
+(cd dist && find "$name" -type f | LC_ALL=C sort | TZ=UTC zip --quiet -X "$name.zip" -@)
+(cd dist && sha256sum "$name.zip" "$name.tar.gz" | tee "$name.sha256")

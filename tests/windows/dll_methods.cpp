@@ -1,0 +1,125 @@
+// The native methods of quorvelj.dll, found by their decorated names and called as stdcall
+// functions.
+#include "tests/windows/dll_methods.h"
+
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <cstdio>
+#include <cstdlib>
+
+#include "tests/support/native_methods.h"
+
+namespace quorvelj::testing {
+namespace {
+
+struct Entry {
+  const char* name;
+  const char* escaped;
+  const char* signature;
+};
+
+constexpr Entry kEntries[] = {
+#define NATIVE_METHOD_ENTRY(name, escaped, signature) {#name, #escaped, signature},
+#include "native_methods.inc"
+#undef NATIVE_METHOD_ENTRY
+};
+
+HMODULE dll() {
+  static const HMODULE module = LoadLibraryA("quorvelj.dll");
+  if (module == nullptr) {
+    std::fprintf(stderr, "quorvelj.dll cannot be loaded: error %lu\n", GetLastError());
+    std::abort();
+  }
+  return module;
+}
+
+/// One stdcall call by hand: what is pushed, what comes back, and how much the callee popped.
+struct StdcallFrame {
+  FARPROC function;
+  const std::uint32_t* words;
+  std::uint32_t count;
+  std::uint32_t padding;  // bytes left free below the words, to try other stack alignments
+  std::uint32_t result;
+  std::uint32_t popped;
+};
+
+void callStdcall(StdcallFrame& frame) {
+  asm volatile(
+      "movl %%esp, %%edi\n\t"
+      "subl 12(%%ebx), %%esp\n\t"
+      "movl 8(%%ebx), %%ecx\n\t"
+      "movl 4(%%ebx), %%edx\n"
+      "1:\n\t"
+      "testl %%ecx, %%ecx\n\t"
+      "jz 2f\n\t"
+      "pushl -4(%%edx,%%ecx,4)\n\t"
+      "decl %%ecx\n\t"
+      "jmp 1b\n"
+      "2:\n\t"
+      "movl %%esp, %%esi\n\t"
+      "call *(%%ebx)\n\t"
+      "movl %%esp, %%ecx\n\t"
+      "movl %%edi, %%esp\n\t"
+      "subl %%esi, %%ecx\n\t"
+      "movl %%ecx, 20(%%ebx)\n\t"
+      "movl %%eax, 16(%%ebx)\n\t"
+      :
+      : "b"(&frame)
+      : "eax", "ecx", "edx", "esi", "edi", "memory", "cc");
+}
+
+DllCalls counted;
+
+jvalue invoke(FARPROC function, const NativeMethod& method, JNIEnv* env,
+              const std::vector<jvalue>& arguments) {
+  std::vector<std::uint32_t> words{reinterpret_cast<std::uint32_t>(env), 0};
+  for (const jvalue& argument : arguments) {
+    words.push_back(static_cast<std::uint32_t>(argument.i));
+  }
+  StdcallFrame frame{};
+  frame.function = function;
+  frame.words = words.data();
+  frame.count = static_cast<std::uint32_t>(words.size());
+  frame.padding = 4 * (static_cast<std::uint32_t>(counted.calls) % 4);
+  callStdcall(frame);
+  ++counted.calls;
+  counted.methods.insert(method.name);
+  EXPECT_EQ(frame.popped, 4 * frame.count) << method.name << " does not clean its stack";
+  jvalue result{};
+  if (method.resultKind() != 'V') {
+    result.i = static_cast<jint>(frame.result);
+  }
+  return result;
+}
+
+std::vector<NativeMethod> load() {
+  std::vector<NativeMethod> methods;
+  for (const Entry& entry : kEntries) {
+    NativeMethod method{entry.name, entry.signature, nullptr};
+    const std::string symbol = std::string("_Java_tessaly_str_diskarray_DiskArrayUtilityJNI_") +
+                               entry.escaped + '@' +
+                               std::to_string(8 + 4 * method.argumentTypes().size());
+    const FARPROC function = GetProcAddress(dll(), symbol.c_str());
+    if (function == nullptr) {
+      std::fprintf(stderr, "not exported: %s\n", symbol.c_str());
+      std::abort();
+    }
+    method.invoke = [function, method](JNIEnv* env, const std::vector<jvalue>& arguments) {
+      return invoke(function, method, env, arguments);
+    };
+    methods.push_back(method);
+  }
+  return methods;
+}
+
+}  // namespace
+
+std::span<const NativeMethod> nativeMethods() {
+  static const std::vector<NativeMethod> methods = load();
+  return methods;
+}
+
+const DllCalls& dllCalls() { return counted; }
+
+}  // namespace quorvelj::testing
