@@ -2,7 +2,7 @@
 BUILD := build/linux
 JAVA := java -Djava.library.path=$(BUILD)/lib
 
-.PHONY: tour test benchmark dist clean packages-build packages-test packages-dist
+.PHONY: tour test benchmark dist reference clean packages-build packages-test packages-dist
 
 tour: packages-build
 	cmake --preset linux -DQUORVELJ_TESTS=OFF
@@ -16,6 +16,10 @@ benchmark: packages-test
 	cmake --preset linux -DQUORVELJ_BENCHMARKS=ON
 	cmake --build --preset linux
 	$(BUILD)/lib/benchmarks --benchmark_min_time=3
+
+reference: packages-test
+	cmake --preset linux
+	cmake --build --preset linux --target write_reference
 
 dist: packages-dist
 	scripts/dist.sh
