@@ -34,22 +34,26 @@ work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 chmod 755 "$work"
 
-# A list that cannot be fetched need not matter: what counts is whether the packages can be had.
+# A list that cannot be fetched need not matter: what counts is whether the packages can be had. None
+# may go for them: a second architecture's packages would rather push out those of the first.
 install() {
   apt-get "$@" update >>"$work/log" 2>&1 || true
-  apt-get "$@" install -y --no-install-recommends "${missing[@]}" >>"$work/log" 2>&1
+  apt-get "$@" install -y --no-install-recommends --no-remove "${missing[@]}" >>"$work/log" 2>&1
 }
 
 # The same without the security suite, whose lists of a second architecture are not everywhere to be
-# had: its packages of one architecture then match none of the other.
+# had. Packages must be of one version in both architectures, so those that came from that suite go
+# back to the version of the others.
 install_without_security() {
   mkdir -p "$work/parts" "$work/lists/partial"
   awk 'BEGIN { RS = ""; ORS = "\n\n" } !/-security/' /etc/apt/sources.list.d/*.sources \
     >"$work/parts/debian.sources" 2>/dev/null || true
   cat /etc/apt/sources.list /etc/apt/sources.list.d/*.list 2>/dev/null |
     grep -v -e '-security' >"$work/parts/debian.list" || true
+  printf 'Package: *\nPin: release o=Debian\nPin-Priority: 1001\n' >"$work/preferences"
   install -o Dir::Etc::sourcelist=/dev/null -o "Dir::Etc::sourceparts=$work/parts" \
-    -o "Dir::State::lists=$work/lists"
+    -o "Dir::State::lists=$work/lists" -o "Dir::Etc::preferences=$work/preferences" \
+    -o Dir::Etc::preferencesparts=/dev/null -o APT::Get::allow-downgrades=true
 }
 
 if [[ " ${missing[*]}" == *:i386* ]] && ! dpkg --print-foreign-architectures | grep -qx i386; then

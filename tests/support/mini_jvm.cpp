@@ -60,6 +60,7 @@ namespace {
 
 constexpr char kText[] = "Ljava/lang/String;";
 constexpr char kBounds[] = "java/lang/ArrayIndexOutOfBoundsException";
+constexpr std::size_t kMostRows = 100;
 constexpr char kNoMemory[] = "java/lang/OutOfMemoryError";
 
 template <class Pointer>
@@ -528,7 +529,9 @@ MiniJvm::Object* MiniJvm::makeInput(const std::string& signature) {
   } else if (signature == "[S") {
     object->payload = std::vector<jshort>(profile.primitives, jshort{1234});
   } else if (signature[0] == '[') {
-    std::vector<Object*> elements(profile.objects);
+    // The rows of a table are fewer than the elements of a list, or an input would be all of memory.
+    const bool table = signature[1] == '[';
+    std::vector<Object*> elements(table ? std::min(profile.objects, kMostRows) : profile.objects);
     std::generate(elements.begin(), elements.end(), [&] { return makeInput(signature.substr(1)); });
     object->payload = std::move(elements);
   } else {
