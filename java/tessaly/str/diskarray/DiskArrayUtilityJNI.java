@@ -60,11 +60,245 @@ public class DiskArrayUtilityJNI {
 
     // Unit login, session and array users
 
+    /**
+     * Logs in to a unit. Returns two texts, or null where the array names nobody; a text that could
+     * not be made is null.
+     */
+    public native String[] QV_LoginQVUnit(String unit, int mode, ArrayUser user)
+            throws DiskArrayException;
+
+    /** Returns who is logged in, as {@link #QV_LoginQVUnit} does. */
+    public native String[] QV_GetLoginUser(String unit, int mode) throws DiskArrayException;
+
+    /** Logs out of a unit. */
+    public native void QV_LogoutQVUnit(String unit, int mode) throws DiskArrayException;
+
+    /** Returns whether somebody is logged in. */
+    public native int QV_CheckLogin(String unit, int mode) throws DiskArrayException;
+
+    /** Ends whatever login there is. */
+    public native void QV_ResetLogin(String unit, int mode) throws DiskArrayException;
+
+    /** Keeps a session from ending by itself. */
+    public native void QV_KeepSession(String unit, QVSessionInfo session)
+            throws DiskArrayException;
+
+    /** Throws where the unit is not ready. */
+    public native void QV_TestUnitReady(String unit, int mode) throws DiskArrayException;
+
+    /** Restarts a unit. */
+    public native void QV_UnitReboot(String unit, QVSessionInfo session)
+            throws DiskArrayException;
+
+    /** Sets the password of the library; a null password throws code 258. */
+    public native void QV_PasswdChange(String password) throws DiskArrayException;
+
+    /** Checks the password of the library: returns 0 or -1. A null password throws code 258. */
+    public native int QV_PasswdCheck(String password) throws DiskArrayException;
+
+    /** Adds a user to the array's own list. */
+    public native void QV_RegistUser(String unit, int number, ArrayUser user)
+            throws DiskArrayException;
+
+    /** Changes a user of the array's own list. */
+    public native void QV_ChangeUser(
+            String unit, int number, ArrayUser oldUser, ArrayUser newUser)
+            throws DiskArrayException;
+
+    /** Takes a user from the array's own list. */
+    public native void QV_DeleteUser(String unit, int number, ArrayUser user)
+            throws DiskArrayException;
+
+    /** Empties the array's own list of users. */
+    public native void QV_DeleteAllUser(String unit, int number) throws DiskArrayException;
+
+    /** Returns the state of the array's own list of users. */
+    public native QVUserRegist QV_GetUserInformation(String unit, int number)
+            throws DiskArrayException;
+
+    /** Returns what kind of array a unit is. */
+    public native UnitInformation QV_GetUnitInformation(String unit, QVSessionInfo session)
+            throws DiskArrayException;
+
+    /** Returns the kind of each controller's ports. */
+    public native CTLPortKind QV_GetUnitCTLPortKind(String unit, QVSessionInfo session)
+            throws DiskArrayException;
+
+    /** Returns the time of a unit's clock. A null name is an empty one. */
+    public native QVTime QV_GetUnitTime(String unit, QVSessionInfo session)
+            throws DiskArrayException;
+
+    /** Sets a unit's clock; a null time throws code -1. A null name is an empty one. */
+    public native void QV_SetUnitTime(String unit, QVSessionInfo session, QVTime time)
+            throws DiskArrayException;
+
+    /** Sets a unit's clock to the host's time. A null name is an empty one. */
+    public native void QV_SetUnitTimeNow(String unit, QVSessionInfo session)
+            throws DiskArrayException;
+
+    /** Returns how an array identifies itself. */
+    public native UnitIdentifier QV_GetUnitIdentifier(String unit, QVSessionInfo session)
+            throws DiskArrayException;
+
+    /** Sets how an array identifies itself. */
+    public native void QV_SetUnitIdentifier(
+            String unit, QVSessionInfo session, UnitIdentifier identifier)
+            throws DiskArrayException;
+
+    /** Returns the settings of an array for its time. */
+    public native TimeInfo QV_GetTimeInfo(String unit, QVSessionInfo session)
+            throws DiskArrayException;
+
+    /** Sets the settings of an array for its time. */
+    public native void QV_SetTimeInfo(String unit, QVSessionInfo session, TimeInfo info)
+            throws DiskArrayException;
+
     // Unit condition
+
+    /** Returns the condition of every replaceable part. */
+    public native UnitCondition QV_GetUnitCondition(
+            String unit, QVSessionInfo session, int option) throws DiskArrayException;
+
+    /** Returns the summary of an array to a user, or to a session that is open. */
+    public native ArrayCondition QV_GetArrayCondition(String unit, ArrayConditionRequest request)
+            throws DiskArrayException;
 
     // All-information bundles
 
     // Drives and parts
+
+    /** Returns what one drive is. */
+    public native DiskDriveInformation QV_GetDriveInformation(
+            String unit, QVSessionInfo session, int first, int second) throws DiskArrayException;
+
+    /**
+     * Returns what the drives are in the flat form, 450 elements. The elements from one that could
+     * not be built on are null.
+     */
+    public native DiskDriveInformation[] QV_GetDriveInformationAll(
+            String unit, QVSessionInfo session) throws DiskArrayException;
+
+    /** Returns what the drives are, by enclosure. */
+    public native DiskDriveInformationAll QV_GetDiskDriveInformationAll(
+            String unit, QVSessionInfo session) throws DiskArrayException;
+
+    /** Returns the state of the drives, by enclosure. */
+    public native DiskDriveStatusAll QV_GetDiskDriveStatusAll(String unit, QVSessionInfo session)
+            throws DiskArrayException;
+
+    /**
+     * Returns the state of the drives in the flat form, 450 elements. A null name is an empty one.
+     */
+    public native DiskDrive[] QV_GetDriveStatus(String unit, QVSessionInfo session)
+            throws DiskArrayException;
+
+    /** Returns how far the reconstruction of a drive has come. */
+    public native DriveReconstructInformation QV_DriveReconstructInformation(
+            String unit, QVSessionInfo session, int first, int second) throws DiskArrayException;
+
+    /** Returns how drives are restored and spared. */
+    public native DiskDriveRestoration QV_GetDiskDriveRestoration(
+            String unit, QVSessionInfo session) throws DiskArrayException;
+
+    /** Sets how drives are restored and spared. */
+    public native void QV_SetDiskDriveRestoration(
+            String unit, QVSessionInfo session, DiskDriveRestoration restoration)
+            throws DiskArrayException;
+
+    /** Returns how SATA drives are maintained. */
+    public native SATADriveInformation QV_GetSATADriveInformation(
+            String unit, QVSessionInfo session) throws DiskArrayException;
+
+    /** Sets how SATA drives are maintained. */
+    public native void QV_SetSATADriveInformation(
+            String unit, QVSessionInfo session, SATADriveInformation information)
+            throws DiskArrayException;
+
+    /** Returns how SATA drives are restored. */
+    public native SATADriveRestoration QV_GetSATADriveRestoration(
+            String unit, QVSessionInfo session) throws DiskArrayException;
+
+    /** Sets how SATA drives are restored. */
+    public native void QV_SetSATADriveRestoration(
+            String unit, QVSessionInfo session, SATADriveRestoration restoration)
+            throws DiskArrayException;
+
+    /** Returns how drives' response times are diagnosed. */
+    public native DriveResponseDiag QV_GetDriveResponseDiag(String unit, QVSessionInfo session)
+            throws DiskArrayException;
+
+    /** Sets how drives' response times are diagnosed. */
+    public native void QV_SetDriveResponseDiag(
+            String unit, QVSessionInfo session, DriveResponseDiag diagnosis)
+            throws DiskArrayException;
+
+    /** Sets the mode of a drive. */
+    public native void QV_SetDriveMode(
+            String unit, QVSessionInfo session, int first, int second, int third)
+            throws DiskArrayException;
+
+    /** Returns the power saving by RAID group and by logical unit. */
+    public native SpinDownUpInformation QV_GetSpinDownUpInformation(
+            String unit, QVSessionInfo session) throws DiskArrayException;
+
+    /** Spins down the drives of a RAID group. */
+    public native void QV_SpinDownDriveByRG(String unit, QVSessionInfo session, int raidGroup)
+            throws DiskArrayException;
+
+    /** Spins up the drives of a RAID group. */
+    public native void QV_SpinUpDriveByRG(String unit, QVSessionInfo session, int raidGroup)
+            throws DiskArrayException;
+
+    /** Returns the parts of an array. */
+    public native PartsList QV_GetPartsList(String unit, QVSessionInfo session)
+            throws DiskArrayException;
+
+    /** Writes the parts of an array to a file; a null path throws code 258. */
+    public native void QV_PartsListExport(String unit, QVSessionInfo session, String path)
+            throws DiskArrayException;
+
+    /** Returns the parts that failed. */
+    public native ObstPartsInformation QV_GetObstPartsInformation(
+            String unit, QVSessionInfo session) throws DiskArrayException;
+
+    /** Returns the enclosure controllers. */
+    public native ENCStatusList QV_GetENCStatusList(String unit, QVSessionInfo session)
+            throws DiskArrayException;
+
+    /** Returns the batteries of an array. */
+    public native BatteryConfig QV_GetBatteryConfig(String unit, QVSessionInfo session)
+            throws DiskArrayException;
+
+    /** Sets the batteries of an array. */
+    public native void QV_SetBatteryConfig(String unit, QVSessionInfo session, BatteryConfig config)
+            throws DiskArrayException;
+
+    /** Returns which locate LEDs are lit. */
+    public native LocateLEDInformation QV_GetLocateLEDInformation(
+            String unit, QVSessionInfo session) throws DiskArrayException;
+
+    /** Lights locate LEDs. */
+    public native void QV_SetLocateLEDInformation(
+            String unit, QVSessionInfo session, LocateLEDInformation information)
+            throws DiskArrayException;
+
+    /** Returns the data that is pinned in the cache. */
+    public native PINInformation QV_GetIntegrationPinInfo(String unit, QVSessionInfo session)
+            throws DiskArrayException;
+
+    /** Returns the data that is pinned in the cache in the short form, 8192 elements. */
+    public native int[] QV_GetPinInfo2(String unit, QVSessionInfo session)
+            throws DiskArrayException;
+
+    /** Lets go of the data that is pinned in the cache. */
+    public native void QV_FlushPinInfo(String unit, QVSessionInfo session)
+            throws DiskArrayException;
+
+    /** Returns the library's number on the data that is pinned in the cache. */
+    public native int QV_GetPinInfo(String unit, int option) throws DiskArrayException;
+
+    /** Returns the library's number on the time that asking for pinned data takes. */
+    public native int QV_GetPinInfoGetTime(String unit, int option) throws DiskArrayException;
 
     // Performance collection and output
 

@@ -1,0 +1,6 @@
+package tessaly.str.diskarray;
+
+/** The batteries of an array. */
+public class BatteryConfig {
+    public int battery_count;
+}

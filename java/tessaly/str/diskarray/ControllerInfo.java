@@ -1,0 +1,4 @@
+package tessaly.str.diskarray;
+
+/** A controller, as an array identifies itself; its fields are not known. */
+public class ControllerInfo {}

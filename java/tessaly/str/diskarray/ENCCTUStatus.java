@@ -1,0 +1,7 @@
+package tessaly.str.diskarray;
+
+/** The enclosure controllers of the controller unit. */
+public class ENCCTUStatus {
+    /** 2 elements. */
+    public ENCStatus[] enc;
+}

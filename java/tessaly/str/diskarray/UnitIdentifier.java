@@ -1,0 +1,9 @@
+package tessaly.str.diskarray;
+
+/** How an array identifies itself. */
+public class UnitIdentifier {
+    /** At most 4 bytes. */
+    public String equipment_id;
+    /** 2 elements. */
+    public ControllerInfo[] ctl;
+}
