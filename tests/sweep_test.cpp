@@ -1,7 +1,6 @@
 // Every native method, with each JNI call and each allocation failed once, the library's special
 // results, and Java inputs of every kind. What holds after each of them is checked in `check`.
 #include <gtest/gtest.h>
-#include <sanitizer/lsan_interface.h>
 
 #include <algorithm>
 #include <cstdint>
@@ -9,6 +8,7 @@
 #include <map>
 
 #include "simulator/control.h"
+#include "tests/support/departures.h"
 #include "tests/support/mini_jvm.h"
 #include "tests/support/native_methods.h"
 #include "tests/support/test_runtime.h"
@@ -25,50 +25,6 @@ constexpr int kOrdinaryCode = 1234;
 constexpr char kText[] = "Ljava/lang/String;";
 
 int injectedFaults = 0;
-
-/// What a method does otherwise than its kind.
-struct Departure {
-  jint failureValue = 0;
-  /// Releases its records where one could not be had, as an update does.
-  bool releasesOnRefusal = false;
-  /// Returns null without an exception where there is no memory.
-  bool silentWithoutMemory = false;
-  /// Records that it never releases.
-  int neverReleased = 0;
-  /// Characters that it never releases.
-  int neverReleasedCharacters = 0;
-  /// Takes a null text for an empty one.
-  bool acceptsNullText = false;
-  /// Does not call the library where its last argument cannot be read.
-  bool stopsUnread = false;
-  /// Returns the library's result itself, and throws nothing for -1.
-  bool returnsResult = false;
-  /// What the library fills in instead of zeros, of which the method would make null.
-  std::vector<unsigned char> output = {};
-};
-
-const Departure& departureOf(const NativeMethod& method) {
-  static const std::map<std::string, Departure> departures{
-      {"QV_GetUnitCount", {.failureValue = -1}},
-      {"QV_DiscoverUnitInformation", {.releasesOnRefusal = true}},
-      {"QV_DiscoverUnitInformationEx", {.releasesOnRefusal = true}},
-      {"QV_GetUnitParamTable", {.silentWithoutMemory = true}},
-      {"QV_LoginQVUnit", {.output = {'u', 's', 'e', 'r'}}},
-      {"QV_GetLoginUser", {.output = {'u', 's', 'e', 'r'}}},
-      {"QV_PasswdCheck",
-       {.failureValue = -1,
-        .neverReleasedCharacters = 1,
-        .stopsUnread = true,
-        .returnsResult = true}},
-      {"QV_GetUnitTime", {.neverReleased = 1, .acceptsNullText = true}},
-      {"QV_SetUnitTime", {.neverReleased = 1, .acceptsNullText = true, .stopsUnread = true}},
-      {"QV_SetUnitTimeNow", {.neverReleased = 1, .acceptsNullText = true}},
-      {"QV_GetDriveStatus", {.neverReleased = 1, .acceptsNullText = true}},
-  };
-  static const Departure regular;
-  const auto found = departures.find(method.name);
-  return found == departures.end() ? regular : found->second;
-}
 
 struct Fault {
   int jniCall = 0;
@@ -109,13 +65,7 @@ Outcome play(const NativeMethod& method, const Fault& fault) {
   jvm.failCall(fault.jniCall);
 
   Outcome outcome;
-  if (departure.neverReleasedCharacters > 0) {
-    __lsan_disable();
-  }
   outcome.result = method.invoke(jvm.env(), arguments);
-  if (departure.neverReleasedCharacters > 0) {
-    __lsan_enable();
-  }
   outcome.pending = jvm.pending();
   outcome.fallibleCalls = jvm.fallibleCalls();
   outcome.allocations = testRuntime().allocations;

@@ -29,10 +29,8 @@ QUORVELJ_CLASS(PhysicalInformation, index, index2, cache_count, ps_count, fan_co
 QUORVELJ_CLASS(UnitInformation, b_info, l_info, p_info);
 QUORVELJ_CLASS(UnitIdentifier, equipment_id, ctl);
 
-// No field of these two is known: they are made, and their records left alone.
-constinit const ClassMap quorvelj::ClassOf<ControllerInfo>::kMap{ClassOf<ControllerInfo>::kName,
-                                                                 {}};
-constinit const ClassMap quorvelj::ClassOf<TimeInfo>::kMap{ClassOf<TimeInfo>::kName, {}};
+QUORVELJ_OPAQUE_CLASS(ControllerInfo);
+QUORVELJ_OPAQUE_CLASS(TimeInfo);
 
 NATIVE_METHOD(void, LogoutQVUnit, jstring unit, jint mode) {
   update(env, QV_LogoutQVUnit, unit, mode);

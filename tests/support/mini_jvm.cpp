@@ -279,15 +279,16 @@ struct MiniJvm::Functions {
       return nullptr;
     }
     const std::string& source = *jvm.resolve(text)->text();
-    auto* const copy = new char[source.size() + 1];
-    std::memcpy(copy, source.c_str(), source.size() + 1);
+    std::vector<char> copy(source.c_str(), source.c_str() + source.size() + 1);
+    const char* const characters = copy.data();
+    jvm.characters_[characters] = std::move(copy);
     ++jvm.unreleased_;
-    return copy;
+    return characters;
   }
   static void JNICALL releaseStringUtfChars(JNIEnv* env, jstring, const char* characters) {
     of(env).enter(false, "ReleaseStringUTFChars");
+    of(env).characters_.erase(characters);
     --of(env).unreleased_;
-    delete[] characters;
   }
 
   static jsize JNICALL getArrayLength(JNIEnv* env, jarray array) {
@@ -529,7 +530,8 @@ MiniJvm::Object* MiniJvm::makeInput(const std::string& signature) {
   } else if (signature == "[S") {
     object->payload = std::vector<jshort>(profile.primitives, jshort{1234});
   } else if (signature[0] == '[') {
-    // The rows of a table are fewer than the elements of a list, or an input would be all of memory.
+    // The rows of a table are fewer than the elements of a list, or an input would be all of
+    // memory.
     const bool table = signature[1] == '[';
     std::vector<Object*> elements(table ? std::min(profile.objects, kMostRows) : profile.objects);
     std::generate(elements.begin(), elements.end(), [&] { return makeInput(signature.substr(1)); });

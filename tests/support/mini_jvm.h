@@ -127,6 +127,8 @@ class MiniJvm {
   std::deque<Object> objects_;
   std::deque<Reference> references_;
   std::vector<std::string> missing_;
+  /// Characters that native code holds.
+  std::unordered_map<const char*, std::vector<char>> characters_;
   Object* pending_ = nullptr;
   int failingCall_ = 0;
   int fallibleCalls_ = 0;
