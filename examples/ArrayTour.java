@@ -98,6 +98,7 @@ public final class ArrayTour {
         AccountsPage.show(visit);
         UnitPage.show(visit);
         StatusPage.show(visit);
+        StoragePage.show(visit);
         ARRAY.QV_LogoutQVAccount(unit, session, new LogoutOption());
         Visit.step("After the logout", () -> ARRAY.QV_GetOwnUserPermission(unit, session));
     }

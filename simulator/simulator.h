@@ -38,6 +38,10 @@ enum Code : int {
   kUnknownAccount = 20103,
   kAccountExists = 20104,
   kTooManyAccounts = 20105,
+  kUnknownNumber = 20501,
+  kNumberTaken = 20502,
+  kNoCapacity = 20503,
+  kInUse = 20504,
 };
 
 /// The account that every unit begins with.

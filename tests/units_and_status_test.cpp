@@ -1,7 +1,6 @@
 // The order of calls in the methods of units and of status that depart from the frames, and what
 // they make of a failure.
 #include <gtest/gtest.h>
-#include <sanitizer/lsan_interface.h>
 
 #include <algorithm>
 
@@ -101,7 +100,6 @@ TEST_F(UnitsAndStatus, LoginTextThatCannotBeMadeIsNull) {
 }
 
 TEST_F(UnitsAndStatus, PasswordCheckKeepsTheCharacters) {
-  const __lsan::ScopedDisabler charactersAreNeverReleased;
   expectSame(trace("QV_PasswdCheck", {unit()}),
              Events({"flush", "GetStringUTFChars", "QV_PasswdCheck", "flush"}));
 }

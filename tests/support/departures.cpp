@@ -21,6 +21,7 @@ const Departure& departureOf(const NativeMethod& method) {
       {"QV_SetUnitTime", {.neverReleased = 1, .acceptsNullText = true, .stopsUnread = true}},
       {"QV_SetUnitTimeNow", {.neverReleased = 1, .acceptsNullText = true}},
       {"QV_GetDriveStatus", {.neverReleased = 1, .acceptsNullText = true}},
+      {"QV_LogicalUnitFormatStatusList", {.acceptsNullText = true}},
   };
   static const Departure regular;
   const auto found = departures.find(method.name);

@@ -1,0 +1,7 @@
+package tessaly.str.diskarray;
+
+/** How far the parity correction of each LU is. */
+public class ParityCorrectionStatusList {
+    /** Always 8,192 elements. */
+    public CorrectionLuStatus[] lu;
+}

@@ -1,0 +1,9 @@
+package tessaly.str.diskarray;
+
+/** LUs to add to a pool. */
+public class PoolLUListRequest {
+    /** How many elements of <code>lu</code> are used. */
+    public int lu_count;
+    /** LU numbers; at least 64 elements, of which the first 64 count. */
+    public int[] lu;
+}
