@@ -189,9 +189,7 @@ int getInformation(const UnitName* unit, const QVSessionInfo*, UnitInformation* 
   *information = {};
   setText(information->b_info.micro, "0957/A");
   setText(information->b_info.next_road_micro, "0957/A");
-  information->b_info.qv_type = param.qv_type;
   information->b_info.device_type = param.device_type;
-  information->b_info.unit_conf = param.unit_conf;
   information->l_info.rg_count = 200;
   information->l_info.lu_count = kLogicalUnits;
   information->l_info.account_count = 21;
