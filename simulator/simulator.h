@@ -38,6 +38,10 @@ enum Code : int {
   kUnknownAccount = 20103,
   kAccountExists = 20104,
   kTooManyAccounts = 20105,
+  kUnknownPort = 20601,
+  kUnknownHostGroup = 20602,
+  kHostGroupExists = 20603,
+  kMappingGuarded = 20604,
 };
 
 /// The account that every unit begins with.
