@@ -23,7 +23,9 @@ struct Place {
   std::int32_t controller;
   std::int32_t port;
   std::int32_t group;
-  auto operator<=>(const Place&) const = default;
+  bool operator<(const Place& other) const {
+    return std::tie(controller, port, group) < std::tie(other.controller, other.port, other.group);
+  }
 };
 
 constexpr LuMappingHGInfo unmapped() {

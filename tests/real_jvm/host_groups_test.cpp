@@ -421,6 +421,11 @@ TEST_F(HostGroups, GuardedLusAreNotMapped) {
   EXPECT_EQ(mapLus(0, 0, 0, lus({8191})), "DiskArrayException 20604");
   EXPECT_EQ(mapLus(0, 0, 0, lus({8190})), "");
 
+  // Too short an array ends the reading and no more: the library is called with what there is.
+  for (const char* const method :
+       {"QV_SetMappingGuardList", "QV_SetLuMappingList", "QV_SetLuMappingListAll"}) {
+    quorvelSimForceResult(method, 0, 1);
+  }
   setLength(guard, "lumap_guard", 8191);
   EXPECT_EQ(call("QV_SetMappingGuardList", {unit_, session_, guard}).failure.substr(0, 30),
             "ArrayIndexOutOfBoundsException");
@@ -429,7 +434,6 @@ TEST_F(HostGroups, GuardedLusAreNotMapped) {
   EXPECT_EQ(mapLus(0, 0, 0, mapping).substr(0, 30), "ArrayIndexOutOfBoundsException");
   const jobject all = create("LuMapping");
   set(all, "ctl[0].port[0].hg[0].lu[2046]", "1");
-  quorvelSimForceResult("QV_SetLuMappingListAll", 0, 1);
   EXPECT_EQ(call("QV_SetLuMappingListAll", {unit_, session_, all}).failure.substr(0, 30),
             "ArrayIndexOutOfBoundsException");
   EXPECT_EQ(quorvelSimCallCount("QV_SetLuMappingListAll"), 1);
