@@ -99,6 +99,7 @@ public final class ArrayTour {
         UnitPage.show(visit);
         StatusPage.show(visit);
         StoragePage.show(visit);
+        HostsPage.show(visit);
         ARRAY.QV_LogoutQVAccount(unit, session, new LogoutOption());
         Visit.step("After the logout", () -> ARRAY.QV_GetOwnUserPermission(unit, session));
     }

@@ -42,6 +42,10 @@ enum Code : int {
   kNumberTaken = 20502,
   kNoCapacity = 20503,
   kInUse = 20504,
+  kUnknownPort = 20601,
+  kUnknownHostGroup = 20602,
+  kHostGroupExists = 20603,
+  kMappingGuarded = 20604,
 };
 
 /// The account that every unit begins with.

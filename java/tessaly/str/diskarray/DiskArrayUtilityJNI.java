@@ -541,6 +541,160 @@ public class DiskArrayUtilityJNI {
 
     // Host groups and LU mapping
 
+    /** Returns all host groups. */
+    public native HGList QV_GetHGList(String unit, QVSessionInfo session) throws DiskArrayException;
+
+    /** Creates a host group under <code>hostGroup.hgname</code>, at most 32 characters. */
+    public native void QV_CreateHG(
+            String unit, QVSessionInfo session, int controller, int port, int group,
+            HGInfo hostGroup)
+            throws DiskArrayException;
+
+    /** Renames a host group to <code>hostGroup.hgname</code>. */
+    public native void QV_ChangeHG(
+            String unit, QVSessionInfo session, int controller, int port, int group,
+            HGInfo hostGroup)
+            throws DiskArrayException;
+
+    /** Deletes host groups of all ports. */
+    public native void QV_DeleteHGList(String unit, QVSessionInfo session, DeleteHGList list)
+            throws DiskArrayException;
+
+    /** Sets host groups of all ports back to their first state. */
+    public native void QV_InitHGList(String unit, QVSessionInfo session, InitHGList list)
+            throws DiskArrayException;
+
+    /** Deletes host groups of one port. */
+    public native void QV_DeleteHGPortList(
+            String unit, QVSessionInfo session, int controller, int port, DeleteHGPortList list)
+            throws DiskArrayException;
+
+    /** Sets host groups of one port back to their first state. */
+    public native void QV_InitHGPortList(
+            String unit, QVSessionInfo session, int controller, int port, InitHGPortList list)
+            throws DiskArrayException;
+
+    /** Returns the mapping of all ports. */
+    public native LuMapping QV_GetLuMappingListAll(String unit, QVSessionInfo session)
+            throws DiskArrayException;
+
+    /** Returns the mapping of all ports in its compact form. */
+    public native LuMapping QV_GetLuMappingListAllLite(String unit, QVSessionInfo session)
+            throws DiskArrayException;
+
+    /** Sets the mapping of all ports. */
+    public native void QV_SetLuMappingListAll(String unit, QVSessionInfo session, LuMapping mapping)
+            throws DiskArrayException;
+
+    /** Sets the mapping of one host group. */
+    public native void QV_SetLuMappingList(
+            String unit, QVSessionInfo session, int controller, int port, int group,
+            LuMappingHGInfo mapping)
+            throws DiskArrayException;
+
+    /** Returns the mapping of one port. */
+    public native LuMappingPortList QV_GetLuMappingPortList(
+            String unit, QVSessionInfo session, int controller, int port) throws DiskArrayException;
+
+    /** Sets the mapping of one port. */
+    public native void QV_SetLuMappingPortList(
+            String unit, QVSessionInfo session, int controller, int port, LuMappingPortList mapping)
+            throws DiskArrayException;
+
+    /**
+     * Returns an <code>Integer</code>, the mapping mode, and the {@link LuMappingHGInfo} of
+     * one host group.
+     */
+    public native Object[] QV_GetLuMappingList(
+            String unit, QVSessionInfo session, int controller, int port, int group)
+            throws DiskArrayException;
+
+    /** Returns the ports through which each LU is mapped. */
+    public native LuMappingPortAssignInfo QV_GetLuMappingPortAssignInfo(
+            String unit, QVSessionInfo session, ControllerRequest request)
+            throws DiskArrayException;
+
+    /** Changes the mapping mode. */
+    public native void QV_ChangeMappingMode(String unit, QVSessionInfo session, int mode)
+            throws DiskArrayException;
+
+    /** Returns the mapping guard of every LU. */
+    public native MappingGuardList QV_GetMappingGuardList(String unit, QVSessionInfo session)
+            throws DiskArrayException;
+
+    /** Sets the mapping guard of every LU. */
+    public native void QV_SetMappingGuardList(
+            String unit, QVSessionInfo session, MappingGuardList guard) throws DiskArrayException;
+
+    /** Returns the options of all host groups. */
+    public native HGOption QV_GetHGOptionAll(String unit, QVSessionInfo session)
+            throws DiskArrayException;
+
+    /** Sets the options of all host groups. */
+    public native void QV_SetHGOptionAll(String unit, QVSessionInfo session, HGOption options)
+            throws DiskArrayException;
+
+    /** Returns the options of one host group. */
+    public native HGOptionInfo QV_GetHGOption(
+            String unit, QVSessionInfo session, int controller, int port, int group)
+            throws DiskArrayException;
+
+    /** Sets the options of one host group. */
+    public native void QV_SetHGOption(
+            String unit, QVSessionInfo session, int controller, int port, int group,
+            HGOptionInfo option)
+            throws DiskArrayException;
+
+    /** Returns the options of all ports. */
+    public native PortOption QV_GetPortOption(String unit, QVSessionInfo session)
+            throws DiskArrayException;
+
+    /** Sets the options of all ports. */
+    public native void QV_SetPortOption(String unit, QVSessionInfo session, PortOption options)
+            throws DiskArrayException;
+
+    /** Returns the host group parameters that there are to choose from. */
+    public native HGParameterList QV_GetHGParameterList(String unit, QVSessionInfo session)
+            throws DiskArrayException;
+
+    /** Returns the host group parameters in their second form. */
+    public native HGParameterList2 QV_GetHGParameterList2(String unit, QVSessionInfo session)
+            throws DiskArrayException;
+
+    /** Returns the identifiers of the host group parameters. */
+    public native HGParameterID QV_GetHGParameterID(
+            String unit, QVSessionInfo session, int controller) throws DiskArrayException;
+
+    /** Returns the hosts known at the ports. */
+    public native WWNInformation QV_GetWWNInformation(String unit) throws DiskArrayException;
+
+    /** Sets the hosts known at the ports. */
+    public native void QV_SetWWNInformation(String unit, WWNInformation information)
+            throws DiskArrayException;
+
+    /** Returns the hosts of the host groups. */
+    public native WWNHGInformation QV_GetWWNHGInformation(String unit, QVSessionInfo session)
+            throws DiskArrayException;
+
+    /** Sets the hosts of the host groups. */
+    public native void QV_SetWWNHGInformation(
+            String unit, QVSessionInfo session, WWNHGInformation information)
+            throws DiskArrayException;
+
+    /** Returns the two target IDs of a controller. */
+    public native TargetId[] QV_GetTargetId(String unit, int controller) throws DiskArrayException;
+
+    /** Sets a target ID of a controller. */
+    public native void QV_SetTargetId(String unit, int controller, TargetId id)
+            throws DiskArrayException;
+
+    /** Returns the target IDs that a file holds. */
+    public native TargetId[] QV_TargetIdImport(String unit, String file) throws DiskArrayException;
+
+    /** Returns the target IDs that two files hold, in the WZ form. */
+    public native WZTargetId[] QV_WZTargetIdImport(String unit, String first, String second)
+            throws DiskArrayException;
+
     // iSCSI targets and ports
 
     // Fibre ports and LAN settings

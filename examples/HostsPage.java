@@ -1,0 +1,126 @@
+import java.util.ArrayList;
+import java.util.List;
+import tessaly.str.diskarray.ControllerRequest;
+import tessaly.str.diskarray.DeleteHGPortList;
+import tessaly.str.diskarray.DiskArrayException;
+import tessaly.str.diskarray.HGInfo;
+import tessaly.str.diskarray.HGList;
+import tessaly.str.diskarray.LuMapping;
+import tessaly.str.diskarray.LuMappingHGInfo;
+import tessaly.str.diskarray.MappingGuardList;
+
+/** Host groups of the ports, and the LUs that are mapped to them. */
+final class HostsPage {
+    private static final int LUS = 8192;
+    private static final int GUARDED_LU = 12;
+
+    private HostsPage() {}
+
+    static void show(Visit visit) {
+        int[] group = new int[1];
+        Visit.step("A host group on the first port", () -> group[0] = create(visit));
+        if (group[0] == 0) {
+            return;
+        }
+        Visit.step("Host groups and what is mapped to them", () -> list(visit));
+        Visit.step("Ports of each mapped LU", () -> ports(visit));
+        Visit.step("Mapping a guarded LU", () -> mapGuarded(visit, group[0]));
+        Visit.step("Deleting the host group", () -> delete(visit, group[0]));
+    }
+
+    /** Takes the first number that is free and maps three LUs to it. */
+    private static int create(Visit visit) throws DiskArrayException {
+        HGInfo[] groups = Visit.ARRAY.QV_GetHGList(visit.unit, visit.session).ctl[0].port[0].hg;
+        int number = 1;
+        while (groups[number].valid != 0) {
+            number++;
+        }
+        HGInfo group = new HGInfo();
+        group.hgname = "tour-hosts";
+        Visit.ARRAY.QV_CreateHG(visit.unit, visit.session, 0, 0, number, group);
+        map(visit, number, 10, 11, 4095);
+        System.out.println("  group " + number + " has three LUs\n");
+        return number;
+    }
+
+    /** Maps LUs under the numbers 0, 1, ... to a group of the first port. */
+    private static void map(Visit visit, int group, int... lus) throws DiskArrayException {
+        Object[] known = Visit.ARRAY.QV_GetLuMappingList(visit.unit, visit.session, 0, 0, group);
+        LuMappingHGInfo mapping = (LuMappingHGInfo) known[1];
+        System.arraycopy(lus, 0, mapping.lu, 0, lus.length);
+        Visit.ARRAY.QV_SetLuMappingList(visit.unit, visit.session, 0, 0, group, mapping);
+    }
+
+    private static void list(Visit visit) throws DiskArrayException {
+        HGList list = Visit.ARRAY.QV_GetHGList(visit.unit, visit.session);
+        LuMapping mapping = Visit.ARRAY.QV_GetLuMappingListAllLite(visit.unit, visit.session);
+        Table table = new Table("Controller", "Port", "Group", "Name", "LUs by number");
+        for (int controller = 0; controller < list.ctl.length; controller++) {
+            for (int port = 0; port < list.ctl[controller].port.length; port++) {
+                HGInfo[] groups = list.ctl[controller].port[port].hg;
+                for (int group = 0; group < groups.length; group++) {
+                    if (groups[group].valid != 0) {
+                        table.row(controller, port, group, groups[group].hgname,
+                                mapped(mapping.ctl[controller].port[port].hg[group]));
+                    }
+                }
+            }
+        }
+        table.print();
+    }
+
+    private static String mapped(LuMappingHGInfo mapping) {
+        List<String> lus = new ArrayList<String>();
+        for (int number = 0; number < mapping.lu.length; number++) {
+            if (mapping.lu[number] >= 0 && mapping.lu[number] < LUS) {
+                lus.add(number + ": " + mapping.lu[number]);
+            }
+        }
+        return lus.isEmpty() ? "-" : String.join(", ", lus);
+    }
+
+    private static void ports(Visit visit) throws DiskArrayException {
+        int[][] ports = Visit.ARRAY.QV_GetLuMappingPortAssignInfo(
+                visit.unit, visit.session, new ControllerRequest()).lu_assign;
+        Table table = new Table("LU", "Ports of controller 0", "Ports of controller 1");
+        for (int lu = 0; lu < ports.length; lu++) {
+            if ((ports[lu][0] | ports[lu][1]) != 0) {
+                table.row(lu, ofBits(ports[lu][0]), ofBits(ports[lu][1]));
+            }
+        }
+        table.print();
+    }
+
+    private static String ofBits(int bits) {
+        List<String> ports = new ArrayList<String>();
+        for (int port = 0; port < 8; port++) {
+            if ((bits >> port & 1) != 0) {
+                ports.add(String.valueOf(port));
+            }
+        }
+        return ports.isEmpty() ? "-" : String.join(", ", ports);
+    }
+
+    private static void mapGuarded(Visit visit, int group) throws DiskArrayException {
+        MappingGuardList guard = Visit.ARRAY.QV_GetMappingGuardList(visit.unit, visit.session);
+        byte before = guard.lumap_guard[GUARDED_LU];
+        guard.lumap_guard[GUARDED_LU] = 1;
+        Visit.ARRAY.QV_SetMappingGuardList(visit.unit, visit.session, guard);
+        try {
+            map(visit, group, GUARDED_LU);
+        } finally {
+            guard.lumap_guard[GUARDED_LU] = before;
+            Visit.ARRAY.QV_SetMappingGuardList(visit.unit, visit.session, guard);
+        }
+    }
+
+    private static void delete(Visit visit, int group) throws DiskArrayException {
+        DeleteHGPortList list = new DeleteHGPortList();
+        list.hg = new byte[64];
+        list.hg[group / 8] = (byte) (1 << group % 8);
+        Visit.ARRAY.QV_DeleteHGPortList(visit.unit, visit.session, 0, 0, list);
+        HGInfo deleted =
+                Visit.ARRAY.QV_GetHGList(visit.unit, visit.session).ctl[0].port[0].hg[group];
+        System.out.println("  group " + group + " is " + (deleted.valid == 0 ? "free" : "in use") + "\n");
+    }
+}

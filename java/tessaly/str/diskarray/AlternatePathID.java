@@ -1,0 +1,4 @@
+package tessaly.str.diskarray;
+
+/** The identifier of an alternate path. */
+public class AlternatePathID {}

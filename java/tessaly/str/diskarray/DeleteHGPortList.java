@@ -1,0 +1,7 @@
+package tessaly.str.diskarray;
+
+/** The host groups of a port to delete. */
+public class DeleteHGPortList {
+    /** 64 bytes. */
+    public byte[] hg;
+}

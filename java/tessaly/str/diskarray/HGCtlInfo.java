@@ -1,0 +1,7 @@
+package tessaly.str.diskarray;
+
+/** The host groups of a controller. */
+public class HGCtlInfo {
+    /** Always 8 elements. */
+    public HGPortInfo[] port;
+}

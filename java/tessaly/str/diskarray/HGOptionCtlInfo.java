@@ -1,0 +1,7 @@
+package tessaly.str.diskarray;
+
+/** The options of the host groups of a controller. */
+public class HGOptionCtlInfo {
+    /** 8 elements. */
+    public HGOptionPortInfo[] port;
+}

@@ -1,0 +1,7 @@
+package tessaly.str.diskarray;
+
+/** The options of a port's host groups. */
+public class HGOptionPortInfo {
+    /** 255 elements. */
+    public HGOptionInfo[] hg;
+}

@@ -1,0 +1,10 @@
+package tessaly.str.diskarray;
+
+/** The mapping of all ports. */
+public class LuMapping {
+    public int HostGroupValid;
+    public int ctrl_flag;
+    public int mapping_mode;
+    /** 2 elements. */
+    public LuMappingCtlInfo[] ctl;
+}

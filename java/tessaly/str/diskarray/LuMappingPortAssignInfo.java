@@ -1,0 +1,7 @@
+package tessaly.str.diskarray;
+
+/** The ports through which each LU is mapped. */
+public class LuMappingPortAssignInfo {
+    /** Always 8192 elements, one an LU. */
+    public int[][] lu_assign;
+}

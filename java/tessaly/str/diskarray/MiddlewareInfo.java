@@ -1,0 +1,4 @@
+package tessaly.str.diskarray;
+
+/** A middleware of hosts. */
+public class MiddlewareInfo {}

@@ -1,0 +1,4 @@
+package tessaly.str.diskarray;
+
+/** The identifier of a platform. */
+public class PlatFormID {}

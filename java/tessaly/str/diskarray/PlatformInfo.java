@@ -1,0 +1,4 @@
+package tessaly.str.diskarray;
+
+/** A platform of hosts. */
+public class PlatformInfo {}

@@ -1,0 +1,9 @@
+package tessaly.str.diskarray;
+
+/** The options of all ports. */
+public class PortOption {
+    public PortOptionValidIndex support_index;
+    public PortOptionValidIndex valid_index;
+    /** 2 elements. */
+    public PortOptionCtlInfo[] ctl;
+}

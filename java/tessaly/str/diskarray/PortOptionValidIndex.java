@@ -1,0 +1,4 @@
+package tessaly.str.diskarray;
+
+/** Which port options there are. */
+public class PortOptionValidIndex {}

@@ -1,0 +1,7 @@
+package tessaly.str.diskarray;
+
+/** A special mode and the options that it stands for. */
+public class SpecialmodeInfo {
+    public int specialmode_id;
+    public HGOptionInfo hgoptinfo;
+}

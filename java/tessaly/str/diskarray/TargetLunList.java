@@ -1,0 +1,4 @@
+package tessaly.str.diskarray;
+
+/** The LUs of a target ID. */
+public class TargetLunList {}

@@ -1,0 +1,7 @@
+package tessaly.str.diskarray;
+
+/** The hosts known at the ports of a controller. */
+public class WWNCtlInfo {
+    /** 8 elements. */
+    public WWNPortInfo[] port;
+}

@@ -1,0 +1,4 @@
+package tessaly.str.diskarray;
+
+/** The hosts known at a port. */
+public class WWNPortInfo {}

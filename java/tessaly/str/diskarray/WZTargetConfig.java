@@ -1,0 +1,4 @@
+package tessaly.str.diskarray;
+
+/** How target IDs are configured, in the WZ form. */
+public class WZTargetConfig {}
