@@ -38,6 +38,8 @@ enum Code : int {
   kUnknownAccount = 20103,
   kAccountExists = 20104,
   kTooManyAccounts = 20105,
+  kTargetExists = 20311,
+  kTooManyPaths = 20312,
 };
 
 /// The account that every unit begins with.
