@@ -207,8 +207,9 @@ int getMaintenanceLan(const UnitName* unit, const QVSessionInfo*, MainteLanInfo*
 int setMaintenanceAddress(const UnitName* unit, const QVSessionInfo*,
                           const MainteIPAddress* address) {
   const std::string first = textOf(address->ip_addr);
-  if (first.find('.') == std::string::npos) {
-    return kInvalidName;
+  if (std::find(std::begin(kMaintenanceLans), std::end(kMaintenanceLans), first) ==
+      std::end(kMaintenanceLans)) {
+    return kNothingFound;
   }
   lanOf(unit).maintenance = first;
   return 0;

@@ -16,6 +16,8 @@ constexpr std::int32_t kPorts = 8;
 /// The first ports of each controller are iSCSI ports.
 constexpr std::int32_t kPortsInstalled = 2;
 constexpr std::int32_t kTargets = 255;
+constexpr std::int32_t kInitiators = 256;
+constexpr std::int32_t kUsers = 512;
 constexpr std::int32_t kPingRunning = 1;
 constexpr std::int32_t kPingDone = 2;
 /// Hosts whose addresses begin so answer to a ping.
@@ -207,7 +209,7 @@ int changeSecurity(const UnitName* unit, const QVSessionInfo*, std::int32_t cont
 void fillInitiators(Iscsi& iscsi, const Port& place, QViSCSIInitiatorPortInfo& port) {
   port.port_valid = 1;
   port.security = iscsi.security[place];
-  port.initiator_max_count = std::size(port.initiator);
+  port.initiator_max_count = kInitiators;
   port.initiator_count = fill(port.initiator, iscsi.initiators[place]);
 }
 
@@ -246,7 +248,7 @@ int getLogins(const UnitName* unit, const QVSessionInfo*,
   clear(all);
   eachPort(*all, [&](const Port& place, QViSCSILoginInitiatorPortInfo& port) {
     port.port_valid = 1;
-    port.initiator_max_count = std::size(port.initiator);
+    port.initiator_max_count = kInitiators;
     for (const auto& [slot, registered] : iscsi.initiators[place]) {
       QViSCSILoginInitiatorInfo& login = port.initiator[port.initiator_count++];
       login.initiator_valid = 1;
@@ -259,7 +261,7 @@ int getLogins(const UnitName* unit, const QVSessionInfo*,
 void fillUsers(Iscsi& iscsi, const Port& place, QViSCSICHAPUserPortInfo& port) {
   port.port_valid = 1;
   port.security = iscsi.security[place];
-  port.user_max_count = std::size(port.user);
+  port.user_max_count = kUsers;
   port.user_count = fill(port.user, iscsi.users[place]);
 }
 
@@ -300,7 +302,7 @@ int importUsers(const UnitName* unit, const QVSessionInfo*, const FilePath* path
   while (users.contains(slot)) {
     ++slot;
   }
-  if (slot < std::size(QViSCSICHAPUserPortInfo{}.user)) {
+  if (slot < kUsers) {
     users[slot].user_valid = 1;
     setText(users[slot].user_name, file.substr(file.find_last_of("/\\") + 1));
   }
