@@ -5,10 +5,11 @@ import tessaly.str.diskarray.FibreInformationPort;
 import tessaly.str.diskarray.LANInformation;
 import tessaly.str.diskarray.LANPortNumberCtl;
 import tessaly.str.diskarray.MainteLanInfoDetail;
-import tessaly.str.diskarray.QViSCSICHAPUserInfo;
+import tessaly.str.diskarray.QViSCSICHAPUserCTLInfo;
 import tessaly.str.diskarray.QViSCSICHAPUserPortInfo;
-import tessaly.str.diskarray.QViSCSIInitiatorInfo;
+import tessaly.str.diskarray.QViSCSIInitiatorCTLInfo;
 import tessaly.str.diskarray.QViSCSIInitiatorPortInfo;
+import tessaly.str.diskarray.QViSCSILoginInitiatorCTLInfo;
 import tessaly.str.diskarray.QViSCSIPing;
 import tessaly.str.diskarray.QViSCSIPingPort;
 import tessaly.str.diskarray.QViSCSIPortInformation;
@@ -26,6 +27,7 @@ final class PortsPage {
     static void show(Visit visit) {
         Visit.step("iSCSI ports", () -> ports(visit));
         Visit.step("iSCSI targets", () -> targets(visit));
+        Visit.step("iSCSI hosts", () -> hosts(visit));
         Visit.step("Ping from an iSCSI port", () -> ping(visit));
         Visit.step("Fibre Channel ports", () -> fibre(visit));
         Visit.step("LAN addresses", () -> lan(visit));
@@ -72,25 +74,26 @@ final class PortsPage {
         list.target = new int[255];
         list.target[NUMBER] = 1;
         Visit.ARRAY.QV_DeleteiSCSITarget(visit.unit, visit.session, 0, 1, list);
-        hosts(visit);
     }
 
     private static void hosts(Visit visit) throws DiskArrayException {
-        Table table = new Table("Port 1 of controller 0", "Name", "In use", "At most");
-        QViSCSIInitiatorPortInfo initiators =
-                Visit.ARRAY.QV_GetiSCSIInitiatorInformation(visit.unit, visit.session, 0, 1).port;
-        table.row("initiators", "", initiators.initiator_count, initiators.initiator_max_count);
-        for (QViSCSIInitiatorInfo initiator : initiators.initiator) {
-            if (initiator.initiator_valid != 0) {
-                table.row("", initiator.iscsi_name, "", "");
-            }
-        }
-        QViSCSICHAPUserPortInfo users =
-                Visit.ARRAY.QV_GetiSCSICHAPUserInformation(visit.unit, visit.session, 0, 1).port;
-        table.row("CHAP users", "", users.user_count, users.user_max_count);
-        for (QViSCSICHAPUserInfo user : users.user) {
-            if (user.user_valid != 0) {
-                table.row("", user.user_name, "", "");
+        QViSCSIInitiatorCTLInfo[] registered =
+                Visit.ARRAY.QV_GetiSCSIInitiatorInformationAll(visit.unit, visit.session).ctl;
+        QViSCSILoginInitiatorCTLInfo[] loggedIn =
+                Visit.ARRAY.QV_GetiSCSILoginInitiatorInformationAll(visit.unit, visit.session).ctl;
+        QViSCSICHAPUserCTLInfo[] users =
+                Visit.ARRAY.QV_GetiSCSICHAPUserInformationAll(visit.unit, visit.session).ctl;
+        Table table = new Table("Controller", "Port", "Initiators", "Logged in", "CHAP users");
+        for (int controller = 0; controller < registered.length; controller++) {
+            for (int number = 0; number < registered[controller].port.length; number++) {
+                QViSCSIInitiatorPortInfo port = registered[controller].port[number];
+                QViSCSICHAPUserPortInfo chap = users[controller].port[number];
+                if (port.port_valid != 0) {
+                    table.row(controller, number,
+                            port.initiator_count + " of " + port.initiator_max_count,
+                            loggedIn[controller].port[number].initiator_count,
+                            chap.user_count + " of " + chap.user_max_count);
+                }
             }
         }
         table.print();

@@ -241,7 +241,9 @@ void firstFibre(std::int32_t controller, FibreInformation& information) {
   setText(information.product_number, "DF00" + std::to_string(controller));
   for (std::int32_t number = 0; number < kFibrePortsInstalled; ++number) {
     FibreInformationPort& port = information.port[number];
-    const std::string name = "50000000000000" + std::to_string(controller) + std::to_string(number);
+    std::string name = "50000000000000";
+    name += std::to_string(controller);
+    name += std::to_string(number);
     setText(port.node_name, name);
     setText(port.port_name, name);
     setText(port.n_port_id, "0000EF");
