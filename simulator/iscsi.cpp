@@ -12,7 +12,6 @@ using namespace quorvelsim;
 namespace {
 
 constexpr std::int32_t kControllers = 2;
-constexpr std::int32_t kPorts = 8;
 /// The first ports of each controller are iSCSI ports.
 constexpr std::int32_t kPortsInstalled = 2;
 constexpr std::int32_t kTargets = 255;
