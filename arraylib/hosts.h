@@ -458,4 +458,606 @@ QUORVEL_API int QV_WZTargetIdImport(const UnitName* unit, const FilePath* first,
 
 // iSCSI targets and ports
 
+/// The addresses of one port.
+struct QViSCSIPortPortInfo {
+  std::int32_t port_valid;
+  std::int32_t set_valid;
+  char ip_address[40];
+  char subnet[40];
+  char gateway[40];
+  std::int32_t port_num;
+  char ether[20];
+  std::int32_t keep_alive_timer;
+  std::int32_t mtu;
+  std::int32_t set_status;
+  std::int32_t host_count;
+};
+QUORVEL_RECORD(QViSCSIPortPortInfo, 168);
+QUORVEL_OFFSET(QViSCSIPortPortInfo, port_num, 128);
+QUORVEL_OFFSET(QViSCSIPortPortInfo, keep_alive_timer, 152);
+
+struct QViSCSIPortCTLInfo {
+  QViSCSIPortPortInfo port[8];
+};
+QUORVEL_RECORD(QViSCSIPortCTLInfo, 1344);
+
+// Assumed layout: not confirmed by the library's own declarations.
+struct QViSCSIPortInformation {
+  QViSCSIPortCTLInfo ctl[2];
+};
+QUORVEL_RECORD(QViSCSIPortInformation, 2688);
+
+/// A target and how it authenticates.
+struct QViSCSITargetInfo {
+  std::int32_t target_valid;
+  char target_name[33];
+  char iscsi_name[227];
+  std::int32_t authmethod;
+  std::int32_t algorithm;
+  std::int32_t auth;
+  char user_name[257];
+  char secret[35];
+};
+QUORVEL_RECORD(QViSCSITargetInfo, 568);
+QUORVEL_OFFSET(QViSCSITargetInfo, iscsi_name, 37);
+QUORVEL_OFFSET(QViSCSITargetInfo, authmethod, 264);
+QUORVEL_OFFSET(QViSCSITargetInfo, user_name, 276);
+QUORVEL_OFFSET(QViSCSITargetInfo, secret, 533);
+
+struct QViSCSITargetPortInfo {
+  std::int32_t port_valid;
+  std::int32_t security;
+  std::int32_t target_max_count;
+  std::int32_t target_count;
+  QViSCSITargetInfo target[255];
+};
+QUORVEL_RECORD(QViSCSITargetPortInfo, 144856);
+
+struct QViSCSITargetCTLInfo {
+  QViSCSITargetPortInfo port[8];
+};
+QUORVEL_RECORD(QViSCSITargetCTLInfo, 1158848);
+
+// Assumed layout: not confirmed by the library's own declarations.
+struct QViSCSITargetInformationAll {
+  std::int32_t option;
+  QViSCSITargetCTLInfo ctl[2];
+};
+QUORVEL_RECORD(QViSCSITargetInformationAll, 2317700);
+
+/// Which targets of a port to delete: a word for each.
+// Assumed layout: not confirmed by the library's own declarations.
+struct DeleteTargetList {
+  std::int32_t target[255];
+};
+QUORVEL_RECORD(DeleteTargetList, 1020);
+
+/// A registered initiator and the targets that it may use, a bit for each.
+struct QViSCSIInitiatorInfo {
+  std::int32_t initiator_valid;
+  std::int32_t ctrl_flag;
+  char initiator_name[33];
+  char iscsi_name[224];
+  std::byte target_bitmap[32];
+};
+QUORVEL_RECORD(QViSCSIInitiatorInfo, 300);
+QUORVEL_OFFSET(QViSCSIInitiatorInfo, iscsi_name, 41);
+QUORVEL_OFFSET(QViSCSIInitiatorInfo, target_bitmap, 265);
+
+struct QViSCSIInitiatorPortInfo {
+  std::int32_t port_valid;
+  std::int32_t security;
+  std::int32_t initiator_max_count;
+  std::int32_t initiator_count;
+  QViSCSIInitiatorInfo initiator[256];
+};
+QUORVEL_RECORD(QViSCSIInitiatorPortInfo, 76816);
+
+// Assumed layout: not confirmed by the library's own declarations.
+struct QViSCSIInitiatorCTLInfo {
+  QViSCSIInitiatorPortInfo port[8];
+};
+QUORVEL_RECORD(QViSCSIInitiatorCTLInfo, 614528);
+
+// Assumed layout: not confirmed by the library's own declarations.
+struct QViSCSIInitiatorInformationAll {
+  std::int32_t option;
+  QViSCSIInitiatorCTLInfo ctl[2];
+};
+QUORVEL_RECORD(QViSCSIInitiatorInformationAll, 1229060);
+
+struct QViSCSIInitiatorPortInformation {
+  std::int32_t option;
+  QViSCSIInitiatorPortInfo port;
+};
+QUORVEL_RECORD(QViSCSIInitiatorPortInformation, 76820);
+
+/// An initiator that is logged in.
+struct QViSCSILoginInitiatorInfo {
+  std::int32_t initiator_valid;
+  char iscsi_name[224];
+};
+QUORVEL_RECORD(QViSCSILoginInitiatorInfo, 228);
+
+struct QViSCSILoginInitiatorPortInfo {
+  std::int32_t port_valid;
+  std::int32_t initiator_max_count;
+  std::int32_t initiator_count;
+  QViSCSILoginInitiatorInfo initiator[256];
+};
+QUORVEL_RECORD(QViSCSILoginInitiatorPortInfo, 58380);
+
+// Assumed layout: not confirmed by the library's own declarations.
+struct QViSCSILoginInitiatorCTLInfo {
+  QViSCSILoginInitiatorPortInfo port[8];
+};
+QUORVEL_RECORD(QViSCSILoginInitiatorCTLInfo, 467040);
+
+// Assumed layout: not confirmed by the library's own declarations.
+struct QViSCSILoginInitiatorInformationAll {
+  QViSCSILoginInitiatorCTLInfo ctl[2];
+};
+QUORVEL_RECORD(QViSCSILoginInitiatorInformationAll, 934080);
+
+/// A CHAP user and the targets that it may use, a bit for each.
+struct QViSCSICHAPUserInfo {
+  std::int32_t user_valid;
+  std::int32_t ctrl_flag;
+  char user_name[257];
+  char secret[33];
+  std::byte target_bitmap[32];
+};
+QUORVEL_RECORD(QViSCSICHAPUserInfo, 332);
+QUORVEL_OFFSET(QViSCSICHAPUserInfo, secret, 265);
+QUORVEL_OFFSET(QViSCSICHAPUserInfo, target_bitmap, 298);
+
+struct QViSCSICHAPUserPortInfo {
+  std::int32_t port_valid;
+  std::int32_t security;
+  std::int32_t user_max_count;
+  std::int32_t user_count;
+  QViSCSICHAPUserInfo user[512];
+};
+QUORVEL_RECORD(QViSCSICHAPUserPortInfo, 170000);
+
+// Assumed layout: not confirmed by the library's own declarations.
+struct QViSCSICHAPUserCTLInfo {
+  QViSCSICHAPUserPortInfo port[8];
+};
+QUORVEL_RECORD(QViSCSICHAPUserCTLInfo, 1360000);
+
+// Assumed layout: not confirmed by the library's own declarations.
+struct QViSCSICHAPUserInformationAll {
+  std::int32_t option;
+  QViSCSICHAPUserCTLInfo ctl[2];
+};
+QUORVEL_RECORD(QViSCSICHAPUserInformationAll, 2720004);
+
+struct QViSCSICHAPUserPortInformation {
+  std::int32_t option;
+  QViSCSICHAPUserPortInfo port;
+};
+QUORVEL_RECORD(QViSCSICHAPUserPortInformation, 170004);
+
+/// The iSNS server of one port.
+struct QViSNSPortInfo {
+  std::int32_t port_valid;
+  std::int32_t set_valid;
+  std::int32_t isns_use;
+  char ip_address[40];
+  std::int32_t port_num;
+};
+QUORVEL_RECORD(QViSNSPortInfo, 56);
+
+// Assumed layout: not confirmed by the library's own declarations.
+struct QViSNSCTLInfo {
+  QViSNSPortInfo port[8];
+};
+QUORVEL_RECORD(QViSNSCTLInfo, 448);
+
+// Assumed layout: not confirmed by the library's own declarations.
+struct QViSNSInformation {
+  QViSNSCTLInfo ctl[2];
+};
+QUORVEL_RECORD(QViSNSInformation, 896);
+
+/// A ping from one port, and how far it came.
+struct QViSCSIPingPort {
+  std::int32_t port_valid;
+  std::int32_t request_valid;
+  char ip_address[40];
+  std::int32_t status;
+  std::int32_t execute_count;
+  std::int32_t success_count;
+  std::int32_t schedule_count;
+};
+QUORVEL_RECORD(QViSCSIPingPort, 64);
+
+// Assumed layout: not confirmed by the library's own declarations.
+struct QViSCSIPingCTL {
+  QViSCSIPingPort port[8];
+};
+QUORVEL_RECORD(QViSCSIPingCTL, 512);
+
+// Assumed layout: not confirmed by the library's own declarations.
+struct QViSCSIPing {
+  QViSCSIPingCTL ctl[2];
+};
+QUORVEL_RECORD(QViSCSIPing, 1024);
+
+// Assumed layout: not confirmed by the library's own declarations.
+struct QViSCSIRemotePathSecret {
+  char secret[33];
+};
+QUORVEL_RECORD(QViSCSIRemotePathSecret, 33);
+
+/// The paths to another array.
+// Assumed layout: not confirmed by the library's own declarations.
+struct QViSCSIRemotePath {
+  std::int32_t path_valid;
+  char other_serial_no[9];
+  QViSCSIRemotePathSecret path[2];
+};
+QUORVEL_RECORD(QViSCSIRemotePath, 80);
+
+struct QViSCSIRemotePathInfo {
+  QViSCSIRemotePath arrayunit[8];
+};
+QUORVEL_RECORD(QViSCSIRemotePathInfo, 640);
+
+QUORVEL_API int QV_GetiSCSIPortInformation(const UnitName* unit, const QVSessionInfo* session,
+                                           QViSCSIPortInformation* ports);
+QUORVEL_API int QV_SetiSCSIPortInformation(const UnitName* unit, const QVSessionInfo* session,
+                                           const QViSCSIPortInformation* ports);
+QUORVEL_API int QV_GetiSCSITargetInformationAll(const UnitName* unit, const QVSessionInfo* session,
+                                                QViSCSITargetInformationAll* targets);
+QUORVEL_API int QV_CreateiSCSITarget(const UnitName* unit, const QVSessionInfo* session,
+                                     std::int32_t controller, std::int32_t port,
+                                     std::int32_t number, const QViSCSITargetInfo* target);
+QUORVEL_API int QV_ChangeiSCSITarget(const UnitName* unit, const QVSessionInfo* session,
+                                     std::int32_t controller, std::int32_t port,
+                                     std::int32_t number, const QViSCSITargetInfo* target);
+// Assumed layout: not confirmed by the library's own declarations.
+QUORVEL_API int QV_DeleteiSCSITarget(const UnitName* unit, const QVSessionInfo* session,
+                                     std::int32_t controller, std::int32_t port,
+                                     const DeleteTargetList* targets);
+QUORVEL_API int QV_InitiSCSITarget(const UnitName* unit, const QVSessionInfo* session,
+                                   std::int32_t controller, std::int32_t port);
+QUORVEL_API int QV_ChangeiSCSITargetSecurity(const UnitName* unit, const QVSessionInfo* session,
+                                             std::int32_t controller, std::int32_t port,
+                                             std::int32_t security);
+QUORVEL_API int QV_GetiSCSIInitiatorInformationAll(const UnitName* unit,
+                                                   const QVSessionInfo* session,
+                                                   QViSCSIInitiatorInformationAll* initiators);
+QUORVEL_API int QV_GetiSCSIInitiatorInformation(const UnitName* unit, const QVSessionInfo* session,
+                                                std::int32_t controller, std::int32_t port,
+                                                QViSCSIInitiatorPortInformation* initiators);
+/// The library's own spelling.
+QUORVEL_API int QV_SetiSCSIInitiatortInformation(const UnitName* unit, const QVSessionInfo* session,
+                                                 std::int32_t controller, std::int32_t port,
+                                                 const QViSCSIInitiatorPortInfo* initiators);
+QUORVEL_API int QV_GetiSCSILoginInitiatorInformationAll(
+    const UnitName* unit, const QVSessionInfo* session,
+    QViSCSILoginInitiatorInformationAll* initiators);
+QUORVEL_API int QV_GetiSCSICHAPUserInformationAll(const UnitName* unit,
+                                                  const QVSessionInfo* session,
+                                                  QViSCSICHAPUserInformationAll* users);
+QUORVEL_API int QV_GetiSCSICHAPUserInformation(const UnitName* unit, const QVSessionInfo* session,
+                                               std::int32_t controller, std::int32_t port,
+                                               QViSCSICHAPUserPortInformation* users);
+QUORVEL_API int QV_SetiSCSICHAPUserInformation(const UnitName* unit, const QVSessionInfo* session,
+                                               std::int32_t controller, std::int32_t port,
+                                               const QViSCSICHAPUserPortInfo* users);
+// Assumed layout: not confirmed by the library's own declarations.
+QUORVEL_API int QV_iSCSICHAPUserImport(const UnitName* unit, const QVSessionInfo* session,
+                                       const FilePath* path);
+QUORVEL_API int QV_GetiSNSInformation(const UnitName* unit, const QVSessionInfo* session,
+                                      QViSNSInformation* servers);
+QUORVEL_API int QV_SetiSNSInformation(const UnitName* unit, const QVSessionInfo* session,
+                                      const QViSNSInformation* servers);
+QUORVEL_API int QV_RequestiSCSIPing(const UnitName* unit, const QVSessionInfo* session,
+                                    const QViSCSIPing* request);
+QUORVEL_API int QV_GetiSCSIPingStatus(const UnitName* unit, const QVSessionInfo* session,
+                                      QViSCSIPing* status);
+QUORVEL_API int QV_GetiSCSIRemotePath(const UnitName* unit, const QVSessionInfo* session,
+                                      QViSCSIRemotePathInfo* paths);
+// Assumed layout: not confirmed by the library's own declarations.
+QUORVEL_API int QV_SetiSCSIRemotePath(const UnitName* unit, const QVSessionInfo* session,
+                                      const QViSCSIRemotePath* path);
+// Assumed layout: not confirmed by the library's own declarations.
+QUORVEL_API int QV_DeliSCSIRemotePath(const UnitName* unit, const QVSessionInfo* session,
+                                      const QViSCSIRemotePath* path);
+
 // Fibre ports and LAN settings
+
+/// The LAN address of a controller.
+struct LANInformation {
+  std::uint8_t dhcp;
+  char ip_address[16];
+  char subnet[16];
+  char gateway[16];
+  char ether[18];
+  std::uint8_t lan_connect;
+  std::int32_t mainte_ip_change_mode;
+  std::int32_t mainte_ip_change_mode_new;
+  std::int32_t negotiation;
+};
+QUORVEL_RECORD(LANInformation, 80);
+QUORVEL_OFFSET(LANInformation, subnet, 17);
+QUORVEL_OFFSET(LANInformation, ether, 49);
+QUORVEL_OFFSET(LANInformation, lan_connect, 67);
+QUORVEL_OFFSET(LANInformation, mainte_ip_change_mode, 68);
+
+struct LanDetail {
+  std::int32_t dhcp;
+  char ip_address[16];
+  char subnet[16];
+  char gateway[16];
+  char ether[18];
+  std::uint8_t duplex_type;
+  std::uint8_t link_speed;
+};
+QUORVEL_RECORD(LanDetail, 72);
+QUORVEL_OFFSET(LanDetail, ether, 52);
+QUORVEL_OFFSET(LanDetail, link_speed, 71);
+
+/// The LAN addresses of both controllers.
+struct LANInformationEx {
+  LanDetail ctl[2];
+};
+QUORVEL_RECORD(LANInformationEx, 144);
+
+struct LANPortNumberCtl {
+  std::int32_t valid_index;
+  std::int32_t normal_port;
+  std::int32_t port_num;
+  std::int32_t ssl_port_num;
+};
+QUORVEL_RECORD(LANPortNumberCtl, 16);
+
+/// The management port numbers.
+// Assumed layout: not confirmed by the library's own declarations.
+struct LANPortNumber {
+  LANPortNumberCtl ctl[2];
+  std::int32_t logout_instruction;
+  std::int32_t mode;
+};
+QUORVEL_RECORD(LANPortNumber, 40);
+
+// Assumed layout: not confirmed by the library's own declarations.
+struct QVUserLANDetail {
+  std::int32_t support_index;
+  std::int32_t valid_index;
+  std::int32_t setting_result;
+  std::int32_t dhcp;
+  char eather_address[18];
+  char current_ipaddress[40];
+  char current_subnet[40];
+  char current_gateway[40];
+  char current_ipaddress_ipv6[40];
+  char link_ipv6[40];
+  std::int32_t current_subnet_prefix;
+  char current_gateway_ipv6[40];
+  std::int32_t current_linkspeed_duplex;
+  char set_ipaddress[40];
+  char set_subnet[40];
+  char set_gateway[40];
+  std::byte reserved[92];
+};
+QUORVEL_RECORD(QVUserLANDetail, 496);
+
+/// The user LAN of both controllers.
+// Assumed layout: not confirmed by the library's own declarations.
+struct QVUserLANInformation {
+  QVUserLANDetail ctl[2];
+  std::int32_t mainte_ip_change_mode;
+  std::int32_t last_set_mode;
+  std::int32_t logout_instruction;
+  std::int32_t ipv6_used;
+  std::int32_t set_ipversion;
+};
+QUORVEL_RECORD(QVUserLANInformation, 1012);
+QUORVEL_OFFSET(QVUserLANInformation, mainte_ip_change_mode, 992);
+
+/// The file that LAN settings are written to or read from.
+// Assumed layout: not confirmed by the library's own declarations.
+struct LANFile {
+  char filename[256];
+  std::byte reserved[8];
+};
+QUORVEL_RECORD(LANFile, 264);
+
+struct MainteLanInfoDetail {
+  std::int32_t valid_index;
+  char ip_address[40];
+  char subnet[40];
+  char gateway_ipv4[40];
+  char ip_address_ipv6[40];
+  std::int32_t subnet_prefix;
+  char gateway_ipv6[40];
+  std::int32_t connect_status;
+};
+QUORVEL_RECORD(MainteLanInfoDetail, 212);
+QUORVEL_OFFSET(MainteLanInfoDetail, subnet_prefix, 164);
+
+/// The maintenance LAN of the controllers and of the network controllers.
+// Assumed layout: not confirmed by the library's own declarations.
+struct MainteLanInfo {
+  MainteLanInfoDetail ctl[2];
+  MainteLanInfoDetail nnc[4];
+  std::byte reserved[48];
+};
+QUORVEL_RECORD(MainteLanInfo, 1320);
+
+/// An address for the maintenance LAN.
+// Assumed layout: not confirmed by the library's own declarations.
+struct MainteIPAddress {
+  std::int32_t set_ipversion;
+  char ip_addr[40];
+  std::int32_t logout_instruction;
+};
+QUORVEL_RECORD(MainteIPAddress, 48);
+
+// Assumed layout: not confirmed by the library's own declarations.
+struct MainteHostAddress {
+  std::int32_t host_address;
+};
+QUORVEL_RECORD(MainteHostAddress, 4);
+
+/// Addresses that the maintenance LAN may be given.
+// Assumed layout: not confirmed by the library's own declarations.
+struct MainteLanAvailableList {
+  std::int32_t available_count;
+  MainteIPAddress available_address[5];
+  std::int32_t rule_ipv4_minaddr;
+  std::int32_t rule_ipv4_maxaddr;
+  std::int32_t rule_ipv4_addition_value;
+  std::int32_t rule_ipv4_base_value;
+  MainteHostAddress available_host_ctl[2];
+  MainteHostAddress available_host_nnc[4];
+  std::int32_t available_count_ipv6;
+  MainteIPAddress available_address_ipv6[5];
+  std::int32_t rule_ipv6_minaddr;
+  std::int32_t rule_ipv6_maxaddr;
+  std::int32_t rule_ipv6_addition_value;
+  std::int32_t rule_ipv6_base_value;
+  std::byte reserved[8];
+};
+QUORVEL_RECORD(MainteLanAvailableList, 552);
+
+struct NNCLANInformationDetail {
+  std::int32_t valid_index;
+  char ip_address[40];
+  char subnet[40];
+  std::int32_t mtu;
+  std::int32_t negotiation;
+  std::int32_t set_status;
+};
+QUORVEL_RECORD(NNCLANInformationDetail, 96);
+QUORVEL_OFFSET(NNCLANInformationDetail, mtu, 84);
+
+/// The LAN of the network controllers.
+// Assumed layout: not confirmed by the library's own declarations.
+struct NNCLANInformation {
+  std::int8_t nnclaninfo_valid[4];
+  std::int32_t set_valid;
+  NNCLANInformationDetail nnclaninfo[4];
+  NNCLANInformationDetail set_nnclaninfo[4];
+};
+QUORVEL_RECORD(NNCLANInformation, 776);
+
+// Assumed layout: not confirmed by the library's own declarations.
+struct FibreInformationConnector {
+  std::int32_t topology_ref;
+};
+QUORVEL_RECORD(FibreInformationConnector, 4);
+
+// Assumed layout: not confirmed by the library's own declarations.
+struct FibreInformationPort {
+  char node_name[17];
+  char port_name[17];
+  char n_port_id[7];
+  char get_address[7];
+  std::int32_t frame_size;
+  std::int32_t if_board;
+  std::int32_t support_speed;
+  std::int32_t set_speed;
+  std::int32_t refer_speed;
+  std::int32_t connect_valid;
+  FibreInformationConnector connector[2];
+};
+QUORVEL_RECORD(FibreInformationPort, 80);
+
+/// Firmware levels of a port's adapter.
+// Assumed layout: not confirmed by the library's own declarations.
+struct FibreInformationSfc {
+  char biu[5];
+  char sequence[5];
+  char oper_firmware[5];
+  char post_firmware[5];
+  char endec[5];
+  char fc_ph[5];
+};
+QUORVEL_RECORD(FibreInformationSfc, 30);
+
+/// A host that may use a port, and its logical units, a bit for each.
+// Assumed layout: not confirmed by the library's own declarations.
+struct FibreInformationPermission {
+  char node_name[17];
+  char port_name[17];
+  char n_port_id[7];
+  std::byte lun_security_bitmap[256];
+};
+QUORVEL_RECORD(FibreInformationPermission, 297);
+
+// Assumed layout: not confirmed by the library's own declarations.
+struct FibreInformationSecurity {
+  std::int32_t access_guard;
+  std::int32_t all_lun_security;
+  std::int32_t permission_count;
+  std::int32_t security_chk_lv;
+  FibreInformationPermission permission[128];
+};
+QUORVEL_RECORD(FibreInformationSecurity, 38032);
+
+/// The fibre ports of one controller.
+// Assumed layout: not confirmed by the library's own declarations.
+struct FibreInformation {
+  std::int32_t lun_security;
+  std::int32_t port_valid;
+  std::int32_t topology[8];
+  std::int32_t topology_ref[8];
+  FibreInformationPort port[8];
+  FibreInformationSfc sfc[8];
+  FibreInformationSecurity security[8];
+  std::byte reserved[40];
+  char product_number[8];
+};
+QUORVEL_RECORD(FibreInformation, 305256);
+QUORVEL_OFFSET(FibreInformation, product_number, 305248);
+
+// Assumed layout: not confirmed by the library's own declarations.
+QUORVEL_API int QV_GetLANInformation(const UnitName* unit, const QVSessionInfo* session,
+                                     std::int32_t controller, LANInformation* information);
+// Assumed layout: not confirmed by the library's own declarations.
+QUORVEL_API int QV_SetLANInformation(const UnitName* unit, const QVSessionInfo* session,
+                                     std::int32_t controller, std::int32_t port,
+                                     const LANInformation* information);
+QUORVEL_API int QV_GetLANInformationEx(const UnitName* unit, LANInformationEx* information);
+QUORVEL_API int QV_SetLANInformationEx(const UnitName* unit, const LANInformationEx* information);
+QUORVEL_API int QV_GetLANPortNumber(const UnitName* unit, const QVSessionInfo* session,
+                                    LANPortNumber* numbers);
+// Assumed layout: not confirmed by the library's own declarations.
+QUORVEL_API int QV_SetLANPortNumber(const UnitName* unit, const QVSessionInfo* session,
+                                    std::int32_t controller, const LANPortNumber* numbers);
+QUORVEL_API int QV_GetQVUserLANInformation(const UnitName* unit, const QVSessionInfo* session,
+                                           QVUserLANInformation* information);
+QUORVEL_API int QV_SetQVUserLANInformation(const UnitName* unit, const QVSessionInfo* session,
+                                           const QVUserLANInformation* information);
+// Assumed layout: not confirmed by the library's own declarations.
+QUORVEL_API int QV_LoadQVUserLANInformation(const UnitName* unit, const QVSessionInfo* session,
+                                            const FilePath* path,
+                                            QVUserLANInformation* information);
+QUORVEL_API int QV_LANExport(const UnitName* unit, const QVSessionInfo* session,
+                             const LANFile* file);
+QUORVEL_API int QV_LANImport(const UnitName* unit, const QVSessionInfo* session,
+                             const LANFile* file);
+QUORVEL_API int QV_GetMainteLanInfo(const UnitName* unit, const QVSessionInfo* session,
+                                    MainteLanInfo* information);
+QUORVEL_API int QV_SetMainteIPAddress(const UnitName* unit, const QVSessionInfo* session,
+                                      const MainteIPAddress* address);
+QUORVEL_API int QV_GetMainteLanAvailableList(const UnitName* unit, const QVSessionInfo* session,
+                                             MainteLanAvailableList* list);
+QUORVEL_API int QV_GetNNCLANInformation(const UnitName* unit, const QVSessionInfo* session,
+                                        NNCLANInformation* information);
+QUORVEL_API int QV_SetNNCLANInformation(const UnitName* unit, const QVSessionInfo* session,
+                                        const NNCLANInformation* information);
+QUORVEL_API int QV_GetFibreInformation(const UnitName* unit, const QVSessionInfo* session,
+                                       FibreInformation (*controllers)[2]);
+QUORVEL_API int QV_SetFibreInformation(const UnitName* unit, const QVSessionInfo* session,
+                                       const FibreInformation* first,
+                                       const FibreInformation* second);
+// Assumed layout: not confirmed by the library's own declarations.
+QUORVEL_API int QV_FibreInfoPermissionImport(const UnitName* unit, const FilePath* path,
+                                             std::int32_t port,
+                                             FibreInformationPermission (*permissions)[128]);

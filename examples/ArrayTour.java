@@ -100,6 +100,7 @@ public final class ArrayTour {
         StatusPage.show(visit);
         StoragePage.show(visit);
         HostsPage.show(visit);
+        PortsPage.show(visit);
         ARRAY.QV_LogoutQVAccount(unit, session, new LogoutOption());
         Visit.step("After the logout", () -> ARRAY.QV_GetOwnUserPermission(unit, session));
     }

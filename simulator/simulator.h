@@ -46,6 +46,8 @@ enum Code : int {
   kUnknownHostGroup = 20602,
   kHostGroupExists = 20603,
   kMappingGuarded = 20604,
+  kTargetExists = 20311,
+  kTooManyPaths = 20312,
 };
 
 /// The account that every unit begins with.

@@ -22,6 +22,7 @@ const Departure& departureOf(const NativeMethod& method) {
       {"QV_SetUnitTimeNow", {.neverReleased = 1, .acceptsNullText = true}},
       {"QV_GetDriveStatus", {.neverReleased = 1, .acceptsNullText = true}},
       {"QV_LogicalUnitFormatStatusList", {.acceptsNullText = true}},
+      {"QV_FibreInfoPermissionImport", {.acceptsNullText = true}},
   };
   static const Departure regular;
   const auto found = departures.find(method.name);

@@ -1,0 +1,7 @@
+package tessaly.str.diskarray;
+
+/** Which iSCSI targets of a port to delete. */
+public class DeleteTargetList {
+    /** 255 elements, one for each target. */
+    public int[] target;
+}

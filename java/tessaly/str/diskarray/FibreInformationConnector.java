@@ -1,0 +1,6 @@
+package tessaly.str.diskarray;
+
+/** A connector of a Fibre Channel port. */
+public class FibreInformationConnector {
+    public int topology_ref;
+}

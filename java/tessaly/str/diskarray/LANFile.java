@@ -1,0 +1,7 @@
+package tessaly.str.diskarray;
+
+/** The file that LAN settings are exported to or imported from. */
+public class LANFile {
+    /** At most 255 bytes. */
+    public String filename;
+}

@@ -1,0 +1,9 @@
+package tessaly.str.diskarray;
+
+/** The management port numbers of an array. */
+public class LANPortNumber {
+    /** 2 elements. */
+    public LANPortNumberCtl[] ctl;
+    public int logout_instruction;
+    public int mode;
+}

@@ -1,0 +1,6 @@
+package tessaly.str.diskarray;
+
+/** A host's part of an address. */
+public class MainteHostAddress {
+    public int host_address;
+}

@@ -1,0 +1,7 @@
+package tessaly.str.diskarray;
+
+/** The registered iSCSI initiators of one controller. */
+public class QViSCSIInitiatorCTLInfo {
+    /** 8 elements. */
+    public QViSCSIInitiatorPortInfo[] port;
+}

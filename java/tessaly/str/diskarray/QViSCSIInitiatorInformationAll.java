@@ -1,0 +1,8 @@
+package tessaly.str.diskarray;
+
+/** The registered iSCSI initiators of an array. */
+public class QViSCSIInitiatorInformationAll {
+    public int option;
+    /** 2 elements. */
+    public QViSCSIInitiatorCTLInfo[] ctl;
+}

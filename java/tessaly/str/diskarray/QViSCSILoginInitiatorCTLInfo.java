@@ -1,0 +1,7 @@
+package tessaly.str.diskarray;
+
+/** The iSCSI initiators that are logged in to one controller. */
+public class QViSCSILoginInitiatorCTLInfo {
+    /** 8 elements. */
+    public QViSCSILoginInitiatorPortInfo[] port;
+}

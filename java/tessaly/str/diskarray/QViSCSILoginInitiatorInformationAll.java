@@ -1,0 +1,7 @@
+package tessaly.str.diskarray;
+
+/** The iSCSI initiators that are logged in to an array. */
+public class QViSCSILoginInitiatorInformationAll {
+    /** 2 elements. */
+    public QViSCSILoginInitiatorCTLInfo[] ctl;
+}

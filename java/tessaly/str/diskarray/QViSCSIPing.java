@@ -1,0 +1,7 @@
+package tessaly.str.diskarray;
+
+/** The pings from an array. */
+public class QViSCSIPing {
+    /** 2 elements. */
+    public QViSCSIPingCTL[] ctl;
+}

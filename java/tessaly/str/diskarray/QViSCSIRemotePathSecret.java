@@ -1,0 +1,7 @@
+package tessaly.str.diskarray;
+
+/** The secret of a remote path. */
+public class QViSCSIRemotePathSecret {
+    /** At most 32 bytes. */
+    public String secret;
+}

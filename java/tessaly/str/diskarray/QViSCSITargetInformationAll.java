@@ -1,0 +1,8 @@
+package tessaly.str.diskarray;
+
+/** The iSCSI targets of an array. */
+public class QViSCSITargetInformationAll {
+    public int option;
+    /** 2 elements. */
+    public QViSCSITargetCTLInfo[] ctl;
+}

@@ -1,0 +1,7 @@
+package tessaly.str.diskarray;
+
+/** The iSNS servers of an array. */
+public class QViSNSInformation {
+    /** 2 elements. */
+    public QViSNSCTLInfo[] ctl;
+}
