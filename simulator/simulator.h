@@ -38,6 +38,10 @@ enum Code : int {
   kUnknownAccount = 20103,
   kAccountExists = 20104,
   kTooManyAccounts = 20105,
+  kFileFailed = 20801,
+  kNothingStaged = 20802,
+  kNothingDownloaded = 20803,
+  kUnknownNode = 20804,
 };
 
 /// The account that every unit begins with.
@@ -61,7 +65,7 @@ struct Unit {
   Part& part() {
     std::any& held = parts[typeid(Part)];
     if (!held.has_value()) {
-      held = Part{};
+      held.emplace<Part>();
     }
     return std::any_cast<Part&>(held);
   }

@@ -38,6 +38,8 @@ const Departure& departureOf(const NativeMethod& method) {
       {"QV_DiscoverUnitInformation", {.releasesOnRefusal = true}},
       {"QV_DiscoverUnitInformationEx", {.releasesOnRefusal = true}},
       {"QV_GetUnitParamTable", {.silentWithoutMemory = true}},
+      {"QV_SetSnmpConfig", {.neverReleased = 1}},
+      {"QV_SnmpConfigOutput", {.neverReleased = 1}},
   };
   static const Departure regular;
   const auto found = departures.find(method.name);
