@@ -27,7 +27,7 @@ EmailAlertInformation& emailAlertOf(const UnitName* unit) {
 // A unit has the alert that it was registered with.
 
 int checkAlert(const UnitName* unit, const QVSessionInfo*, std::int32_t, std::int32_t* alert) {
-  *alert = findUnit(textOf(*unit))->param.alert;
+  *alert = std::int32_t{findUnit(textOf(*unit))->param.alert};
   return 0;
 }
 

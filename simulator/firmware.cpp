@@ -30,7 +30,9 @@ struct Staging {
   std::vector<std::pair<std::string, std::string>> files;
 
   /// The revision of the whole: that of the first file.
-  std::string revision() const { return files.empty() ? std::string() : files.front().second; }
+  [[nodiscard]] std::string revision() const {
+    return files.empty() ? std::string() : files.front().second;
+  }
 };
 
 struct Download {
@@ -44,7 +46,7 @@ struct Download {
     }
     return count;
   }
-  bool complete() const { return count == kLastCount; }
+  [[nodiscard]] bool complete() const { return count == kLastCount; }
 };
 
 /// What this host holds.

@@ -1,5 +1,6 @@
 // Checking for alerts, and sending them by e-mail.
 #include <algorithm>
+#include <iterator>
 
 #include "arraylib/alerts.h"
 #include "methods/native_methods.h"

@@ -6,7 +6,7 @@ namespace {
 
 class Firmware : public UnitInSession {
  protected:
-  static jobject file(const char* name, const char* content) {
+  jobject file(const char* name, const char* content) {
     const std::string path = temporary(name);
     std::ofstream(path) << content;
     return text(path);

@@ -1,9 +1,13 @@
 #pragma once
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
+#include <cstdint>
+#include <cstdio>
 #include <fstream>
 #include <iterator>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -32,7 +36,12 @@ class UnitInSession : public ::testing::Test {
     unit_ = text("north");
     session_ = call("QV_LoginQVAccount", {unit_, request}).result;
   }
-  ~UnitInSession() override { realJvm()->PopLocalFrame(nullptr); }
+  ~UnitInSession() override {
+    realJvm()->PopLocalFrame(nullptr);
+    for (const std::string& path : temporary_) {
+      std::remove(path.c_str());
+    }
+  }
 
   static std::vector<char> lastInput(const char* function, int index) {
     std::vector<char> bytes(8192);
@@ -91,8 +100,11 @@ class UnitInSession : public ::testing::Test {
     EXPECT_EQ(lastInput(method, static_cast<int>(kinds.size())).size(), 0U);
   }
 
-  static std::string temporary(const std::string& name) {
-    return ::testing::TempDir() + "quorvelj-" + name;
+  /// A path of this process's own; what is written there goes when the test ends.
+  std::string temporary(const std::string& name) {
+    return *temporary_
+                .insert(::testing::TempDir() + "quorvelj-" + std::to_string(getpid()) + '-' + name)
+                .first;
   }
   static std::string contentOf(const std::string& path) {
     std::ifstream file(path);
@@ -101,6 +113,9 @@ class UnitInSession : public ::testing::Test {
 
   jobject unit_;
   jobject session_;
+
+ private:
+  std::set<std::string> temporary_;
 };
 
 }  // namespace quorvelj::testing
