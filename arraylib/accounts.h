@@ -150,3 +150,49 @@ QUORVEL_API int QV_GetAccountBannerAuth(const UnitName* unit, const QVSessionInf
                                         AccountBanner* banner);
 QUORVEL_API int QV_SetAccountBannerAuth(const UnitName* unit, const QVSessionInfo* session,
                                         const AccountBanner* banner);
+
+// Audit log
+
+/// A syslog server that the audit log is sent to.
+struct QVAuditLogSyslogServer {
+  std::int32_t server_used;
+  char ip_address[40];
+};
+QUORVEL_RECORD(QVAuditLogSyslogServer, 44);
+
+struct QVAuditLogSyslogServerInfo {
+  std::int32_t serverall_used;
+  QVAuditLogSyslogServer server[2];
+};
+QUORVEL_RECORD(QVAuditLogSyslogServerInfo, 92);
+
+/// The log that the array keeps itself.
+struct QVAuditLogInternalLog {
+  std::int32_t internallog_used;
+};
+QUORVEL_RECORD(QVAuditLogInternalLog, 4);
+
+/// The settings of the audit log.
+struct QVAuditLogInformation {
+  std::int32_t option;
+  std::int32_t set_valid;
+  QVAuditLogSyslogServerInfo auditlog_server;
+  QVAuditLogInternalLog auditlog_internallog;
+};
+QUORVEL_RECORD(QVAuditLogInformation, 104);
+QUORVEL_OFFSET(QVAuditLogInformation, auditlog_internallog, 100);
+
+/// A request to clear the audit log.
+struct AuditLogInitRequest {
+  std::int32_t set_valid;
+};
+QUORVEL_RECORD(AuditLogInitRequest, 4);
+
+QUORVEL_API int QV_GetQVAuditLogInformation(const UnitName* unit, const QVSessionInfo* session,
+                                            QVAuditLogInformation* information);
+QUORVEL_API int QV_SetQVAuditLogInformation(const UnitName* unit, const QVSessionInfo* session,
+                                            const QVAuditLogInformation* information);
+QUORVEL_API int QV_QVAuditLogExport(const UnitName* unit, const QVSessionInfo* session,
+                                    const FilePath* path);
+QUORVEL_API int QV_InitQVAuditLog(const UnitName* unit, const QVSessionInfo* session,
+                                  const AuditLogInitRequest* request);

@@ -101,6 +101,7 @@ public final class ArrayTour {
         StoragePage.show(visit);
         HostsPage.show(visit);
         PortsPage.show(visit);
+        MaintenancePage.show(visit);
         ARRAY.QV_LogoutQVAccount(unit, session, new LogoutOption());
         Visit.step("After the logout", () -> ARRAY.QV_GetOwnUserPermission(unit, session));
     }

@@ -48,6 +48,10 @@ enum Code : int {
   kMappingGuarded = 20604,
   kTargetExists = 20311,
   kTooManyPaths = 20312,
+  kFileFailed = 20801,
+  kNothingStaged = 20802,
+  kNothingDownloaded = 20803,
+  kUnknownNode = 20804,
 };
 
 /// The account that every unit begins with.
@@ -71,7 +75,7 @@ struct Unit {
   Part& part() {
     std::any& held = parts[typeid(Part)];
     if (!held.has_value()) {
-      held = Part{};
+      held.emplace<Part>();
     }
     return std::any_cast<Part&>(held);
   }

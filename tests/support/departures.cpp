@@ -23,6 +23,8 @@ const Departure& departureOf(const NativeMethod& method) {
       {"QV_GetDriveStatus", {.neverReleased = 1, .acceptsNullText = true}},
       {"QV_LogicalUnitFormatStatusList", {.acceptsNullText = true}},
       {"QV_FibreInfoPermissionImport", {.acceptsNullText = true}},
+      {"QV_SetSnmpConfig", {.neverReleased = 1}},
+      {"QV_SnmpConfigOutput", {.neverReleased = 1}},
   };
   static const Departure regular;
   const auto found = departures.find(method.name);

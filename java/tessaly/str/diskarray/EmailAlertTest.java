@@ -1,0 +1,6 @@
+package tessaly.str.diskarray;
+
+/** A request for a test mail. */
+public class EmailAlertTest {
+    public int ctl;
+}

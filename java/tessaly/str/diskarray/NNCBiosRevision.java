@@ -1,0 +1,6 @@
+package tessaly.str.diskarray;
+
+/** The revision of a NAS node's BIOS. */
+public class NNCBiosRevision {
+    public String nncbiosrevision;
+}

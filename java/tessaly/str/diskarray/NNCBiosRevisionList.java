@@ -1,0 +1,9 @@
+package tessaly.str.diskarray;
+
+/** The BIOS revisions of the NAS nodes. */
+public class NNCBiosRevisionList {
+    /** 4 elements. */
+    public int[] mount;
+    /** 4 elements. */
+    public NNCBiosRevision[] nnc_revision;
+}

@@ -1,0 +1,252 @@
+// Staging, downloading and replacing the firmware of the array, its enclosures and its NAS nodes.
+#include "arraylib/firmware.h"
+
+#include <cstring>
+
+#include "methods/native_methods.h"
+
+using namespace quorvelj;
+
+QUORVELJ_CLASS(MicroFileInformation, micro, valid, booting_wait);
+QUORVELJ_CLASS(MicroReplaceInformation, valid, WaitCancelreq, ReplaceCTL);
+QUORVELJ_CLASS(MicroReplaceCrosscallRequest, ctl, forced_mode);
+QUORVELJ_CLASS(ENCMicroInformation, qv_type, device_type, micro_type, read_rev);
+QUORVELJ_CLASS(NNCBiosRevision, nncbiosrevision);
+QUORVELJ_CLASS(NNCBiosRevisionList, mount, nnc_revision);
+QUORVELJ_CLASS(NNCBiosDownloadStatus, downloadStatus, errorInfo);
+QUORVELJ_CLASS(NNCUpgradeStatus, nncUpgradeStatus);
+QUORVELJ_CLASS(NNCUpgradeStatusList, nnc_status);
+
+NATIVE_METHOD(jint, MicroFileConcat, jstring unit, jobject session, jstring path, jint option) {
+  return value(env, QV_MicroFileConcat, unit, session, path, option);
+}
+
+NATIVE_METHOD(void, MicroFileConcat2, jstring unit, jobject session, jstring path) {
+  update(env, QV_MicroFileConcat2, unit, session, path);
+}
+
+NATIVE_METHOD(void, MicroFileConcatEx, jstring unit, jobject session, jstring path) {
+  update(env, QV_MicroFileConcatEx, unit, session, path);
+}
+
+NATIVE_METHOD(void, MicroFileConcatEx2, jstring unit, jobject session, jstring first,
+              jstring second) {
+  update(env, QV_MicroFileConcatEx2, unit, session, first, second);
+}
+
+NATIVE_METHOD(void, CancelMicroFileConcat) { update(env, QV_CancelMicroFileConcat); }
+
+NATIVE_METHOD(void, CancelMicroFileConcat2, jstring path) {
+  update(env, QV_CancelMicroFileConcat2, path);
+}
+
+NATIVE_METHOD(jint, GetMicroDownloadCount, jstring unit) {
+  return value(env, QV_GetMicroDownloadCount, unit);
+}
+
+NATIVE_METHOD(jint, GetMicroDownloadCountEx, jstring unit, jint option) {
+  return value(env, QV_GetMicroDownloadCountEx, unit, option);
+}
+
+NATIVE_METHOD(jint, GetMicroDownloadCountEx2, jstring unit, jint option, jstring path) {
+  return value(env, QV_GetMicroDownloadCountEx2, unit, option, path);
+}
+
+NATIVE_METHOD(void, MicroDownload, jstring unit, jobject session, jint option1, jint option2,
+              jint option3) {
+  update(env, QV_MicroDownload, unit, session, option1, option2, option3);
+}
+
+NATIVE_METHOD(void, MicroDownloadEx, jstring unit, jobject session, jint option1, jint option2,
+              jint option3, jint option4) {
+  update(env, QV_MicroDownloadEx, unit, session, option1, option2, option3, option4);
+}
+
+NATIVE_METHOD(void, MicroDownloadEx2, jstring unit, jobject session, jint option1, jint option2,
+              jint option3, jint option4, jstring path) {
+  update(env, QV_MicroDownloadEx2, unit, session, option1, option2, option3, option4, path);
+}
+
+NATIVE_METHOD(void, MicroReplace, jstring unit, jobject session, jint option) {
+  update(env, QV_MicroReplace, unit, session, option);
+}
+
+NATIVE_METHOD(void, CompleteMicroReplace, jstring unit, jobject session, jint option) {
+  update(env, QV_CompleteMicroReplace, unit, session, option);
+}
+
+NATIVE_METHOD(jobject, GetMicroFileInformation) { return query(env, QV_GetMicroFileInformation); }
+
+NATIVE_METHOD(void, ENCMicroFileConcat, jstring unit, jobject session, jstring path) {
+  update(env, QV_ENCMicroFileConcat, unit, session, path);
+}
+
+NATIVE_METHOD(void, ENCMicroFileConcatEx, jstring unit, jobject session, jstring path,
+              jint option) {
+  update(env, QV_ENCMicroFileConcatEx, unit, session, path, option);
+}
+
+NATIVE_METHOD(void, CancelENCMicroFileConcat) { update(env, QV_CancelENCMicroFileConcat); }
+
+NATIVE_METHOD(jint, ENCMicroDownload, jstring unit, jobject session, jint option1, jint option2) {
+  return value(env, QV_ENCMicroDownload, unit, session, option1, option2);
+}
+
+NATIVE_METHOD(jint, GetENCMicroDownloadCount, jstring unit, jobject session) {
+  return value(env, QV_GetENCMicroDownloadCount, unit, session);
+}
+
+NATIVE_METHOD(void, ENCMicroReplace, jstring unit, jobject session, jint option) {
+  update(env, QV_ENCMicroReplace, unit, session, option);
+}
+
+NATIVE_METHOD(jobject, GetENCMicroInformation) { return query(env, QV_GetENCMicroInformation); }
+
+NATIVE_METHOD(jobject, GetENCMicroInformationEx, jstring unit, jobject session) {
+  return query(env, QV_GetENCMicroInformationEx, unit, session);
+}
+
+NATIVE_METHOD(jobject, GetLocalNNCBiosRevision) { return query(env, QV_GetLocalNNCBiosRevision); }
+
+NATIVE_METHOD(jobject, GetNNCBiosRevisionList, jstring unit, jobject session) {
+  return query(env, QV_GetNNCBiosRevisionList, unit, session);
+}
+
+NATIVE_METHOD(void, PreparesNNCBiosDownload, jstring unit, jobject session, jint option) {
+  update(env, QV_PreparesNNCBiosDownload, unit, session, option);
+}
+
+NATIVE_METHOD(void, NNCBiosFileConcat, jstring unit, jobject session, jstring path) {
+  update(env, QV_NNCBiosFileConcat, unit, session, path);
+}
+
+NATIVE_METHOD(void, CancelNNCBiosFileConcat) { update(env, QV_CancelNNCBiosFileConcat); }
+
+NATIVE_METHOD(void, NNCBiosDownload, jstring unit, jobject session, jint option1, jint option2) {
+  update(env, QV_NNCBiosDownload, unit, session, option1, option2);
+}
+
+NATIVE_METHOD(jint, GetNNCBiosDownloadCount) { return value(env, QV_GetNNCBiosDownloadCount); }
+
+NATIVE_METHOD(jobject, GetNNCBiosDownloadStatus, jstring unit, jobject session, jint option) {
+  return query(env, QV_GetNNCBiosDownloadStatus, unit, session, option);
+}
+
+NATIVE_METHOD(jobject, GetNNCUpgradeStatusList, jstring unit, jobject session) {
+  return query(env, QV_GetNNCUpgradeStatusList, unit, session);
+}
+
+// Departs from the query frame: the library's result 4109 is a success, too.
+NATIVE_METHOD(jobject, MicroReplaceEx, jstring unit, jobject session, jint option) {
+  constexpr int kAlsoSuccess = 4109;
+
+  flushOutput();
+  Inputs<const UnitName*, const QVSessionInfo*, std::int32_t> inputs(unit, session, option);
+  if (!inputs.accept(env)) {
+    return nullptr;
+  }
+  MicroReplaceInformation* information = nullptr;
+  if (inputs.allocateAndRead(env)) {
+    information = allocate<MicroReplaceInformation>();
+  }
+  if (information == nullptr) {
+    throwArrayException(env, kOutOfMemory);
+    return nullptr;
+  }
+  const int result = inputs.call(QV_MicroReplaceEx, information);
+  inputs.releaseAll();
+  const jobject built = finishQuery(env, result == kAlsoSuccess ? 0 : result,
+                                    ClassOf<MicroReplaceInformation>::kMap, information);
+  if (built != nullptr) {
+    flushOutput();
+  }
+  return built;
+}
+
+// Departs from the query frame: both inputs are allocated before the first is read.
+NATIVE_METHOD(jobject, MicroReplaceCrosscall, jstring unit, jobject session, jobject request) {
+  flushOutput();
+  Argument<const UnitName*> name(unit);
+  Argument<const QVSessionInfo*> opened(session);
+  Argument<const MicroReplaceCrosscallRequest*> wanted(request);
+  if (!name.accept(env)) {
+    return nullptr;
+  }
+  MicroReplaceInformation* information = nullptr;
+  if (opened.allocate() && wanted.allocate()) {
+    opened.read(env);
+    wanted.read(env);
+    information = allocate<MicroReplaceInformation>();
+  }
+  if (information == nullptr) {
+    throwArrayException(env, kOutOfMemory);
+    return nullptr;
+  }
+  const int result = QV_MicroReplaceCrosscall(name.get(), opened.get(), wanted.get(), information);
+  opened.release();
+  wanted.release();
+  const jobject built =
+      finishQuery(env, result, ClassOf<MicroReplaceInformation>::kMap, information);
+  if (built != nullptr) {
+    flushOutput();
+  }
+  return built;
+}
+
+// Departs from the update frame: the last int is handed over as a record of 4 bytes.
+NATIVE_METHOD(void, ENCMicroReplaceEx, jstring unit, jobject session, jint option, jint record) {
+  flushOutput();
+  Inputs<const UnitName*, const QVSessionInfo*, std::int32_t> inputs(unit, session, option);
+  if (!inputs.accept(env)) {
+    return;
+  }
+  if (!inputs.allocateAndRead(env)) {
+    throwArrayException(env, kOutOfMemory);
+    return;
+  }
+  const std::int32_t recorded = record;
+  const int result = inputs.call(QV_ENCMicroReplaceEx, &recorded);
+  inputs.releaseAll();
+  if (result != 0) {
+    throwArrayException(env, result);
+    return;
+  }
+  flushOutput();
+}
+
+namespace {
+
+// Departs from the query frame: the result is a text, which the library writes into a buffer on the
+// stack.
+template <class Function, class... Java>
+jstring newRevision(JNIEnv* env, Function function, Java... path) {
+  flushOutput();
+  typename FunctionWithOutput<Function>::InputsOf inputs(path...);
+  if (!inputs.accept(env)) {
+    return nullptr;
+  }
+  MicroRevisionText revision{};
+  const int result = inputs.call(function, &revision);
+  if (result != 0) {
+    throwArrayException(env, result);
+    return nullptr;
+  }
+  // One byte more: a revision that fills its buffer has no NUL of its own.
+  char text[sizeof revision + 1]{};
+  std::memcpy(text, revision, sizeof revision);
+  const jstring string = env->NewStringUTF(text);
+  if (string == nullptr) {
+    throwArrayException(env, kFailed);
+    return nullptr;
+  }
+  flushOutput();
+  return string;
+}
+
+}  // namespace
+
+NATIVE_METHOD(jstring, GetNewMicroRevision) { return newRevision(env, QV_GetNewMicroRevision); }
+
+NATIVE_METHOD(jstring, GetNewMicroRevision2, jstring path) {
+  return newRevision(env, QV_GetNewMicroRevision2, path);
+}
