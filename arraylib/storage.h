@@ -47,7 +47,7 @@ struct RgDetail {
 };
 QUORVEL_RECORD(RgDetail, 56);
 
-/// A drive slot: the RAID group's next drive behind it.
+/// A drive of a RAID group, and where the group's next drive is.
 struct RgDriveInfo {
   std::int32_t valid_index;
   std::int32_t next_unit_no;
@@ -56,7 +56,7 @@ struct RgDriveInfo {
 };
 QUORVEL_RECORD(RgDriveInfo, 16);
 
-/// All RAID groups, and all drive slots by enclosure.
+/// All RAID groups, and their drives in rows.
 struct RaidGroupInformation {
   std::int32_t rg_count;
   RgDetail rg[200];
@@ -366,7 +366,7 @@ struct PoolCtlInfo {
 };
 QUORVEL_RECORD(PoolCtlInfo, 296);
 
-/// The pools that both controllers share.
+/// The pools of the whole array.
 struct PoolSysInfo {
   std::int32_t pool_enable_count;
   PoolDetailInfo pool[64];

@@ -22,7 +22,7 @@ import tessaly.str.diskarray.VvolInformation;
 final class StoragePage {
     private static final long GIB = 1L << 21;
     private static final long[] SIZES = {500 * GIB, 3072 * GIB, 20 * GIB};
-    /** The pools that both controllers share. */
+    /** The pools of the whole array, to the simulator. */
     private static final int SHARED = 2;
     private static final int FINISHED = 100;
 
@@ -194,7 +194,7 @@ final class StoragePage {
                 Visit.ARRAY.QV_GetPoolInformation(visit.unit, visit.session).sys.pool) {
             if (each.lu_count > 0) {
                 table.row(each.pool_no, size(each.allcapa_h, each.allcapa_l),
-                        size(each.usedcapa_h, each.usedcapa_l), each.threshold + " %",
+                        size(each.usedcapa_h, each.usedcapa_l), each.threshold,
                         each.lu_count);
             }
         }
@@ -224,7 +224,7 @@ final class StoragePage {
         for (int number = 0; number < guards.length; number++) {
             if (guards[number].lu_valid != 0) {
                 table.row(number, size(guards[number].capacity_h, guards[number].capacity_l),
-                        guards[number].access_level, guards[number].retention_term + " days");
+                        guards[number].access_level, guards[number].retention_term);
             }
         }
         table.print();

@@ -1,8 +1,8 @@
 // Pools, virtual volumes, integrated LUs and the LU guard of a simulated unit.
 //
 // Of the ints that the library alone knows, the simulator takes those of a pool for the controller
-// (2 for the shared pools), the pool and the LU, those of a virtual volume for its LU number and
-// the two words of its capacity, and those of the guard for the LU and the value.
+// (2 for the pools of the whole array), the pool and the LU, those of a virtual volume for its LU
+// number and the two words of its capacity, and those of the guard for the LU and the value.
 #include <iterator>
 
 #include "simulator/storage.h"

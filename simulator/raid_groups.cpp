@@ -161,7 +161,8 @@ int addParityGroups(const Storage& storage, Group& group, std::int32_t parityGro
       dataDrives(group.level, group.parityDrives) == 0) {
     return kNoCapacity;
   }
-  const auto count = static_cast<std::size_t>(group.parityDrives * parityGroups);
+  const std::size_t count =
+      static_cast<std::size_t>(group.parityDrives) * static_cast<std::size_t>(parityGroups);
   std::vector<CreateRgDrive> drives = freeDrives(storage);
   if (count > drives.size()) {
     return kNoCapacity;

@@ -52,12 +52,12 @@ struct Group {
   std::vector<CreateRgDrive> drives;
   std::vector<Area> areas;
 
-  Blocks total() const;
-  Blocks rest() const;
-  Blocks largestRest() const;
-  std::int32_t luCount() const;
+  [[nodiscard]] Blocks total() const;
+  [[nodiscard]] Blocks rest() const;
+  [[nodiscard]] Blocks largestRest() const;
+  [[nodiscard]] std::int32_t luCount() const;
   /// The LU before the first area of another, or none.
-  std::int32_t luBefore(std::int32_t lun) const;
+  [[nodiscard]] std::int32_t luBefore(std::int32_t lun) const;
   /// Gives an LU free capacity: the first area that is large enough, or of those behind the LUs of
   /// a list as much as it takes. False, and nothing changed, where there is not as much.
   bool take(std::int32_t lun, Blocks blocks, const std::vector<std::int32_t>& behind = {});
@@ -84,16 +84,16 @@ class Jobs {
   void advanceAll();
   void finish(std::int32_t lun);
 
-  bool entered(std::int32_t lun) const { return percent_.contains(lun); }
-  bool idle() const { return queue_.empty(); }
-  std::int32_t percent(std::int32_t lun) const;
+  [[nodiscard]] bool entered(std::int32_t lun) const { return percent_.contains(lun); }
+  [[nodiscard]] bool idle() const { return queue_.empty(); }
+  [[nodiscard]] std::int32_t percent(std::int32_t lun) const;
   /// The percentage of all that were entered.
-  std::int32_t totalPercent() const;
-  Status status(std::int32_t lun) const;
+  [[nodiscard]] std::int32_t totalPercent() const;
+  [[nodiscard]] Status status(std::int32_t lun) const;
   /// How many are before an LU, 0 for what runs.
-  std::int32_t waitingNumber(std::int32_t lun) const;
+  [[nodiscard]] std::int32_t waitingNumber(std::int32_t lun) const;
   /// How many questions it takes until all are finished.
-  std::int32_t questionsLeft() const;
+  [[nodiscard]] std::int32_t questionsLeft() const;
 
  private:
   std::map<std::int32_t, std::int32_t> percent_;
@@ -121,10 +121,10 @@ struct Storage {
   std::map<std::int32_t, std::vector<std::int32_t>> children;
   std::int32_t expirationLock = 0;
 
-  bool hasLu(std::int32_t lun) const { return lus.contains(lun); }
-  bool isNumberFree(std::int32_t lun) const;
+  [[nodiscard]] bool hasLu(std::int32_t lun) const { return lus.contains(lun); }
+  [[nodiscard]] bool isNumberFree(std::int32_t lun) const;
   /// Whether a pool or an integrated LU needs an LU.
-  bool isUsed(std::int32_t lun) const;
+  [[nodiscard]] bool isUsed(std::int32_t lun) const;
   int addLu(const LogicalUnit& record, Blocks blocks, const std::vector<std::int32_t>& behind = {});
   int deleteLu(std::int32_t lun);
 };

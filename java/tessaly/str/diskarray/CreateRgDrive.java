@@ -2,8 +2,8 @@ package tessaly.str.diskarray;
 
 /** A drive chosen for a new RAID group. */
 public class CreateRgDrive {
-    /** Enclosure. */
+    /** Unit number. */
     public int unit_no;
-    /** Number of the drive. */
+    /** Drive number. */
     public int hdu_no;
 }

@@ -501,7 +501,7 @@ public class DiskArrayUtilityJNI {
     /** Returns the integrated LUs. */
     public native IntegrationLUInfo QV_IntegrationLUInfo(String unit) throws DiskArrayException;
 
-    /** Returns the integrated LUs of large arrays. */
+    /** Returns the integrated LUs, in the second form. */
     public native IntegrationLUInfo2 QV_IntegrationLUInfo2(String unit, QVSessionInfo session)
             throws DiskArrayException;
 

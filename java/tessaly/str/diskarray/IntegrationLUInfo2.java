@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** The integrated LUs of large arrays. */
+/** The integrated LUs, in the second form. */
 public class IntegrationLUInfo2 {
     public int integration_lu;
     /** How many elements of <code>parent_lu</code> are used. */

@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** The pools that both controllers share. */
+/** The pools of the whole array. */
 public class PoolSysInfo {
     public int pool_enable_count;
     /** Always 64 elements. */

@@ -6,6 +6,6 @@ public class RaidGroupInformation {
     public int rg_count;
     /** Always 200 elements. */
     public RgDetail[] rg;
-    /** Drive slots by enclosure: always 60 rows of 30. */
+    /** Always 60 rows of 30. */
     public RgDriveInfo[][] rgdrv;
 }

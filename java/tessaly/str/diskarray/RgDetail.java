@@ -8,7 +8,7 @@ public class RgDetail {
     public int rgnum;
     /** RAID level. */
     public int level;
-    /** Enclosure of the first drive. */
+    /** Unit (enclosure) number of the first drive. */
     public int start_unit_no;
     /** Number of the first drive. */
     public int start_hdu_no;

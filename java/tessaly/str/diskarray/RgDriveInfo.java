@@ -1,10 +1,10 @@
 package tessaly.str.diskarray;
 
-/** A drive slot, and the next drive of its RAID group. */
+/** A drive of a RAID group, and where the group's next drive is. */
 public class RgDriveInfo {
-    /** Whether the drive belongs to a group. */
+    /** Whether the entry is in use. */
     public int valid_index;
-    /** Enclosure of the next drive. */
+    /** Unit number of the next drive. */
     public int next_unit_no;
     /** Number of the next drive. */
     public int next_hdu_no;
