@@ -38,6 +38,16 @@ enum Code : int {
   kUnknownAccount = 20103,
   kAccountExists = 20104,
   kTooManyAccounts = 20105,
+  kUnknownPair = 20701,
+  kPairExists = 20702,
+  kTooManyPairs = 20703,
+  kWrongPairState = 20704,
+  kUnknownGroup = 20705,
+  kUnknownRemotePath = 20711,
+  kTooManyRemotePaths = 20712,
+  kNotReserved = 20721,
+  kLuInUse = 20722,
+  kUnknownMigration = 20723,
 };
 
 /// The account that every unit begins with.
