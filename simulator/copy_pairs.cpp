@@ -242,7 +242,7 @@ int restore(const UnitName* unit, const QVSessionInfo*, const PairOperation* spe
 }
 
 template <Kind kind>
-int swap(const UnitName* unit, const QVSessionInfo*, const RemotePairOperation* spec) {
+int swapSides(const UnitName* unit, const QVSessionInfo*, const RemotePairOperation* spec) {
   return operate(unit, kind, spec->target, {kSplit}, [](Pair& pair) {
     pair.swapped = !pair.swapped;
     pair.finishCopy();
@@ -497,12 +497,12 @@ SIMULATE(3, QV_CreateFarlinkPair, create<kFarlink>)
 SIMULATE(3, QV_SplitFarlinkPair, split<kFarlink>)
 SIMULATE(3, QV_SimpleFarlinkPair, simple<kFarlink>)
 SIMULATE(3, QV_ResyncFarlinkPair, resync<kFarlink>)
-SIMULATE(3, QV_SwapFarlinkPair, swap<kFarlink>)
+SIMULATE(3, QV_SwapFarlinkPair, swapSides<kFarlink>)
 SIMULATE(3, QV_CreateLonglinkPair, create<kLonglink>)
 SIMULATE(3, QV_SplitLonglinkPair, split<kLonglink>)
 SIMULATE(3, QV_SimpleLonglinkPair, simple<kLonglink>)
 SIMULATE(3, QV_ResyncLonglinkPair, resync<kLonglink>)
-SIMULATE(3, QV_SwapLonglinkPair, swap<kLonglink>)
+SIMULATE(3, QV_SwapLonglinkPair, swapSides<kLonglink>)
 SIMULATE(3, QV_ChangeReplicationPair, changePair)
 SIMULATE(3, QV_GetPairInformation, getPairs)
 SIMULATE(3, QV_GetPairInformationSimple, getSimplePairs)

@@ -72,8 +72,8 @@ QUORVELJ_MAP(kLightPairLU, PairLUInfo, QUORVELJ_FIELD(PairLUInfo, lun),
 QUORVELJ_MAP(kLightPairs, PairInfo, QUORVELJ_FIELD(PairInfo, option),
              QUORVELJ_FIELD(PairInfo, pair_count), QUORVELJ_FIELD(PairInfo, lu).as(kLightPairLU));
 
-// The second light form: the capacities of the pairs. Its bound of 2,046 logical units is meant; the
-// record holds 4,094.
+// The second light form: the capacities of the pairs. Its bound of 2,046 logical units is meant;
+// the record holds 4,094.
 QUORVELJ_MAP(kSecondLightMirror, MirrorLUInfo, QUORVELJ_FIELD(MirrorLUInfo, mirror_no),
              QUORVELJ_FIELD(MirrorLUInfo, lun), QUORVELJ_FIELD(MirrorLUInfo, ctl_no),
              QUORVELJ_FIELD(MirrorLUInfo, pool_no), QUORVELJ_FIELD(MirrorLUInfo, pair_status),
