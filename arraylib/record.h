@@ -29,6 +29,16 @@ struct ClassOf;
     static const ClassMap kMap;                                                         \
   }
 
+/// The same for a record inside others that has no Java class: its fields are fields of the object
+/// that the record around it stands for.
+#define QUORVEL_PART(Record, bytes)                                 \
+  static_assert(sizeof(Record) == (bytes), "the size of " #Record); \
+  template <>                                                       \
+  struct quorvelj::ClassOf<Record> {                                \
+    static constexpr char kName[] = "";                             \
+    static const ClassMap kMap;                                     \
+  }
+
 /// Fixes the place of a member in bytes.
 #define QUORVEL_OFFSET(Record, member, bytes) \
   static_assert(offsetof(Record, member) == (bytes), "the place of " #Record "." #member)

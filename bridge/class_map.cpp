@@ -123,6 +123,8 @@ int storeNew(JNIEnv* env, jobject object, const Field& field, jobject value) {
   return kOk;
 }
 
+int setFields(JNIEnv* env, jobject object, const ClassMap& map, const std::byte* record);
+
 int setScalar(JNIEnv* env, jobject object, const Field& field, const std::byte* at) {
   switch (field.kind) {
     case FieldKind::kInt32:
@@ -137,6 +139,8 @@ int setScalar(JNIEnv* env, jobject object, const Field& field, const std::byte* 
         return setStringField(env, object, field.name, text);
       });
       return kOk;
+    case FieldKind::kPart:
+      return setFields(env, object, *field.element, at);
     default:
       return storeNew(env, object, field, build(env, *field.element, at));
   }
@@ -160,6 +164,15 @@ int setField(JNIEnv* env, jobject object, const Field& field, const std::byte* a
                      });
   }
   return storeNew(env, object, field, newArray(env, field, 0, at));
+}
+
+int setFields(JNIEnv* env, jobject object, const ClassMap& map, const std::byte* record) {
+  for (const Field& field : map.fields) {
+    if (setField(env, object, field, record + field.offset) != kOk) {
+      return kFailed;
+    }
+  }
+  return kOk;
 }
 
 // Reading
@@ -221,6 +234,8 @@ int getScalar(JNIEnv* env, jobject object, const Field& field, std::byte* at) {
       return getStringField(env, object, field.name, textAt(at), field.elementBytes);
     case FieldKind::kRecord:
       return getObject(env, object, field, at);
+    case FieldKind::kPart:
+      return read(env, *field.element, object, at);
     default:
       return getInt(env, object, field, at);
   }
@@ -265,13 +280,9 @@ jobject build(JNIEnv* env, const ClassMap& map, const void* record) {
     return nullptr;
   }
   const jobject object = newObjectByName(env, map.className);
-  if (object == nullptr) {
+  if (object == nullptr ||
+      setFields(env, object, map, static_cast<const std::byte*>(record)) != kOk) {
     return nullptr;
-  }
-  for (const Field& field : map.fields) {
-    if (setField(env, object, field, static_cast<const std::byte*>(record) + field.offset) != kOk) {
-      return nullptr;
-    }
   }
   return object;
 }

@@ -29,6 +29,7 @@
 //   std::byte[N]                    [B                     into the array at hand    exactly N
 //   std::byte[R][C], …              [[B, …                 new arrays                R x C
 //   a record, [N], [R][C], …        object, arrays         all elements              at most N
+//   a part (QUORVEL_PART)           its fields one by one  the fields                the fields
 //
 // `…` stands for a third extent; three-dimensional int and byte arrays are built only.
 namespace quorvelj {
@@ -38,7 +39,7 @@ inline constexpr std::size_t kMaxRank = 3;
 /// The widest text member; a text without its NUL is copied once, to end it.
 inline constexpr std::size_t kMaxTextBytes = 8192;
 
-enum class FieldKind : std::uint8_t { kInt32, kInt8, kUInt8, kText, kBytes, kRecord };
+enum class FieldKind : std::uint8_t { kInt32, kInt8, kUInt8, kText, kBytes, kRecord, kPart };
 
 struct ClassMap;
 
@@ -48,9 +49,10 @@ void moreElementsThanTheMemberHas();
 /// One Java field and its place in the record.
 struct Field {
   const char* name;
-  /// JNI signature. The elements of an array have the signature behind its first bracket.
+  /// JNI signature. The elements of an array have the signature behind its first bracket. A part,
+  /// which is no field of its own, has none.
   const char* signature;
-  /// The map of a record's elements, else null.
+  /// The map of a record's elements or of a part, else null.
   const ClassMap* element;
   /// Bytes from the start of the record.
   std::size_t offset;
@@ -140,9 +142,14 @@ consteval Field fieldOf(const char* name, std::size_t offset) {
     field.signature = "I";
   } else {
     static_assert(std::is_class_v<Element> && std::is_standard_layout_v<Element>);
-    field.kind = FieldKind::kRecord;
-    field.signature = &ClassOf<Element>::kArraySignature[kUnused];
     field.element = &ClassOf<Element>::kMap;
+    if constexpr (requires { ClassOf<Element>::kArraySignature; }) {
+      field.kind = FieldKind::kRecord;
+      field.signature = &ClassOf<Element>::kArraySignature[kUnused];
+    } else {
+      static_assert(kRank == 0, "the fields of a part are there once");
+      field.kind = FieldKind::kPart;
+    }
   }
   return field;
 }
@@ -153,7 +160,7 @@ consteval Field fieldOf(const char* name, std::size_t offset) {
 #define QUORVELJ_FIELD(Record, member) \
   quorvelj::fieldOf<decltype(Record::member)>(#member, offsetof(Record, member))
 
-/// Defines the map of a record's own class from its members in fill order.
+/// Defines the map of a record's own class, or of a part, from its members in fill order.
 #define QUORVELJ_CLASS(Record, ...)                                          \
   static constexpr quorvelj::Field kFieldsOf##Record[] = {                   \
       QUORVELJ_FOR_EACH(QUORVELJ_FIELD, Record __VA_OPT__(, ) __VA_ARGS__)}; \

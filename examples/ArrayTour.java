@@ -20,8 +20,12 @@ public final class ArrayTour {
     private final String password;
     private final String[] names = {"tour-north", "tour-south"};
     private final String[] addresses;
+    /** Whether logical units may be overwritten: they are nobody's. */
+    private final boolean simulated;
 
-    private ArrayTour(String user, String password, String first, String second) {
+    private ArrayTour(
+            boolean simulated, String user, String password, String first, String second) {
+        this.simulated = simulated;
         this.user = user;
         this.password = password;
         this.addresses = new String[] {first, second};
@@ -29,8 +33,8 @@ public final class ArrayTour {
 
     public static void main(String[] arguments) {
         ArrayTour tour = arguments.length == 4
-                ? new ArrayTour(arguments[0], arguments[1], arguments[2], arguments[3])
-                : new ArrayTour("admin", "quorvel", "192.0.2.10", "192.0.2.20");
+                ? new ArrayTour(false, arguments[0], arguments[1], arguments[2], arguments[3])
+                : new ArrayTour(true, "admin", "quorvel", "192.0.2.10", "192.0.2.20");
         tour.run();
     }
 
@@ -102,6 +106,9 @@ public final class ArrayTour {
         HostsPage.show(visit);
         PortsPage.show(visit);
         MaintenancePage.show(visit);
+        if (simulated) {
+            ReplicationPage.show(visit);
+        }
         ARRAY.QV_LogoutQVAccount(unit, session, new LogoutOption());
         Visit.step("After the logout", () -> ARRAY.QV_GetOwnUserPermission(unit, session));
     }

@@ -52,6 +52,16 @@ enum Code : int {
   kNothingStaged = 20802,
   kNothingDownloaded = 20803,
   kUnknownNode = 20804,
+  kUnknownPair = 20701,
+  kPairExists = 20702,
+  kTooManyPairs = 20703,
+  kWrongPairState = 20704,
+  kUnknownGroup = 20705,
+  kUnknownRemotePath = 20711,
+  kTooManyRemotePaths = 20712,
+  kNotReserved = 20721,
+  kLuInUse = 20722,
+  kUnknownMigration = 20723,
 };
 
 /// The account that every unit begins with.

@@ -33,6 +33,21 @@ struct Sampler {
 };
 QUORVEL_RECORD(Sampler, 132);
 
+struct Head {
+  Inner inner;
+  std::int32_t word;
+};
+QUORVEL_PART(Head, 12);
+
+struct Headed {
+  std::int32_t first;
+  Head head;
+  std::int32_t tail;
+};
+QUORVEL_RECORD(Headed, 20);
+
+QUORVELJ_CLASS(Head, word, inner);
+QUORVELJ_CLASS(Headed, head, first, tail);
 QUORVELJ_CLASS(Inner, number, text);
 QUORVELJ_CLASS(Sampler, word, negative, positive, text, texts, words, grid, bytes, byteGrid, raw,
                rawCube, inner, list, table, cube);
@@ -169,6 +184,29 @@ TEST_F(ClassMapTest, BuildingFailsOnAnythingButAText) {
   }
   jvm_.removeField("text");
   EXPECT_NE(build(jvm_.env(), ClassOf<Inner>::kMap, &record), nullptr);
+}
+
+TEST_F(ClassMapTest, FieldsOfAPartAreThoseOfTheObjectAroundIt) {
+  const Headed record{1, {{2, "abc"}, 3}, 4};
+  const jobject object = build(jvm_.env(), ClassOf<Headed>::kMap, &record);
+  ASSERT_NE(object, nullptr);
+  EXPECT_EQ(jvm_.intOf(object, "first"), 1);
+  EXPECT_EQ(jvm_.intOf(jvm_.objectOf(object, "inner"), "number"), 2);
+  EXPECT_EQ(jvm_.intOf(object, "word"), 3);
+  EXPECT_EQ(jvm_.intOf(object, "tail"), 4);
+  Headed copy{};
+  EXPECT_EQ(read(jvm_.env(), ClassOf<Headed>::kMap, object, &copy), 0);
+  EXPECT_EQ(std::memcmp(&copy, &record, sizeof copy), 0);
+
+  // What stops a part stops the record around it.
+  copy = {};
+  jvm_.setObject(object, "inner", "Ltessaly/str/diskarray/Inner;", nullptr);
+  EXPECT_EQ(read(jvm_.env(), ClassOf<Headed>::kMap, object, &copy), -1);
+  EXPECT_EQ(copy.head.word, 3);
+  EXPECT_EQ(copy.tail, 0);
+  jvm_.removeField("word");
+  EXPECT_EQ(read(jvm_.env(), ClassOf<Headed>::kMap, object, &copy), 2817);
+  EXPECT_EQ(build(jvm_.env(), ClassOf<Headed>::kMap, &record), nullptr);
 }
 
 TEST_F(ClassMapTest, LightFormsBuildASubset) {

@@ -61,9 +61,9 @@ std::vector<Member> int32sAt(std::size_t offset, const std::vector<const char*>&
 
 /// Plants values in a record of `size` bytes that the library returns from `method`, and finds each
 /// of them under its path in the Java result; bytes at 0x80 and at 0xFF, texts with and without
-/// their NUL.
+/// their NUL. `function` is the library's where it is not named like the method.
 void expectBuilt(const char* method, const std::vector<jobject>& arguments, std::size_t size,
-                 const std::vector<Member>& members);
+                 const std::vector<Member>& members, const char* function = nullptr);
 
 /// Sets the fields of `object`, which must be among the arguments, and finds each value at its
 /// place in the record of `size` bytes that the library was given as its `parameter`; texts as long

@@ -153,7 +153,8 @@ std::vector<Member> int32sAt(std::size_t offset, const std::vector<const char*>&
 }
 
 void expectBuilt(const char* method, const std::vector<jobject>& arguments, std::size_t size,
-                 const std::vector<Member>& members) {
+                 const std::vector<Member>& members, const char* function) {
+  function = function == nullptr ? method : function;
   for (const int round : {0, 1}) {
     SCOPED_TRACE(std::string(method) + ", round " + std::to_string(round));
     realJvm()->PushLocalFrame(64);
@@ -175,9 +176,9 @@ void expectBuilt(const char* method, const std::vector<jobject>& arguments, std:
         expected.push_back(std::to_string(sampleNumber(member, round)));
       }
     }
-    quorvelSimPrepareOutput(method, record.data(), record.size());
+    quorvelSimPrepareOutput(function, record.data(), record.size());
     const Called called = callLogged(method, arguments);
-    quorvelSimPrepareOutput(method, nullptr, 0);
+    quorvelSimPrepareOutput(function, nullptr, 0);
     ASSERT_EQ(called.failure, "");
     expectOrder(members);
     for (std::size_t index = 0; index < members.size(); ++index) {

@@ -1,0 +1,9 @@
+package tessaly.str.diskarray;
+
+/** Migrations to start, to end or to copy at another pace. */
+public class LuMigrationRequest {
+    public int request_pair_count;
+    public int owner_id;
+    /** At most 4,095; those behind are left out. */
+    public LuMigrationRequestPairInfo[] lu;
+}

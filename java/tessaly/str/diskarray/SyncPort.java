@@ -1,0 +1,7 @@
+package tessaly.str.diskarray;
+
+/** The synchronisation of a port. */
+public class SyncPort {
+    public int board_type;
+    public int rate;
+}
