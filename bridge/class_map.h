@@ -161,6 +161,13 @@ consteval Field fieldOf(const char* name, std::size_t offset) {
     quorvelj::ClassOf<Record>::kName, kFieldsOf##Record                      \
   }
 
+/// Defines the map of a class without a known field: it is made by its constructor, and its bytes
+/// are left alone.
+#define QUORVELJ_OPAQUE_CLASS(Record)                                  \
+  constinit const quorvelj::ClassMap quorvelj::ClassOf<Record>::kMap { \
+    quorvelj::ClassOf<Record>::kName, {}                               \
+  }
+
 /// Defines `name`, a second map of a record's class, from fields in fill order: a form that fills a
 /// subset or another order than the class's own map.
 #define QUORVELJ_MAP(name, Record, ...)                            \
