@@ -96,6 +96,7 @@ public final class ArrayTour {
         System.out.println("  logged in to " + unit + " as " + user + "\n");
         Visit visit = new Visit(unit, session);
         AccountsPage.show(visit);
+        PerformancePage.show(visit);
         ARRAY.QV_LogoutQVAccount(unit, session, new LogoutOption());
         Visit.step("After the logout", () -> ARRAY.QV_GetOwnUserPermission(unit, session));
     }

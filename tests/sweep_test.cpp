@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <limits>
 #include <map>
+#include <optional>
 #include <set>
 
 #include "simulator/control.h"
@@ -35,6 +36,8 @@ struct Departure {
   int neverReleased = 0;
   /// The first allocation that it does not test: from there on it goes on without memory.
   int firstUntestedAllocation = kNone;
+  /// Elements that arrays of objects must have where its tables of bytes take as many rows.
+  std::size_t objects = InputProfile{}.objects;
 };
 
 const Departure& departureOf(const NativeMethod& method) {
@@ -45,6 +48,8 @@ const Departure& departureOf(const NativeMethod& method) {
       {"QV_GetUnitParamTable", {.silentWithoutMemory = true}},
       {"QV_GetPerformance", {.neverReleased = 1}},
       {"QV_GetPerformanceAll", {.neverReleased = 1, .firstUntestedAllocation = 2}},
+      {"QV_PerformanceOutputAll", {.objects = 16}},
+      {"QV_PerformanceOutputAllEx", {.objects = 60}},
       {"QV_PerformanceOutputGraphInfo", {.releasesOnRefusal = true}},
   };
   static const Departure regular;
@@ -57,7 +62,7 @@ struct Fault {
   int allocation = 0;
   int libraryResult = 0;
   int nullArgument = -1;
-  InputProfile inputs{};
+  std::optional<InputProfile> inputs{};
   std::vector<unsigned char> output{};
 };
 
@@ -77,7 +82,7 @@ Outcome play(const NativeMethod& method, const Fault& fault) {
   quorvelSimPrepareOutput("*", fault.output.data(), fault.output.size());
   resetTestRuntime(fault.allocation);
   MiniJvm jvm;
-  jvm.profile = fault.inputs;
+  jvm.profile = fault.inputs.value_or(InputProfile{.objects = departureOf(method).objects});
   std::vector<jvalue> arguments;
   for (const std::string& type : method.argumentTypes()) {
     arguments.push_back(jvm.newArgument(type));
