@@ -425,7 +425,7 @@ TEST_F(PerformanceCollection, GraphsMakeACollection) {
   EXPECT_EQ(
       call("QV_PerformanceDataInitialize", {session_, text(path), number(60), number(0)}).failure,
       "");
-  for (int interval = 0; interval < 3; ++interval) {
+  for (int interval = 0; interval < 2; ++interval) {
     const jobject before = snapshots();
     const jobject graph = call("QV_PerformanceOutputGraphInfo",
                                {text("u"), session_,
@@ -438,7 +438,7 @@ TEST_F(PerformanceCollection, GraphsMakeACollection) {
   EXPECT_EQ(get(information, "serialno"), "85000101");
   EXPECT_EQ(get(information, "intervaltime"), "60");
   EXPECT_EQ(get(information, "fromtime.minute"), "2");
-  EXPECT_EQ(get(information, "totime.minute"), "6");
+  EXPECT_EQ(get(information, "totime.minute"), "4");
   EXPECT_EQ(get(information, "totime.year"), "2010");
 
   const jobject csv = create("PerformanceOutputCSVRequest");
@@ -447,9 +447,9 @@ TEST_F(PerformanceCollection, GraphsMakeACollection) {
   set(csv, "totime.year", "2010");
   set(csv, "fromDataNum", "2");
   set(csv, "toDataNum", "9");
-  EXPECT_EQ(get(call("QV_GetPerformanceCSVNum", {text(path), csv}).result, ""), "2");
+  EXPECT_EQ(get(call("QV_GetPerformanceCSVNum", {text(path), csv}).result, ""), "1");
   EXPECT_EQ(call("QV_PerformanceOutputCSV", {text(path), csv}).failure, "");
-  EXPECT_EQ(contentOf(file("performance2.csv")), "hour,minute\n0,6\n");
+  EXPECT_EQ(contentOf(file("performance1.csv")), "hour,minute\n0,4\n");
   EXPECT_EQ(call("QV_PerformanceInputMngFile", {text(file("nothing"))}).failure,
             "DiskArrayException 20201");
 }
