@@ -109,6 +109,7 @@ public final class ArrayTour {
         if (simulated) {
             ReplicationPage.show(visit);
         }
+        PerformancePage.show(visit);
         ARRAY.QV_LogoutQVAccount(unit, session, new LogoutOption());
         Visit.step("After the logout", () -> ARRAY.QV_GetOwnUserPermission(unit, session));
     }

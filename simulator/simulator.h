@@ -38,6 +38,8 @@ enum Code : int {
   kUnknownAccount = 20103,
   kAccountExists = 20104,
   kTooManyAccounts = 20105,
+  kTargetExists = 20311,
+  kTooManyPaths = 20312,
   kUnknownNumber = 20501,
   kNumberTaken = 20502,
   kNoCapacity = 20503,
@@ -46,12 +48,6 @@ enum Code : int {
   kUnknownHostGroup = 20602,
   kHostGroupExists = 20603,
   kMappingGuarded = 20604,
-  kTargetExists = 20311,
-  kTooManyPaths = 20312,
-  kFileFailed = 20801,
-  kNothingStaged = 20802,
-  kNothingDownloaded = 20803,
-  kUnknownNode = 20804,
   kUnknownPair = 20701,
   kPairExists = 20702,
   kTooManyPairs = 20703,
@@ -62,6 +58,10 @@ enum Code : int {
   kNotReserved = 20721,
   kLuInUse = 20722,
   kUnknownMigration = 20723,
+  kFileFailed = 20801,
+  kNothingStaged = 20802,
+  kNothingDownloaded = 20803,
+  kUnknownNode = 20804,
 };
 
 /// The account that every unit begins with.

@@ -23,6 +23,9 @@ const Departure& departureOf(const NativeMethod& method) {
       {"QV_GetDriveStatus", {.neverReleased = 1, .acceptsNullText = true}},
       {"QV_LogicalUnitFormatStatusList", {.acceptsNullText = true}},
       {"QV_FibreInfoPermissionImport", {.acceptsNullText = true}},
+      {"QV_GetPerformance", {.neverReleased = 1}},
+      {"QV_GetPerformanceAll", {.neverReleased = 1, .firstUntestedAllocation = 2}},
+      {"QV_PerformanceOutputGraphInfo", {.releasesOnRefusal = true}},
       {"QV_SetSnmpConfig", {.neverReleased = 1}},
       {"QV_SnmpConfigOutput", {.neverReleased = 1}},
   };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <limits>
 #include <vector>
 
 #include "tests/support/native_methods.h"
@@ -15,6 +16,8 @@ struct Departure {
   bool silentWithoutMemory = false;
   /// Records that it never releases.
   int neverReleased = 0;
+  /// The first allocation that it does not test: from there on it goes on without memory.
+  int firstUntestedAllocation = std::numeric_limits<int>::max();
   /// Characters that it never releases.
   int neverReleasedCharacters = 0;
   /// Takes a null text for an empty one.

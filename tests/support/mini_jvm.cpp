@@ -530,10 +530,14 @@ MiniJvm::Object* MiniJvm::makeInput(const std::string& signature) {
   } else if (signature == "[S") {
     object->payload = std::vector<jshort>(profile.primitives, jshort{1234});
   } else if (signature[0] == '[') {
-    // The rows of a table are fewer than the elements of a list, or an input would be all of
-    // memory.
-    const bool table = signature[1] == '[';
-    std::vector<Object*> elements(table ? std::min(profile.objects, kMostRows) : profile.objects);
+    // Rows are fewer than the elements of a list, or a table would be all of memory; those of ints
+    // and bytes are as many as any fixed-length copy takes, where the rows themselves are.
+    std::size_t length = profile.objects;
+    if (signature[1] == '[') {
+      const bool primitive = signature.back() != ';';
+      length = std::min(primitive ? profile.primitives : profile.objects, kMostRows);
+    }
+    std::vector<Object*> elements(length);
     std::generate(elements.begin(), elements.end(), [&] { return makeInput(signature.substr(1)); });
     object->payload = std::move(elements);
   } else {

@@ -300,9 +300,98 @@ public class DiskArrayUtilityJNI {
     /** Returns the library's number on the time that asking for pinned data takes. */
     public native int QV_GetPinInfoGetTime(String unit, int option) throws DiskArrayException;
 
-    // Performance collection and output
+    // Performance collection and output. Snapshots come in pairs, an element a controller.
+
+    /**
+     * Returns the command counts of all LUs. The elements from one that could not be built on are
+     * null; null where there is no array for them.
+     */
+    public native StatisticalCommand[] QV_GetPerformance(String unit, QVSessionInfo session)
+            throws DiskArrayException;
+
+    /**
+     * Returns all counters. The elements from one that could not be built on are null; null where
+     * there is no array for them.
+     */
+    public native PerformanceAll[] QV_GetPerformanceAll(
+            String unit, QVSessionInfo session, int option) throws DiskArrayException;
+
+    /** Writes the command counts of an interval to a file. */
+    public native void QV_PerformanceOutput(
+            String unit, QVSessionInfo session, String path, StatisticalCommand preinfo0,
+            StatisticalCommand afterinfo0, StatisticalCommand preinfo1,
+            StatisticalCommand afterinfo1) throws DiskArrayException;
+
+    /** Writes the command counts of an interval to a file, for the LUs whose byte is not zero. */
+    public native void QV_PerformanceOutputLU(
+            String unit, QVSessionInfo session, String path, StatisticalCommand preinfo0,
+            StatisticalCommand afterinfo0, StatisticalCommand preinfo1,
+            StatisticalCommand afterinfo1, byte[] lu, int option0, int option1)
+            throws DiskArrayException;
+
+    /** Writes the counters of an interval to a file. */
+    public native void QV_PerformanceOutputAll(String unit, PerformanceOutputAllRequest request)
+            throws DiskArrayException;
+
+    /** Writes the counters of an interval to a file, in the extended form. */
+    public native void QV_PerformanceOutputAllEx(
+            String unit, QVSessionInfo session, PerformanceOutputAllExRequest request)
+            throws DiskArrayException;
+
+    /** Writes to a file that an interval was left out. */
+    public native void QV_PerformanceOutputSkip(String unit, String path, QVTime time, int option)
+            throws DiskArrayException;
+
+    /** Writes a part of a collection as CSV. */
+    public native void QV_PerformanceOutputCSV(String path, PerformanceOutputCSVRequest request)
+            throws DiskArrayException;
+
+    /** Returns how many CSV files a part of a collection makes. */
+    public native int QV_GetPerformanceCSVNum(String path, PerformanceOutputCSVRequest request)
+            throws DiskArrayException;
+
+    /** Computes the graph of an interval. */
+    public native PerformanceCollectGraphInfo QV_PerformanceOutputGraphInfo(
+            String unit, QVSessionInfo session, PerformanceOutputGraphInfoRequest request)
+            throws DiskArrayException;
+
+    /** Begins a collection. */
+    public native void QV_PerformanceDataInitialize(
+            QVSessionInfo session, String path, int option0, int option1)
+            throws DiskArrayException;
+
+    /** Adds the graph of an interval to a collection. */
+    public native void QV_PerformanceDataOutput(String path, PerformanceCollectGraphInfo graph)
+            throws DiskArrayException;
+
+    /** Returns the content of a collection's management file. */
+    public native PerformanceMngInfo QV_PerformanceInputMngFile(String path)
+            throws DiskArrayException;
+
+    /** Returns how many files a collection may have. */
+    public native int QV_GetPfmFileMaxCount() throws DiskArrayException;
+
+    /** Returns whether a unit counts. */
+    public native int QV_GetPfmStatisCfg(String unit, QVSessionInfo session)
+            throws DiskArrayException;
+
+    /** Switches counting on or off. */
+    public native void QV_SetPfmStatisCfg(String unit, QVSessionInfo session, int enabled)
+            throws DiskArrayException;
+
+    /** Returns the numbers of errors at which a drive is reported. */
+    public native Threshold QV_GetThreshold(String unit, QVSessionInfo session)
+            throws DiskArrayException;
+
+    /** Sets the numbers of errors at which a drive is reported. */
+    public native void QV_SetThreshold(String unit, QVSessionInfo session, Threshold threshold)
+            throws DiskArrayException;
 
     // Statistical information
+
+    /** Returns the array's internal counters. */
+    public native StatisticalInformation QV_GetStatisticalInformation(
+            String unit, QVSessionInfo session, int option) throws DiskArrayException;
 
     // RAID groups
 

@@ -1,0 +1,4 @@
+package tessaly.str.diskarray;
+
+/** The graph of the cache. */
+public class PerformanceCollectGraphCache {}

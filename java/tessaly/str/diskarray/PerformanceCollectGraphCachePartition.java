@@ -1,0 +1,4 @@
+package tessaly.str.diskarray;
+
+/** The graph of a cache partition. */
+public class PerformanceCollectGraphCachePartition {}

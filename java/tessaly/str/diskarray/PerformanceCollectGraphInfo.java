@@ -1,0 +1,6 @@
+package tessaly.str.diskarray;
+
+/** A graph. */
+public class PerformanceCollectGraphInfo {
+    public PerformanceCollectGraph graphinfo;
+}

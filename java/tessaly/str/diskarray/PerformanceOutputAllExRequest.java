@@ -1,0 +1,17 @@
+package tessaly.str.diskarray;
+
+/** Two controllers' snapshots before and after an interval, and what to write of them. */
+public class PerformanceOutputAllExRequest {
+    public String filename;
+    public PerformanceAll preinfo0;
+    public PerformanceAll afterinfo0;
+    public PerformanceAll preinfo1;
+    public PerformanceAll afterinfo1;
+
+    /** 2 elements. */
+    public PerformanceOutputSpecifyInfo[] specifyinfo;
+
+    public int count;
+    public int mode;
+    public int file_fmt_mode;
+}

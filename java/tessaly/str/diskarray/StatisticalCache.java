@@ -1,0 +1,10 @@
+package tessaly.str.diskarray;
+
+/** Counters of the cache. */
+public class StatisticalCache {
+    public int wrt_inhcnt;
+    public int wrt_outhcnt;
+    public int seqwr_bufcnt;
+    public int seg_lock_cnt;
+    public StatisticalCachePartition[] cachepartition;
+}

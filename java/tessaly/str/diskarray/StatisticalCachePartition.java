@@ -1,0 +1,4 @@
+package tessaly.str.diskarray;
+
+/** Counters of a cache partition. */
+public class StatisticalCachePartition {}

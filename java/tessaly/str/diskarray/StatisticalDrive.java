@@ -1,0 +1,7 @@
+package tessaly.str.diskarray;
+
+/** Counters of the drives. */
+public class StatisticalDrive {
+    public int err_rtry;
+    public StatisticalDrive_Info[][] drive;
+}

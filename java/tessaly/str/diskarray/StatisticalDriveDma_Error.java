@@ -1,0 +1,4 @@
+package tessaly.str.diskarray;
+
+/** A kind of error of the transfers. */
+public class StatisticalDriveDma_Error {}

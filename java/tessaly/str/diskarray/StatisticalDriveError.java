@@ -1,0 +1,7 @@
+package tessaly.str.diskarray;
+
+/** Errors of the drives, and their limits. */
+public class StatisticalDriveError {
+    public StatisticalDriveError_LimitInfo limit;
+    public StatisticalDriveError_Info[][] drive;
+}

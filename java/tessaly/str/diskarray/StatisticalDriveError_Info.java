@@ -1,0 +1,4 @@
+package tessaly.str.diskarray;
+
+/** Errors of a drive. */
+public class StatisticalDriveError_Info {}

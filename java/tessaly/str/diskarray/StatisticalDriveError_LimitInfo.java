@@ -1,0 +1,4 @@
+package tessaly.str.diskarray;
+
+/** The limits of errors. */
+public class StatisticalDriveError_LimitInfo {}

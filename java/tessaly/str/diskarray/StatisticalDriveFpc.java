@@ -1,0 +1,6 @@
+package tessaly.str.diskarray;
+
+/** Errors of the ports to the drives. */
+public class StatisticalDriveFpc {
+    public StatisticalDriveFpc_Info[] port;
+}

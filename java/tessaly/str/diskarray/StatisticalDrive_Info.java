@@ -1,0 +1,4 @@
+package tessaly.str.diskarray;
+
+/** Counters of a drive. */
+public class StatisticalDrive_Info {}

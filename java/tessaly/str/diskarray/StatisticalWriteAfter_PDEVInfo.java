@@ -1,0 +1,4 @@
+package tessaly.str.diskarray;
+
+/** The writing to a drive. */
+public class StatisticalWriteAfter_PDEVInfo {}

@@ -1,0 +1,359 @@
+// Snapshots of the performance counters, and the files that the library writes of them.
+#include "arraylib/performance.h"
+#include "methods/native_methods.h"
+
+using namespace quorvelj;
+
+QUORVELJ_CLASS(CommandAll_Info, valid, support, read_count, write_count, read_cache, write_cache,
+               read_size, write_size, online_verify_count);
+QUORVELJ_CLASS(LuEx_CommandInfo, valid, support, command_count, command_total_time_h,
+               command_total_time_l, command_max_time_h, command_max_time_l,
+               delay_command_count_upto300, delay_command_count_upto500,
+               delay_command_count_upto1000, delay_command_count_ormore1000);
+QUORVELJ_CLASS(LuEx_Info, valid, support, read_hit, write_hit, read_miss, write_miss, read_job,
+               write_job, tag_count, total_tag_count, total_tag_set_count);
+QUORVELJ_CLASS(CachePartitionAll_Info, valid, support, partition_valid, partition_cache_size,
+               used_cache_size, used_cache_clean, used_cache_middle, used_cache_physical,
+               used_cache_size_h, used_cache_size_l, used_cache_clean_h, used_cache_clean_l,
+               used_cache_middle_h, used_cache_middle_l, used_cache_physical_h,
+               used_cache_physical_l);
+QUORVELJ_CLASS(CacheBusAll_Info, valid, support, cachebus_monitoring_time, cachebus_used_time,
+               host_cachebus_used_time, drive_cachebus_used_time, drr_cachebus_used_time,
+               cpu_cachebus_used_time, dual_cachebus_used_time);
+QUORVELJ_CLASS(DriveAll_Info, drive_info, valid, support, not_opr_time_h, not_opr_time_l, tag_count,
+               unload_time, total_tag_count_h, total_tag_count_l, total_tag_set_count_h,
+               total_tag_set_count_l);
+QUORVELJ_CLASS(ProcessorAll_Info, valid, support, all_opr_time_h, all_opr_time_l,
+               special_job_time_h, special_job_time_l, job_io_time_h, job_io_time_l,
+               io_special_time_h, io_special_time_l, host_interrup_time_h, host_interrup_time_l,
+               drive_interrup_time_h, drive_interrup_time_l, drr_interrup_time_h,
+               drr_interrup_time_l, hostio_stop_time_h, hostio_stop_time_l, monitoring_time_h,
+               monitoring_time_l);
+QUORVELJ_CLASS(VUCommandAll_Info, valid, support, command_count, command_transfer_block_count,
+               command_total_time_h, command_total_time_l, command_max_time_h, command_max_time_l);
+QUORVELJ_CLASS(VUError_Info, valid, support, timeout_error_count);
+QUORVELJ_CLASS(VUDataAll_Info, control, data_transfer, error);
+QUORVELJ_CLASS(PerformanceAll, valid, support, get_status, port, rg, lu, lu_ex, all_cache_size,
+               used_cache_size, used_cache_clean, used_cache_middle, used_cache_physical,
+               used_cache_size_h, used_cache_size_l, used_cache_clean_h, used_cache_clean_l,
+               used_cache_middle_h, used_cache_middle_l, used_cache_physical_h,
+               used_cache_physical_l, update_count, cachePartition, cachebus, backend, drive,
+               processor, processor_core, vu_port, vu_lu, mtime, err_code);
+QUORVELJ_CLASS(StatisticalCommand_Info, read_count, write_count, read_cache, write_cache);
+QUORVELJ_CLASS(StatisticalCommand, lu, mtime);
+QUORVELJ_CLASS(Threshold, mechanical_recover, mechanical_unrecover, media_recover, media_unrecover,
+               read_write_recover, read_write_unrecover, drive_recover, drive_unrecover,
+               controller_recover, controller_unrecover, scsi_recover, scsi_unrecover,
+               correctable_error, uncorrectable_error);
+QUORVELJ_CLASS(PerformanceTime, year, month, day, hour, minute, second);
+QUORVELJ_CLASS(PerformanceMngInfo, dampver, unitname, microver, serialno, qv_type, device_type,
+               portMaxCount, rgMaxCount, luMaxCount, cacheMaxCount, processorMaxCount,
+               hdd_hdu_count, hdd_unit_count, backendMaxCount, cachepartitionMaxCount, cpucoreCount,
+               ctlcond, ctl0, ctl1, intervaltime, structver, fromtime, totime);
+QUORVELJ_CLASS(PerformanceOutputAllRequest, port, backend, lu, cache, processor, drive,
+               drive_opr_rate, count, mode, file_fmt_mode);
+QUORVELJ_CLASS(PerformanceOutputSpecifyInfo, port, backend, lu, cache, processor, drive,
+               drive_opr_rate);
+QUORVELJ_CLASS(PerformanceOutputAllExRequest, specifyinfo, count, mode, file_fmt_mode);
+QUORVELJ_CLASS(PerformanceOutputFile, filename);
+QUORVELJ_OPAQUE_CLASS(PerformanceCSVOutputOpt);
+QUORVELJ_CLASS(PerformanceOutputCSVRequest, dirname, fromtime, totime, fromDataNum, toDataNum,
+               outputopt);
+QUORVELJ_OPAQUE_CLASS(PerformanceCollectGraphPort);
+QUORVELJ_OPAQUE_CLASS(PerformanceCollectGraphLU);
+QUORVELJ_OPAQUE_CLASS(PerformanceCollectGraphCache);
+QUORVELJ_OPAQUE_CLASS(PerformanceCollectGraphBackend);
+QUORVELJ_OPAQUE_CLASS(PerformanceCollectGraphDrive);
+QUORVELJ_OPAQUE_CLASS(PerformanceCollectGraphProcessor);
+QUORVELJ_OPAQUE_CLASS(PerformanceCollectGraphDriveOpr);
+QUORVELJ_OPAQUE_CLASS(PerformanceCollectGraphRG);
+QUORVELJ_OPAQUE_CLASS(PerformanceCollectGraphCache2);
+QUORVELJ_OPAQUE_CLASS(PerformanceCollectGraphLUEx);
+QUORVELJ_OPAQUE_CLASS(PerformanceCollectGraphCachePartition);
+QUORVELJ_OPAQUE_CLASS(PerformanceCollectGraphVUPort);
+QUORVELJ_OPAQUE_CLASS(PerformanceCollectGraphVULU);
+QUORVELJ_CLASS(PerformanceCollectGraph, mtime, port, lu, cache, backend, drive, processor, driveopr,
+               rg, cache2, luex, cachepartition, vu_port, vu_lu);
+QUORVELJ_CLASS(PerformanceCollectGraphInfo, graphinfo);
+
+// The fields of an output request that hold its snapshots, each a record of its own.
+QUORVELJ_MAP(kPreinfo0, PerformanceAll, fieldOf<PerformanceAll>("preinfo0", 0));
+QUORVELJ_MAP(kAfterinfo0, PerformanceAll, fieldOf<PerformanceAll>("afterinfo0", 0));
+QUORVELJ_MAP(kPreinfo1, PerformanceAll, fieldOf<PerformanceAll>("preinfo1", 0));
+QUORVELJ_MAP(kAfterinfo1, PerformanceAll, fieldOf<PerformanceAll>("afterinfo1", 0));
+
+namespace {
+
+/// A snapshot in an output request.
+struct Snapshot {
+  jobject request;
+  const ClassMap& field;
+};
+
+}  // namespace
+
+namespace quorvelj {
+
+/// Java hands over snapshots inside of requests only.
+template <>
+class Argument<const PerformanceAll*> {
+ public:
+  explicit Argument(Snapshot snapshot) : snapshot_(snapshot) {}
+  bool accept(JNIEnv*) { return true; }
+  bool allocate() {
+    record_ = quorvelj::allocate<PerformanceAll>();
+    return record_ != nullptr;
+  }
+  void read(JNIEnv* env) { quorvelj::read(env, snapshot_.field, snapshot_.request, record_); }
+  void release() { releaseRecord(record_); }
+  const PerformanceAll* get() { return record_; }
+
+ private:
+  Snapshot snapshot_;
+  PerformanceAll* record_ = nullptr;
+};
+
+/// The name of the file comes out of its request into a buffer, like a text of its own, but is not
+/// required.
+template <>
+class Argument<const PerformanceOutputFile*> {
+ public:
+  explicit Argument(jobject request) : request_(request) { file_.filename[0] = '\0'; }
+  bool accept(JNIEnv* env) {
+    quorvelj::read(env, ClassOf<PerformanceOutputFile>::kMap, request_, &file_);
+    return true;
+  }
+  bool allocate() { return true; }
+  void read(JNIEnv*) {}
+  void release() {}
+  const PerformanceOutputFile* get() { return &file_; }
+
+ private:
+  jobject request_;
+  PerformanceOutputFile file_;
+};
+
+/// A null array selects nothing.
+template <>
+class Argument<const LuSelection*> {
+ public:
+  explicit Argument(jbyteArray array) : array_(array) {}
+  bool accept(JNIEnv*) { return true; }
+  bool allocate() { return true; }
+  void read(JNIEnv* env) {
+    if (array_ != nullptr) {
+      env->GetByteArrayRegion(array_, 0, sizeof selection_, reinterpret_cast<jbyte*>(&selection_));
+    }
+  }
+  void release() {}
+  const LuSelection* get() { return &selection_; }
+
+ private:
+  jbyteArray array_;
+  LuSelection selection_{};
+};
+
+}  // namespace quorvelj
+
+namespace {
+
+// Departs from the update frame: where a record could not be had, the others are released before
+// the exception is thrown.
+template <class... Parameter, class... Java>
+void output(JNIEnv* env, int (*function)(Parameter...), Java... java) {
+  flushOutput();
+  Inputs<Parameter...> inputs(java...);
+  if (!inputs.accept(env)) {
+    return;
+  }
+  if (!inputs.allocateAll()) {
+    inputs.releaseAll();
+    throwArrayException(env, kOutOfMemory);
+    return;
+  }
+  inputs.readAll(env);
+  const int result = inputs.call(function);
+  inputs.releaseAll();
+  if (result != 0) {
+    throwArrayException(env, result);
+    return;
+  }
+  flushOutput();
+}
+
+/// Returns a new array of two controllers' objects, or null. From the first that cannot be built on
+/// its elements are null. No exception is tested for or thrown.
+template <class Record>
+jobjectArray buildPair(JNIEnv* env, const Record* controller0, const Record* controller1) {
+  const jobjectArray array = newObjectArrayByName(env, ClassOf<Record>::kName, 2);
+  if (array == nullptr) {
+    return nullptr;
+  }
+  jsize index = 0;
+  for (const Record* const record : {controller0, controller1}) {
+    const jobject element = build(env, ClassOf<Record>::kMap, record);
+    if (element == nullptr) {
+      break;
+    }
+    env->SetObjectArrayElement(array, index++, element);
+    deleteLocalRef(env, element);
+  }
+  return array;
+}
+
+}  // namespace
+
+NATIVE_METHOD(void, PerformanceOutput, jstring unit, jobject session, jstring path,
+              jobject preinfo0, jobject afterinfo0, jobject preinfo1, jobject afterinfo1) {
+  output(env, QV_PerformanceOutput, unit, session, path, preinfo0, afterinfo0, preinfo1,
+         afterinfo1);
+}
+
+NATIVE_METHOD(void, PerformanceOutputLU, jstring unit, jobject session, jstring path,
+              jobject preinfo0, jobject afterinfo0, jobject preinfo1, jobject afterinfo1,
+              jbyteArray lu, jint option0, jint option1) {
+  output(env, QV_PerformanceOutputLU, unit, session, path, preinfo0, afterinfo0, preinfo1,
+         afterinfo1, lu, option0, option1);
+}
+
+NATIVE_METHOD(void, PerformanceOutputAll, jstring unit, jobject request) {
+  output(env, QV_PerformanceOutputAll, unit, request, request, Snapshot{request, kPreinfo0},
+         Snapshot{request, kAfterinfo0}, Snapshot{request, kPreinfo1},
+         Snapshot{request, kAfterinfo1});
+}
+
+NATIVE_METHOD(void, PerformanceOutputAllEx, jstring unit, jobject session, jobject request) {
+  output(env, QV_PerformanceOutputAllEx, unit, session, request, request,
+         Snapshot{request, kPreinfo0}, Snapshot{request, kAfterinfo0}, Snapshot{request, kPreinfo1},
+         Snapshot{request, kAfterinfo1});
+}
+
+NATIVE_METHOD(void, PerformanceOutputSkip, jstring unit, jstring path, jobject time, jint option) {
+  output(env, QV_PerformanceOutputSkip, unit, path, time, option);
+}
+
+NATIVE_METHOD(void, PerformanceOutputCSV, jstring path, jobject request) {
+  output(env, QV_PerformanceOutputCSV, path, request);
+}
+
+NATIVE_METHOD(jint, GetPerformanceCSVNum, jstring path, jobject request) {
+  return value(env, QV_GetPerformanceCSVNum, path, request);
+}
+
+NATIVE_METHOD(void, PerformanceDataInitialize, jobject session, jstring path, jint option0,
+              jint option1) {
+  output(env, QV_PerformanceDataInitialize, session, path, option0, option1);
+}
+
+NATIVE_METHOD(void, PerformanceDataOutput, jstring path, jobject graph) {
+  output(env, QV_PerformanceDataOutput, path, graph);
+}
+
+NATIVE_METHOD(jobject, PerformanceInputMngFile, jstring path) {
+  return query(env, QV_PerformanceInputMngFile, path);
+}
+
+NATIVE_METHOD(jint, GetPfmFileMaxCount) { return value(env, QV_GetPfmFileMaxCount); }
+
+NATIVE_METHOD(jint, GetPfmStatisCfg, jstring unit, jobject session) {
+  return value(env, QV_GetPfmStatisCfg, unit, session);
+}
+
+NATIVE_METHOD(void, SetPfmStatisCfg, jstring unit, jobject session, jint enabled) {
+  update(env, QV_SetPfmStatisCfg, unit, session, enabled);
+}
+
+NATIVE_METHOD(jobject, GetThreshold, jstring unit, jobject session) {
+  return query(env, QV_GetThreshold, unit, session);
+}
+
+NATIVE_METHOD(void, SetThreshold, jstring unit, jobject session, jobject threshold) {
+  update(env, QV_SetThreshold, unit, session, threshold);
+}
+
+// Departs from the query frame: the records lie in this frame, the session's is not released, and
+// the array is returned as far as it could be built.
+NATIVE_METHOD(jobjectArray, GetPerformance, jstring unit, jobject session) {
+  flushOutput();
+  Inputs<const UnitName*, const QVSessionInfo*> inputs(unit, session);
+  if (!inputs.accept(env)) {
+    return nullptr;
+  }
+  if (!inputs.allocateAndRead(env)) {
+    throwArrayException(env, kOutOfMemory);
+    return nullptr;
+  }
+  StatisticalCommand controllers[2];
+  const int result = inputs.call(QV_GetPerformance, &controllers[0], &controllers[1]);
+  if (result != 0) {
+    throwArrayException(env, result);
+    return nullptr;
+  }
+  const jobjectArray array = buildPair(env, &controllers[0], &controllers[1]);
+  if (array != nullptr) {
+    flushOutput();
+  }
+  return array;
+}
+
+// Departs from the query frame: the library is called whether or not there is memory for the
+// snapshots, the session's record is not released, and the array is returned as far as it could be
+// built.
+NATIVE_METHOD(jobjectArray, GetPerformanceAll, jstring unit, jobject session, jint option) {
+  flushOutput();
+  Inputs<const UnitName*, const QVSessionInfo*, std::int32_t> inputs(unit, session, option);
+  if (!inputs.accept(env)) {
+    return nullptr;
+  }
+  if (!inputs.allocateAndRead(env)) {
+    throwArrayException(env, kOutOfMemory);
+    return nullptr;
+  }
+  auto* const controller0 = allocate<PerformanceAll>();
+  auto* const controller1 = allocate<PerformanceAll>();
+  const int result = inputs.call(QV_GetPerformanceAll, controller0, controller1);
+  jobjectArray array = nullptr;
+  if (result != 0) {
+    throwArrayException(env, result);
+  } else {
+    array = buildPair(env, controller0, controller1);
+  }
+  releaseRecord(controller0);
+  releaseRecord(controller1);
+  if (array != nullptr) {
+    flushOutput();
+  }
+  return array;
+}
+
+// Departs from the query frame: where a record could not be had, the others are released before the
+// exception is thrown. Of the two graphs the first is built.
+NATIVE_METHOD(jobject, PerformanceOutputGraphInfo, jstring unit, jobject session, jobject request) {
+  flushOutput();
+  Inputs<const UnitName*, const QVSessionInfo*, const PerformanceAll*, const PerformanceAll*,
+         const PerformanceAll*, const PerformanceAll*>
+      inputs(unit, session, Snapshot{request, kPreinfo0}, Snapshot{request, kAfterinfo0},
+             Snapshot{request, kPreinfo1}, Snapshot{request, kAfterinfo1});
+  if (!inputs.accept(env)) {
+    return nullptr;
+  }
+  const bool all = inputs.allocateAll();
+  auto* const graph = allocate<PerformanceCollectGraphInfo>();
+  auto* const second = allocate<PerformanceCollectGraph>();
+  if (!all || graph == nullptr || second == nullptr) {
+    inputs.releaseAll();
+    releaseRecord(graph);
+    releaseRecord(second);
+    throwArrayException(env, kOutOfMemory);
+    return nullptr;
+  }
+  inputs.readAll(env);
+  const int result = inputs.call(QV_PerformanceOutputGraphInfo, graph, second);
+  inputs.releaseAll();
+  releaseRecord(second);
+  const jobject built = finishQuery(env, result, ClassOf<PerformanceCollectGraphInfo>::kMap, graph);
+  if (built != nullptr) {
+    flushOutput();
+  }
+  return built;
+}
