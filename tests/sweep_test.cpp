@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstdio>
-#include <limits>
 #include <map>
 
 #include "simulator/control.h"
@@ -25,8 +24,6 @@ constexpr int kMostCallsPerPass = 8'000'000;
 constexpr int kOrdinaryCode = 1234;
 constexpr char kText[] = "Ljava/lang/String;";
 
-constexpr int kNone = std::numeric_limits<int>::max();
-
 int injectedFaults = 0;
 
 struct Fault {
@@ -34,7 +31,7 @@ struct Fault {
   int allocation = 0;
   int libraryResult = 0;
   int nullArgument = -1;
-  std::optional<InputProfile> inputs{};
+  InputProfile inputs{};
   std::vector<unsigned char> output{};
 };
 
@@ -56,7 +53,7 @@ Outcome play(const NativeMethod& method, const Fault& fault) {
   quorvelSimPrepareOutput("*", output.data(), output.size());
   resetTestRuntime(fault.allocation);
   MiniJvm jvm;
-  jvm.profile = fault.inputs.value_or(InputProfile{.objects = departureOf(method).objects});
+  jvm.profile = fault.inputs;
   std::vector<jvalue> arguments;
   for (const std::string& type : method.argumentTypes()) {
     arguments.push_back(jvm.newArgument(type));
