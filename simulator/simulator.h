@@ -38,7 +38,7 @@ enum Code : int {
   kUnknownAccount = 20103,
   kAccountExists = 20104,
   kTooManyAccounts = 20105,
-  kFileFailed = 20201,
+  kFileFailed = 20801,
 };
 
 /// The account that every unit begins with.
