@@ -399,7 +399,7 @@ TEST_F(PerformanceCollection, IntervalsBecomeFiles) {
   EXPECT_EQ(call("QV_PerformanceOutputLU", arguments).failure, "");
   EXPECT_EQ(contentOf(path), "controller,lu,reads,writes\n1,3,3900,1300\n");
   arguments[2] = text(file("no such directory/counts"));
-  EXPECT_EQ(call("QV_PerformanceOutputLU", arguments).failure, "DiskArrayException 20201");
+  EXPECT_EQ(call("QV_PerformanceOutputLU", arguments).failure, "DiskArrayException 20801");
   arguments[2] = nullptr;
   EXPECT_EQ(call("QV_PerformanceOutputLU", arguments).failure, "DiskArrayException 258");
 
@@ -451,7 +451,7 @@ TEST_F(PerformanceCollection, GraphsMakeACollection) {
   EXPECT_EQ(call("QV_PerformanceOutputCSV", {text(path), csv}).failure, "");
   EXPECT_EQ(contentOf(file("performance1.csv")), "hour,minute\n0,4\n");
   EXPECT_EQ(call("QV_PerformanceInputMngFile", {text(file("nothing"))}).failure,
-            "DiskArrayException 20201");
+            "DiskArrayException 20801");
 }
 
 }  // namespace
