@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <chrono>
 #include <cstdint>
 #include <cstdio>
 #include <map>
@@ -17,10 +18,10 @@ namespace quorvelj::testing {
 namespace {
 
 // A method with more JNI calls than this has its faults spread over them, and fewer of them the
-// more calls it makes, so that the whole sweep stays a matter of a minute.
+// longer one call takes, so that the whole sweep stays a matter of a minute.
 constexpr int kMostFaultsPerPass = 400;
 constexpr int kFewestFaultsPerPass = 5;
-constexpr int kMostCallsPerPass = 8'000'000;
+constexpr std::chrono::milliseconds kPass{1000};
 constexpr int kOrdinaryCode = 1234;
 constexpr char kText[] = "Ljava/lang/String;";
 
@@ -153,9 +154,11 @@ TEST_P(Sweep, LibraryResults) {
 
 TEST_P(Sweep, EachJniCallFails) {
   for (const int code : {0, kOrdinaryCode}) {
+    const auto start = std::chrono::steady_clock::now();
     const int calls = play(GetParam(), {.libraryResult = code}).fallibleCalls;
-    const int affordable = std::clamp(kMostCallsPerPass / std::max(calls, 1), kFewestFaultsPerPass,
-                                      kMostFaultsPerPass);
+    const auto once = std::chrono::steady_clock::now() - start;
+    const auto affordable = static_cast<int>(
+        std::clamp<std::int64_t>(kPass / once, kFewestFaultsPerPass, kMostFaultsPerPass));
     const int faults = std::min(calls, affordable);
     for (int fault = 0; fault < faults; ++fault) {
       // Evenly over the calls, the first and the last included.
