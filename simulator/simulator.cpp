@@ -23,7 +23,8 @@ struct Control {
 };
 
 struct Simulator {
-  std::mutex lock;
+  // A function may be answered by others.
+  std::recursive_mutex lock;
   State state;
   std::map<std::string, Control> controls;
   void (*observer)(const char*) = nullptr;

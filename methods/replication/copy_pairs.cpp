@@ -1,6 +1,7 @@
 // Creating and operating copy pairs, and reading their state.
 #include "arraylib/replication.h"
 #include "methods/native_methods.h"
+#include "methods/replication/copy_pair_maps.h"
 
 using namespace quorvelj;
 
@@ -84,9 +85,13 @@ QUORVELJ_MAP(kSecondLightPairLU, PairLUInfo, QUORVELJ_FIELD(PairLUInfo, lun),
              QUORVELJ_FIELD(PairLUInfo, pool_usedcapa_l), QUORVELJ_FIELD(PairLUInfo, pool_usedrate),
              QUORVELJ_FIELD(PairLUInfo, mirror_count),
              QUORVELJ_FIELD(PairLUInfo, m_info).as(kSecondLightMirror));
+namespace quorvelj {
+
 QUORVELJ_MAP(kSecondLightPairs, PairInfo, QUORVELJ_FIELD(PairInfo, option),
              QUORVELJ_FIELD(PairInfo, ctl), QUORVELJ_FIELD(PairInfo, pair_count),
              QUORVELJ_FIELD(PairInfo, lu).first(2046).as(kSecondLightPairLU));
+
+}  // namespace quorvelj
 
 NATIVE_METHOD(void, CreateGemlynPair, jstring unit, jobject session, jobject spec) {
   update(env, QV_CreateGemlynPair, unit, session, spec);

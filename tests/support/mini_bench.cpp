@@ -203,6 +203,9 @@ std::string shown(jobject value, const std::string& signature) {
     return className.substr(start, className.size() - start - 1) + '[' +
            std::to_string(realJvm()->GetArrayLength(static_cast<jarray>(value))) + ']';
   }
+  if (className != "java/lang/String") {
+    return className;
+  }
   const auto text = static_cast<jstring>(value);
   const char* const characters = realJvm()->GetStringUTFChars(text, nullptr);
   std::string copy = characters;

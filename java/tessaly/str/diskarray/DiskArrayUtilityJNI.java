@@ -165,6 +165,54 @@ public class DiskArrayUtilityJNI {
 
     // All-information bundles
 
+    /** Returns all that the array tells of itself. */
+    public native ArrayAllInformation QV_GetAllInformation(String unit, QVSessionInfo session)
+            throws DiskArrayException;
+
+    /** Returns the same with compact mapping and pairs. */
+    public native ArrayAllInformation QV_GetAllInformationLite(
+            String unit, QVSessionInfo session) throws DiskArrayException;
+
+    /** Returns a slice: the unit, its drives, RAID groups and LUs. */
+    public native ArrayAllInfo_Base QV_GetAllInfo_Base(
+            String unit, QVSessionInfo session, ControllerRequest request) throws DiskArrayException;
+
+    /** Returns a slice: parameters of host groups, cache partitions and port kinds. */
+    public native ArrayAllInfo_BaseAdditional QV_GetAllInfo_BaseAdditional(
+            String unit, QVSessionInfo session, ControllerRequest request) throws DiskArrayException;
+
+    /** Returns a slice: host groups. */
+    public native ArrayAllInfo_HG QV_GetAllInfo_HG(
+            String unit, QVSessionInfo session, ControllerRequest request) throws DiskArrayException;
+
+    /** Returns a slice: iSCSI ports. */
+    public native ArrayAllInfo_iSCSI QV_GetAllInfo_iSCSI(
+            String unit, QVSessionInfo session, ControllerRequest request) throws DiskArrayException;
+
+    /** Returns a slice: the LU mapping. */
+    public native ArrayAllInfo_Mapping QV_GetAllInfo_Mapping(
+            String unit, QVSessionInfo session, ControllerRequest request) throws DiskArrayException;
+
+    /** Returns a slice: host group options. */
+    public native ArrayAllInfo_Host QV_GetAllInfo_Host(
+            String unit, QVSessionInfo session, ControllerRequest request) throws DiskArrayException;
+
+    /** Returns a slice: ports, LAN and settings. */
+    public native ArrayAllInfo_Config QV_GetAllInfo_Config(
+            String unit, QVSessionInfo session, ControllerRequest request) throws DiskArrayException;
+
+    /** Returns a slice: program products. */
+    public native ArrayAllInfo_PP QV_GetAllInfo_PP(
+            String unit, QVSessionInfo session, ControllerRequest request) throws DiskArrayException;
+
+    /** Returns a slice: pools, pairs and remote paths. */
+    public native ArrayAllInfo_Replication QV_GetAllInfo_Replication(
+            String unit, QVSessionInfo session, ControllerRequest request) throws DiskArrayException;
+
+    /** Returns a slice: tuning. */
+    public native ArrayAllInfo_Tuning QV_GetAllInfo_Tuning(
+            String unit, QVSessionInfo session, ControllerRequest request) throws DiskArrayException;
+
     // Drives and parts
 
     /** Returns what one drive is. */

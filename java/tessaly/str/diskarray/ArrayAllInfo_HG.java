@@ -1,0 +1,8 @@
+package tessaly.str.diskarray;
+
+/** A slice of what an array tells of itself: host groups. */
+public class ArrayAllInfo_HG {
+    public int valid_index;
+    public HGList hg;
+    public WWNHGInformation wwnhg;
+}

@@ -1,0 +1,4 @@
+package tessaly.str.diskarray;
+
+/** Boot options. */
+public class BootOption {}

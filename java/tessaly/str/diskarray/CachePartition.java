@@ -1,0 +1,4 @@
+package tessaly.str.diskarray;
+
+/** Cache partitions. */
+public class CachePartition {}

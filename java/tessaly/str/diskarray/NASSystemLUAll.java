@@ -1,0 +1,4 @@
+package tessaly.str.diskarray;
+
+/** System LUs of the NAS. */
+public class NASSystemLUAll {}

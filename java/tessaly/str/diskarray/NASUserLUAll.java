@@ -1,0 +1,4 @@
+package tessaly.str.diskarray;
+
+/** User LUs of the NAS. */
+public class NASUserLUAll {}

@@ -1,0 +1,4 @@
+package tessaly.str.diskarray;
+
+/** Online options. */
+public class NowWZParameter {}

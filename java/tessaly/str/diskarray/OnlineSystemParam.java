@@ -1,0 +1,4 @@
+package tessaly.str.diskarray;
+
+/** System parameters. */
+public class OnlineSystemParam {}

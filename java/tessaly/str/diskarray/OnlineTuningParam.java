@@ -1,0 +1,4 @@
+package tessaly.str.diskarray;
+
+/** Tuning parameters while the array runs. */
+public class OnlineTuningParam {}

@@ -1,0 +1,4 @@
+package tessaly.str.diskarray;
+
+/** Verification while the array runs. */
+public class OnlineVerify {}

@@ -1,0 +1,4 @@
+package tessaly.str.diskarray;
+
+/** Prefetching. */
+public class PrefetchInformation {}

@@ -1,0 +1,4 @@
+package tessaly.str.diskarray;
+
+/** Tuning of prefetching. */
+public class PrefetchTuning {}

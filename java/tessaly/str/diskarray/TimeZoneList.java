@@ -1,0 +1,4 @@
+package tessaly.str.diskarray;
+
+/** Time zones. */
+public class TimeZoneList {}

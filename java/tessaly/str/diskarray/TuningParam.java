@@ -1,0 +1,4 @@
+package tessaly.str.diskarray;
+
+/** Tuning parameters. */
+public class TuningParam {}

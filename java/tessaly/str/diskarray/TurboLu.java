@@ -1,0 +1,4 @@
+package tessaly.str.diskarray;
+
+/** Turbo LUs. */
+public class TurboLu {}

@@ -1,0 +1,4 @@
+package tessaly.str.diskarray;
+
+/** Power saving of the unit. */
+public class UnitPowerSavingInfo {}
