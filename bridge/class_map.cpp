@@ -177,8 +177,8 @@ int setFields(JNIEnv* env, jobject object, const ClassMap& map, const std::byte*
 
 // Reading
 
-/// Reads the elements of one dimension, as many as there is room for. What becomes of an element
-/// that is missing or stops inside is not looked at.
+/// Reads the elements of one dimension, as many as there is room for. An element that is missing,
+/// or that stops inside without an exception, is passed over.
 void readElements(JNIEnv* env, const Field& field, std::size_t dimension, jobjectArray array,
                   std::byte* at) {
   const jsize length = std::min(env->GetArrayLength(array), lengthOf(field, dimension));
@@ -187,7 +187,11 @@ void readElements(JNIEnv* env, const Field& field, std::size_t dimension, jobjec
     const jobject element = env->GetObjectArrayElement(array, index);
     if (element != nullptr) {
       if (dimension + 1 == field.rank) {
-        read(env, *field.element, element, at);
+        // An exception ends the reading of the array; any other failure is the element's own.
+        if (read(env, *field.element, element, at) == kFailed &&
+            env->ExceptionOccurred() != nullptr) {
+          return;
+        }
       } else if (dimension + 2 == field.rank && field.kind == FieldKind::kInt8) {
         copyIntArrayAsBytes(env, static_cast<jintArray>(element), bytesAt(at), stride);
       } else {

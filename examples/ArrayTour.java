@@ -110,6 +110,7 @@ public final class ArrayTour {
             ReplicationPage.show(visit);
         }
         PerformancePage.show(visit);
+        WholeArrayPage.show(visit);
         ARRAY.QV_LogoutQVAccount(unit, session, new LogoutOption());
         Visit.step("After the logout", () -> ARRAY.QV_GetOwnUserPermission(unit, session));
     }

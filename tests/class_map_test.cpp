@@ -48,6 +48,18 @@ QUORVEL_RECORD(Headed, 20);
 
 QUORVELJ_CLASS(Head, word, inner);
 QUORVELJ_CLASS(Headed, head, first, tail);
+struct Row {
+  std::int32_t words[2];
+};
+QUORVEL_RECORD(Row, 8);
+
+struct Rows {
+  Row row[3];
+};
+QUORVEL_RECORD(Rows, 24);
+
+QUORVELJ_CLASS(Row, words);
+QUORVELJ_CLASS(Rows, row);
 QUORVELJ_CLASS(Inner, number, text);
 QUORVELJ_CLASS(Sampler, word, negative, positive, text, texts, words, grid, bytes, byteGrid, raw,
                rawCube, inner, list, table, cube);
@@ -156,6 +168,24 @@ TEST_F(ClassMapTest, ShortArraysAndNullElementsLeaveTheRest) {
   EXPECT_EQ(read(jvm_.env(), kReadSampler, object, &record), 0);
   EXPECT_EQ(std::memcmp(record.list, sample().list, sizeof record.list), 0);
   EXPECT_NE(std::memcmp(record.table, sample().table, sizeof record.table), 0);
+}
+
+TEST_F(ClassMapTest, AnExceptionEndsTheReadingOfAnArray) {
+  JNIEnv* const env = jvm_.env();
+  const jobjectArray rows = env->NewObjectArray(3, env->FindClass("Input"), nullptr);
+  for (jsize index = 0; index < 3; ++index) {
+    const jobject row = jvm_.newInput();
+    jvm_.setObject(row, "words", "[I",
+                   jvm_.newInts(std::vector<jint>(index == 1 ? 1 : 2, index + 1)));
+    env->SetObjectArrayElement(rows, index, row);
+  }
+  const jobject object = jvm_.newInput();
+  jvm_.setObject(object, "row", "[Ltessaly/str/diskarray/Row;", rows);
+  Rows record{};
+  EXPECT_EQ(read(env, ClassOf<Rows>::kMap, object, &record), 0);
+  EXPECT_EQ(record.row[0].words[1], 1);
+  EXPECT_EQ(record.row[2].words[0], 0);
+  EXPECT_EQ(jvm_.pending()->className, "java/lang/ArrayIndexOutOfBoundsException");
 }
 
 TEST_F(ClassMapTest, ReadingStopsAtTheFirstFailure) {

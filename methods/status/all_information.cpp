@@ -2,6 +2,7 @@
 #include "arraylib/all_information.h"
 
 #include <array>
+#include <string_view>
 
 #include "methods/hosts/host_group_maps.h"
 #include "methods/native_methods.h"
@@ -64,9 +65,9 @@ namespace {
 consteval auto lightFields() {
   auto fields = std::to_array(kFieldsOfArrayAllInformation);
   for (Field& field : fields) {
-    if (field.element == &ClassOf<LuMapping>::kMap) {
+    if (std::string_view(field.name) == "lumap") {
       field.element = &kCompactLuMapping;
-    } else if (field.element == &ClassOf<PairInfo>::kMap) {
+    } else if (std::string_view(field.name) == "pair_info") {
       field.element = &kSecondLightPairs;
     }
   }

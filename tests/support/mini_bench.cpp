@@ -161,6 +161,24 @@ jobject grown(const Place& place, jsize length) {
   return array;
 }
 
+/// The place at the end of a path; makes what lies on the way.
+Place locate(jobject object, const std::string& path) {
+  const std::vector<std::string> all = steps(path);
+  Place place = enter(object, jvm().classOf(object), all[0]);
+  for (std::size_t step = 1; step < all.size(); ++step) {
+    if (isArray(place.signature)) {
+      const auto length = static_cast<jsize>(std::stoi(all[step]) + 1);
+      place = enter(grown(place, length), place.signature, all[step]);
+      continue;
+    }
+    if (load(place) == nullptr) {
+      store(place, newObject(place.signature.substr(1, place.signature.size() - 2)));
+    }
+    place = enter(load(place), place.signature, all[step]);
+  }
+  return place;
+}
+
 void storeText(const Place& place, const std::string& value) {
   if (place.signature == kText) {
     store(place, jvm().newText(value));
@@ -204,7 +222,9 @@ std::string shown(jobject value, const std::string& signature) {
            std::to_string(realJvm()->GetArrayLength(static_cast<jarray>(value))) + ']';
   }
   if (className != "java/lang/String") {
-    return className;
+    std::string name = className;
+    std::replace(name.begin(), name.end(), '/', '.');
+    return name + "@mini";
   }
   const auto text = static_cast<jstring>(value);
   const char* const characters = realJvm()->GetStringUTFChars(text, nullptr);
@@ -229,27 +249,13 @@ jobject create(const char* className) {
 }
 
 void set(jobject object, const std::string& path, const std::string& value) {
-  const std::vector<std::string> all = steps(path);
-  Place place = enter(object, "", all[0]);
-  for (std::size_t step = 1; step < all.size(); ++step) {
-    if (isArray(place.signature)) {
-      // In an array as it is, in a field one that is long enough.
-      const auto length = static_cast<jsize>(std::stoi(all[step]) + 1);
-      place = enter(grown(place, length), place.signature, all[step]);
-      continue;
-    }
-    if (load(place) == nullptr) {
-      store(place, newObject(place.signature.substr(1, place.signature.size() - 2)));
-    }
-    place = enter(load(place), place.signature, all[step]);
-  }
-  storeText(place, value);
+  storeText(locate(object, path), value);
 }
 
-void setNull(jobject object, const char* field) { store(enter(object, "", field), nullptr); }
+void setNull(jobject object, const char* field) { store(locate(object, field), nullptr); }
 
 void setLength(jobject object, const char* field, int length) {
-  const Place place = enter(object, "", field);
+  const Place place = locate(object, field);
   store(place, length < 0 ? nullptr : newArray(place.signature, static_cast<jsize>(length)));
 }
 
