@@ -20,8 +20,8 @@ namespace {
 // A method with more JNI calls than this has its faults spread over them, and fewer of them the
 // longer one call takes, so that the whole sweep stays a matter of a minute.
 constexpr int kMostFaultsPerPass = 400;
-constexpr int kFewestFaultsPerPass = 5;
-constexpr std::chrono::milliseconds kPass{1000};
+constexpr int kFewestFaultsPerPass = 3;
+constexpr std::chrono::milliseconds kPass{500};
 constexpr int kOrdinaryCode = 1234;
 constexpr char kText[] = "Ljava/lang/String;";
 

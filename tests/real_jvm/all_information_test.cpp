@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "simulator/control.h"
-#include "tests/support/registered_unit.h"
+#include "tests/real_jvm/registered_unit.h"
 
 namespace quorvelj::testing {
 namespace {

@@ -22,7 +22,7 @@ class CopyPairs : public Replication {
                        const Members& tail) {
     expectRequest(method, className, size, kTarget + tail);
   }
-  /// A specification of one pair by its logical units.
+  /// A request that names one pair by its logical units.
   static jobject spec(const std::string& className, int primary, int secondary) {
     const jobject created = create(className.c_str());
     set(created, "ctg_info.ctg_name", "");
@@ -378,7 +378,7 @@ TEST_F(CopyPairs, ZencopyPairsNeedNoSession) {
   EXPECT_EQ(get(info, "lu[1].remote_serial"), "0000000000054321");
 }
 
-TEST_F(CopyPairs, IncompleteSpecificationsReachTheLibraryAsFarAsTheyWereRead) {
+TEST_F(CopyPairs, IncompleteRequestsReachTheLibraryAsFarAsTheyWereRead) {
   // A nested object that stops inside does not stop the reader, one that is missing does.
   const jobject creation = spec("CreateGemlynPair", 10, 20);
   set(creation, "set_division", "7");

@@ -3,7 +3,7 @@
 #include <fstream>
 #include <sstream>
 
-#include "tests/support/registered_unit.h"
+#include "tests/real_jvm/registered_unit.h"
 
 namespace quorvelj::testing {
 namespace {

@@ -1,5 +1,5 @@
 // Fibre ports and LAN settings in a real Java process.
-#include "tests/support/real_session.h"
+#include "tests/real_jvm/real_session.h"
 
 namespace quorvelj::testing {
 namespace {

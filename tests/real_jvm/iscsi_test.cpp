@@ -1,5 +1,5 @@
 // iSCSI ports with their targets, initiators and users, in a real Java process.
-#include "tests/support/real_session.h"
+#include "tests/real_jvm/real_session.h"
 
 namespace quorvelj::testing {
 namespace {

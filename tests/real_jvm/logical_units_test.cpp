@@ -1,5 +1,5 @@
 // Logical units and the work on them in a real Java process.
-#include "tests/support/storage_fixture.h"
+#include "tests/real_jvm/storage_fixture.h"
 
 namespace quorvelj::testing {
 namespace {

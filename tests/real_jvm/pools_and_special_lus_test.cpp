@@ -1,5 +1,5 @@
 // Pools, virtual volumes and special LUs in a real Java process.
-#include "tests/support/storage_fixture.h"
+#include "tests/real_jvm/storage_fixture.h"
 
 namespace quorvelj::testing {
 namespace {

@@ -1,5 +1,5 @@
 // The condition of a unit in a real Java process.
-#include "tests/support/registered_unit.h"
+#include "tests/real_jvm/registered_unit.h"
 
 namespace quorvelj::testing {
 namespace {

@@ -12,32 +12,16 @@
 #include <vector>
 
 #include "simulator/control.h"
-#include "tests/support/real_jvm.h"
+#include "tests/real_jvm/registered_unit.h"
 
 namespace quorvelj::testing {
 
 /// A registered unit with a session on it.
-class UnitInSession : public ::testing::Test {
+class UnitInSession : public RegisteredUnit {
  protected:
-  UnitInSession() {
-    quorvelSimReset();
-    realJvm()->PushLocalFrame(1024);
-    const jobject param = create("QVUnitParam");
-    for (const char* const field : {"group_name", "ctl0", "ctl1", "serial"}) {
-      set(param, field, "");
-    }
-    set(param, "unit_name", "north");
-    set(param, "alert", "5");
-    call("QV_UnitAdd", {param});
-    const jobject request = create("LoginRequest");
-    set(request, "user_id", "admin");
-    set(request, "passwd", "quorvel");
-    set(request, "log_string", "");
-    unit_ = text("north");
-    session_ = call("QV_LoginQVAccount", {unit_, request}).result;
-  }
+  // An alert to be found.
+  UnitInSession() : RegisteredUnit(5) {}
   ~UnitInSession() override {
-    realJvm()->PopLocalFrame(nullptr);
     for (const std::string& path : temporary_) {
       std::remove(path.c_str());
     }
@@ -110,9 +94,6 @@ class UnitInSession : public ::testing::Test {
     std::ifstream file(path);
     return {std::istreambuf_iterator<char>(file), {}};
   }
-
-  jobject unit_;
-  jobject session_;
 
  private:
   std::set<std::string> temporary_;

@@ -1,5 +1,5 @@
 // Logins, the array's own users and the clock in a real Java process.
-#include "tests/support/registered_unit.h"
+#include "tests/real_jvm/registered_unit.h"
 
 namespace quorvelj::testing {
 namespace {

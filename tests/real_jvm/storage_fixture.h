@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "simulator/control.h"
-#include "tests/support/real_jvm.h"
+#include "tests/real_jvm/registered_unit.h"
 
 namespace quorvelj::testing {
 
@@ -23,32 +23,9 @@ inline std::vector<Member> int32sIn(const std::string& path, std::size_t offset,
   return members;
 }
 
-inline std::vector<Member> operator+(std::vector<Member> left, const std::vector<Member>& right) {
-  left.insert(left.end(), right.begin(), right.end());
-  return left;
-}
-
 /// A registered unit with a session, in a real Java process.
-class StorageTest : public ::testing::Test {
+class StorageTest : public RegisteredUnit {
  protected:
-  StorageTest() {
-    quorvelSimReset();
-    realJvm()->PushLocalFrame(4096);
-    unit_ = text("u");
-    const jobject param = create("QVUnitParam");
-    for (const char* const field : {"group_name", "ctl0", "ctl1", "serial"}) {
-      set(param, field, "");
-    }
-    set(param, "unit_name", "u");
-    call("QV_UnitAdd", {param});
-    const jobject login = create("LoginRequest");
-    set(login, "user_id", "admin");
-    set(login, "passwd", "quorvel");
-    set(login, "log_string", "");
-    session_ = call("QV_LoginQVAccount", {unit_, login}).result;
-  }
-  ~StorageTest() override { realJvm()->PopLocalFrame(nullptr); }
-
   /// A method's plain ints, and whether a session is before them.
   struct Arguments {
     const char* method;
@@ -77,7 +54,7 @@ class StorageTest : public ::testing::Test {
       quorvelSimForceResult(method, 0, 1);
       call(method, arguments);
       ASSERT_EQ(quorvelSimCallCount(method), 1);
-      EXPECT_EQ(input(method, 0), std::string("u") + std::string(64, '\0'));
+      EXPECT_EQ(input(method, 0), std::string("north") + std::string(60, '\0'));
       int parameter = 1;
       if (withSession) {
         EXPECT_EQ(input(method, parameter++), std::string(31, '\0') + '\x4D');
@@ -137,8 +114,6 @@ class StorageTest : public ::testing::Test {
     }
   }
 
-  jobject unit_ = nullptr;
-  jobject session_ = nullptr;
 };
 
 }  // namespace quorvelj::testing

@@ -11,18 +11,25 @@
 
 namespace quorvelj::testing {
 
+/// The members of two lists, one behind the other.
+inline std::vector<Member> operator+(std::vector<Member> left, const std::vector<Member>& right) {
+  left.insert(left.end(), right.begin(), right.end());
+  return left;
+}
+
 /// Tests in a real JVM with the unit "north" registered and a session on it.
 class RegisteredUnit : public ::testing::Test {
  protected:
-  RegisteredUnit() {
+  explicit RegisteredUnit(int alert = 0) {
     quorvelSimReset();
-    realJvm()->PushLocalFrame(1024);
+    realJvm()->PushLocalFrame(4096);
     const jobject param = create("QVUnitParam");
     for (const char* const field : {"group_name", "ctl1", "serial"}) {
       set(param, field, "");
     }
     set(param, "unit_name", "north");
     set(param, "ctl0", "192.0.2.10");
+    set(param, "alert", std::to_string(alert));
     call("QV_UnitAdd", {param});
     unit_ = text("north");
     const jobject request = create("LoginRequest");
