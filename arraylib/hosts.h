@@ -207,9 +207,9 @@ QUORVEL_RECORD(PortOption, 144);
 
 // Assumed layout: not confirmed by the library's own declarations.
 struct PlatformInfo {
-  std::byte reserved[20244];
+  std::byte reserved[16188];
 };
-QUORVEL_RECORD(PlatformInfo, 20244);
+QUORVEL_RECORD(PlatformInfo, 16188);
 
 // Assumed layout: not confirmed by the library's own declarations.
 struct SpecialmodeInfo {
@@ -222,19 +222,11 @@ QUORVEL_RECORD(SpecialmodeInfo, 40);
 // Assumed layout: not confirmed by the library's own declarations.
 struct HGParameterList {
   std::int32_t platform_count;
-  PlatformInfo platinfo[16];
+  PlatformInfo platinfo[20];
   std::int32_t special_mode_count;
-  SpecialmodeInfo specialinfo[16];
-  std::byte reserved[16];
+  SpecialmodeInfo specialinfo[20];
 };
 QUORVEL_RECORD(HGParameterList, 324568);
-
-// Assumed layout: not confirmed by the library's own declarations.
-struct PlatformInfo2 {
-  std::int32_t platform_id;
-  std::byte reserved[964];
-};
-QUORVEL_RECORD(PlatformInfo2, 968);
 
 // Assumed layout: not confirmed by the library's own declarations.
 struct MiddlewareInfo {
@@ -242,14 +234,19 @@ struct MiddlewareInfo {
 };
 QUORVEL_RECORD(MiddlewareInfo, 40);
 
+// Assumed layout: not confirmed by the library's own declarations.
+struct PlatformInfo2 {
+  std::int32_t platform_id;
+  std::int32_t middleware_count;
+  MiddlewareInfo middlewareinfo[20];
+};
+QUORVEL_RECORD(PlatformInfo2, 808);
+
 /// The same in the second form, with middleware.
 // Assumed layout: not confirmed by the library's own declarations.
 struct HGParameterList2 {
   std::int32_t platform_count;
-  PlatformInfo2 platinfo[16];
-  std::int32_t middleware_count;
-  MiddlewareInfo middlewareinfo[16];
-  std::byte reserved[28];
+  PlatformInfo2 platinfo[20];
 };
 QUORVEL_RECORD(HGParameterList2, 16164);
 

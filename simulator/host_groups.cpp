@@ -416,8 +416,8 @@ int getParameters(const UnitName*, const QVSessionInfo*, HGParameterList2* list)
   list->platform_count = kPlatforms;
   for (std::int32_t platform = 0; platform < kPlatforms; ++platform) {
     list->platinfo[platform].platform_id = platform;
+    list->platinfo[platform].middleware_count = static_cast<std::int32_t>(std::size(kMiddleware));
   }
-  list->middleware_count = static_cast<std::int32_t>(std::size(kMiddleware));
   return 0;
 }
 

@@ -240,14 +240,16 @@ TEST_F(HostGroups, OptionRecords) {
 
   expectBuilt(
       "QV_GetHGParameterList", {unit_, session_}, 324568,
-      std::vector<Member>{int32At(0, "platform_count"), int32At(323908, "special_mode_count"),
-                          int32At(323912, "specialinfo[0].specialmode_id")} +
-          optionAt(323916, "specialinfo[0].hgoptinfo.") +
-          std::vector<Member>{int32At(324512, "specialinfo[15].specialmode_id")} +
-          optionAt(324516, "specialinfo[15].hgoptinfo."));
-  expectBuilt("QV_GetHGParameterList2", {unit_, session_}, 16164,
-              {int32At(0, "platform_count"), int32At(4, "platinfo[0].platform_id"),
-               int32At(14524, "platinfo[15].platform_id"), int32At(15492, "middleware_count")});
+      std::vector<Member>{int32At(0, "platform_count"), int32At(323764, "special_mode_count"),
+                          int32At(323768, "specialinfo[0].specialmode_id")} +
+          optionAt(323772, "specialinfo[0].hgoptinfo.") +
+          std::vector<Member>{int32At(324528, "specialinfo[19].specialmode_id")} +
+          optionAt(324532, "specialinfo[19].hgoptinfo."));
+  expectBuilt(
+      "QV_GetHGParameterList2", {unit_, session_}, 16164,
+      {int32At(0, "platform_count"), int32At(4, "platinfo[0].platform_id"),
+       int32At(8, "platinfo[0].middleware_count"), int32At(15356, "platinfo[19].platform_id"),
+       int32At(15360, "platinfo[19].middleware_count")});
   expectBuilt("QV_GetHGParameterID", {unit_, session_, number(1)}, 6740,
               {int32At(0, "plat_id_count"), int32At(1348, "altpath_id_count"),
                int32At(2696, "fail_id_count"), int32At(4044, "special_id_count"),
@@ -308,9 +310,9 @@ TEST_F(HostGroups, ClassesOfUnknownFieldsAreBuilt) {
   expectOne(ports, "support_index", "PortOptionValidIndex");
   expectOne(ports, "valid_index", "PortOptionValidIndex");
   expectLast(call("QV_GetHGParameterList", {unit_, session_}).result, "platinfo", "PlatformInfo",
-             16);
-  expectLast(call("QV_GetHGParameterList2", {unit_, session_}).result, "middlewareinfo",
-             "MiddlewareInfo", 16);
+             20);
+  expectLast(call("QV_GetHGParameterList2", {unit_, session_}).result,
+             "platinfo[19].middlewareinfo", "MiddlewareInfo", 20);
   const jobject identifiers = call("QV_GetHGParameterID", {unit_, session_, number(0)}).result;
   expectLast(identifiers, "platform", "PlatFormID", 16);
   expectLast(identifiers, "alternatepath", "AlternatePathID", 16);

@@ -3,9 +3,6 @@ package tessaly.str.diskarray;
 /** The host group parameters in their second form. */
 public class HGParameterList2 {
     public int platform_count;
-    /** Always 16 elements. */
+    /** Always 20 elements. */
     public PlatformInfo2[] platinfo;
-    public int middleware_count;
-    /** Always 16 elements. */
-    public MiddlewareInfo[] middlewareinfo;
 }
