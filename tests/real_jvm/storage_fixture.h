@@ -113,7 +113,6 @@ class StorageTest : public RegisteredUnit {
       set(object, field, std::to_string(value));
     }
   }
-
 };
 
 }  // namespace quorvelj::testing
