@@ -102,7 +102,7 @@ public final class ArrayTour {
         AccountsPage.show(visit);
         UnitPage.show(visit);
         StatusPage.show(visit);
-        StoragePage.show(visit);
+        StoragePage storage = StoragePage.show(visit);
         HostsPage.show(visit);
         PortsPage.show(visit);
         MaintenancePage.show(visit);
@@ -111,6 +111,7 @@ public final class ArrayTour {
         }
         PerformancePage.show(visit);
         WholeArrayPage.show(visit);
+        storage.cleanUp();
         ARRAY.QV_LogoutQVAccount(unit, session, new LogoutOption());
         Visit.step("After the logout", () -> ARRAY.QV_GetOwnUserPermission(unit, session));
     }

@@ -1,6 +1,5 @@
 import java.util.ArrayList;
 import java.util.List;
-import java.util.Locale;
 import tessaly.str.diskarray.AreaInfo;
 import tessaly.str.diskarray.CreateRaidGroup;
 import tessaly.str.diskarray.CreateRgDrive;
@@ -37,11 +36,12 @@ final class StoragePage {
         this.visit = visit;
     }
 
-    static void show(Visit visit) {
+    /** Returns the page, so that what it made can be looked at before it is deleted. */
+    static StoragePage show(Visit visit) {
         StoragePage page = new StoragePage(visit);
         Visit.step("RAID groups", page::createGroup);
         if (page.group < 0) {
-            return;
+            return page;
         }
         Visit.step("Logical units", page::createUnits);
         if (page.made.size() == SIZES.length) {
@@ -52,7 +52,14 @@ final class StoragePage {
             Visit.step("Virtual volume", page::volume);
             Visit.step("LU guard", page::guard);
         }
-        Visit.step("Free again", page::delete);
+        return page;
+    }
+
+    /** Deletes what the page made. */
+    void cleanUp() {
+        if (group >= 0) {
+            Visit.step("Free again", this::delete);
+        }
     }
 
     private void createGroup() throws DiskArrayException {
@@ -64,7 +71,8 @@ final class StoragePage {
         request.rgdrv = new CreateRgDrive[0];
         RgDetail planned =
                 Visit.ARRAY.QV_GetRaidGroupCreationCapacity(visit.unit, visit.session, request);
-        System.out.println("  planned: " + size(planned.total_capa_h, planned.total_capa_l) + "\n");
+        System.out.println(
+                "  planned: " + Capacity.of(planned.total_capa_h, planned.total_capa_l) + "\n");
         Visit.ARRAY.QV_CreateRaidGroup(visit.unit, visit.session, request);
         group = request.rgnum;
         groups();
@@ -96,8 +104,9 @@ final class StoragePage {
         for (RgDetail detail : detailsOfGroups()) {
             table.row(detail.rgnum, "RAID " + detail.level,
                     detail.parity_count + " x " + detail.parity_hdu_count,
-                    size(0, detail.minimum_capa), size(detail.total_capa_h, detail.total_capa_l),
-                    size(detail.rest_capa_h, detail.rest_capa_l), detail.lu_count);
+                    Capacity.of(0, detail.minimum_capa),
+                    Capacity.of(detail.total_capa_h, detail.total_capa_l),
+                    Capacity.of(detail.rest_capa_h, detail.rest_capa_l), detail.lu_count);
         }
         table.print();
     }
@@ -128,7 +137,7 @@ final class StoragePage {
         for (LogicalUnit unit : Visit.ARRAY.QV_GetLogicalUnit(visit.unit, visit.session)) {
             if (unit.lu_valid != 0) {
                 table.row(unit.luNumber, unit.rgNumber, "RAID " + unit.raid_level,
-                        size(unit.capacity_h, unit.capacity_l), unit.currentCTL,
+                        Capacity.of(unit.capacity_h, unit.capacity_l), unit.currentCTL,
                         unit.status == 0 ? "normal" : "code " + unit.status);
             }
         }
@@ -146,7 +155,7 @@ final class StoragePage {
         for (int index = 0; index < areas.area_count; index++) {
             AreaInfo area = areas.area[index];
             table.row(index, area.lun < 0 ? "free" : area.lun,
-                    size(area.area_capa_h, area.area_capa_l));
+                    Capacity.of(area.area_capa_h, area.area_capa_l));
         }
         table.print();
     }
@@ -193,8 +202,8 @@ final class StoragePage {
         for (PoolDetailInfo each :
                 Visit.ARRAY.QV_GetPoolInformation(visit.unit, visit.session).sys.pool) {
             if (each.lu_count > 0) {
-                table.row(each.pool_no, size(each.allcapa_h, each.allcapa_l),
-                        size(each.usedcapa_h, each.usedcapa_l), each.threshold,
+                table.row(each.pool_no, Capacity.of(each.allcapa_h, each.allcapa_l),
+                        Capacity.of(each.usedcapa_h, each.usedcapa_l), each.threshold,
                         each.lu_count);
             }
         }
@@ -213,7 +222,7 @@ final class StoragePage {
         Table table = new Table("LU", "Capacity");
         for (int index = 0; index < volumes.vvol_count; index++) {
             table.row(volumes.lu[index].lun,
-                    size(volumes.lu[index].capacity_h, volumes.lu[index].capacity_l));
+                    Capacity.of(volumes.lu[index].capacity_h, volumes.lu[index].capacity_l));
         }
         table.print();
     }
@@ -223,7 +232,7 @@ final class StoragePage {
         LuGuard[] guards = Visit.ARRAY.QV_GetLuGuardInformation(visit.unit, visit.session).lu;
         for (int number = 0; number < guards.length; number++) {
             if (guards[number].lu_valid != 0) {
-                table.row(number, size(guards[number].capacity_h, guards[number].capacity_l),
+                table.row(number, Capacity.of(guards[number].capacity_h, guards[number].capacity_l),
                         guards[number].access_level, guards[number].retention_term);
             }
         }
@@ -242,17 +251,5 @@ final class StoragePage {
         }
         groups();
         deleteGroup();
-    }
-
-    /** A capacity in blocks of 512 bytes, as two words, in human units. */
-    private static String size(int high, int low) {
-        double bytes = 512.0 * ((long) high << 32 | low & 0xFFFFFFFFL);
-        String[] units = {"B", "KiB", "MiB", "GiB", "TiB", "PiB"};
-        int unit = 0;
-        while (bytes >= 1024 && unit < units.length - 1) {
-            bytes /= 1024;
-            unit++;
-        }
-        return String.format(Locale.ROOT, unit == 0 ? "%.0f %s" : "%.1f %s", bytes, units[unit]);
     }
 }
