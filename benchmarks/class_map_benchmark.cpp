@@ -105,13 +105,6 @@ int readInLoop(JNIEnv* env, jobject object, TwentyFourInts& record) {
 
 const quorvelj::ClassMap& map() { return quorvelj::ClassOf<TwentyFourInts>::kMap; }
 
-void release(JNIEnv* env, jobject object) {
-  if (object == nullptr) {
-    std::abort();
-  }
-  env->DeleteLocalRef(object);
-}
-
 void BM_Build24Ints(benchmark::State& state) {
   JNIEnv* const env = jvm();
   const TwentyFourInts record{};

@@ -9,12 +9,17 @@
 
 // A real Java virtual machine, and the comparison of two ways to do the same in it.
 
-/// The machine, started on first use, with the Java half and the benchmarks' classes.
+/// The machine, started on first use, with the Java half and the benchmarks' classes. All of its
+/// heap is touched at the start, so that what a call adds to the process is not the heap's growth.
 inline JNIEnv* jvm() {
   static JNIEnv* const env = [] {
     std::string classPath = "-Djava.class.path=" QUORVELJ_CLASS_PATH;
-    JavaVMOption option{classPath.data(), nullptr};
-    JavaVMInitArgs arguments{JNI_VERSION_1_8, 1, &option, JNI_FALSE};
+    char least[] = "-Xms1g";
+    char most[] = "-Xmx1g";
+    char touched[] = "-XX:+AlwaysPreTouch";
+    JavaVMOption options[] = {
+        {classPath.data(), nullptr}, {least, nullptr}, {most, nullptr}, {touched, nullptr}};
+    JavaVMInitArgs arguments{JNI_VERSION_1_8, 4, options, JNI_FALSE};
     JavaVM* machine = nullptr;
     JNIEnv* started = nullptr;
     if (JNI_CreateJavaVM(&machine, reinterpret_cast<void**>(&started), &arguments) != JNI_OK) {
@@ -23,6 +28,14 @@ inline JNIEnv* jvm() {
     return started;
   }();
   return env;
+}
+
+/// Lets go of what a call built; ends the process where it built nothing.
+inline void release(JNIEnv* env, jobject built) {
+  if (built == nullptr || env->ExceptionCheck() == JNI_TRUE) {
+    std::abort();
+  }
+  env->DeleteLocalRef(built);
 }
 
 /// Times batches of `batch` calls of `byMap` and `byHand` by turns, so that both meet the same
