@@ -41,16 +41,21 @@ jobjectArray finishArrayQuery(JNIEnv* env, int result, const ClassMap& map, void
                     [=, &map] { return buildArray(env, map, records, length, recordBytes); });
 }
 
+bool storeBuilt(JNIEnv* env, jobjectArray array, jsize index, const ClassMap& map,
+                const void* record) {
+  const jobject element = build(env, map, record);
+  if (element == nullptr) {
+    return false;
+  }
+  env->SetObjectArrayElement(array, index, element);
+  deleteLocalRef(env, element);
+  return true;
+}
+
 void fillPartialArray(JNIEnv* env, jobjectArray array, const ClassMap& map, const void* records,
                       jsize length, std::size_t recordBytes) {
   const auto* record = static_cast<const std::byte*>(records);
-  for (jsize index = 0; index < length; ++index) {
-    const jobject element = build(env, map, record);
-    if (element == nullptr) {
-      return;
-    }
-    env->SetObjectArrayElement(array, index, element);
-    deleteLocalRef(env, element);
+  for (jsize index = 0; index < length && storeBuilt(env, array, index, map, record); ++index) {
     record += recordBytes;
   }
 }

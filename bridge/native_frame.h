@@ -58,8 +58,13 @@ jobject finishQuery(JNIEnv* env, int result, const ClassMap& map, void* record);
 jobjectArray finishArrayQuery(JNIEnv* env, int result, const ClassMap& map, void* records,
                               jsize length, std::size_t recordBytes);
 
-/// Fills `array` with objects built from `length` records. Stops at the first that cannot be built
-/// and leaves the rest null; no exception is tested for or thrown.
+/// Stores an object built from `record` at `index`; false where it cannot be built. No exception is
+/// tested for or thrown.
+bool storeBuilt(JNIEnv* env, jobjectArray array, jsize index, const ClassMap& map,
+                const void* record);
+
+/// The same for `length` records from the first element on. Stops at the first that cannot be built
+/// and leaves the rest null.
 void fillPartialArray(JNIEnv* env, jobjectArray array, const ClassMap& map, const void* records,
                       jsize length, std::size_t recordBytes);
 
@@ -257,6 +262,20 @@ jint value(JNIEnv* env, Function function, Java... java) {
   return output;
 }
 
+/// What an update does behind the allocation of its records: reads and hands over all of them,
+/// releases them, and throws what the library returned.
+template <class... Parameter>
+void finishUpdate(JNIEnv* env, Inputs<Parameter...>& inputs, int (*function)(Parameter...)) {
+  inputs.readAll(env);
+  const int result = inputs.call(function);
+  inputs.releaseAll();
+  if (result != 0) {
+    throwArrayException(env, result);
+    return;
+  }
+  flushOutput();
+}
+
 /// A method that returns nothing, with records to hand over or without. All of them are allocated
 /// before the first is read, and all are released, whichever could not be had.
 template <class... Parameter, class... Java>
@@ -271,14 +290,7 @@ void update(JNIEnv* env, int (*function)(Parameter...), Java... java) {
     inputs.releaseAll();
     return;
   }
-  inputs.readAll(env);
-  const int result = inputs.call(function);
-  inputs.releaseAll();
-  if (result != 0) {
-    throwArrayException(env, result);
-    return;
-  }
-  flushOutput();
+  finishUpdate(env, inputs, function);
 }
 
 }  // namespace quorvelj

@@ -171,14 +171,7 @@ void output(JNIEnv* env, int (*function)(Parameter...), Java... java) {
     throwArrayException(env, kOutOfMemory);
     return;
   }
-  inputs.readAll(env);
-  const int result = inputs.call(function);
-  inputs.releaseAll();
-  if (result != 0) {
-    throwArrayException(env, result);
-    return;
-  }
-  flushOutput();
+  finishUpdate(env, inputs, function);
 }
 
 /// Returns a new array of two controllers' objects, or null. From the first that cannot be built on
@@ -186,17 +179,8 @@ void output(JNIEnv* env, int (*function)(Parameter...), Java... java) {
 template <class Record>
 jobjectArray buildPair(JNIEnv* env, const Record* controller0, const Record* controller1) {
   const jobjectArray array = newObjectArrayByName(env, ClassOf<Record>::kName, 2);
-  if (array == nullptr) {
-    return nullptr;
-  }
-  jsize index = 0;
-  for (const Record* const record : {controller0, controller1}) {
-    const jobject element = build(env, ClassOf<Record>::kMap, record);
-    if (element == nullptr) {
-      break;
-    }
-    env->SetObjectArrayElement(array, index++, element);
-    deleteLocalRef(env, element);
+  if (array != nullptr && storeBuilt(env, array, 0, ClassOf<Record>::kMap, controller0)) {
+    storeBuilt(env, array, 1, ClassOf<Record>::kMap, controller1);
   }
   return array;
 }

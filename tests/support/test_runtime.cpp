@@ -38,6 +38,8 @@ void* allocateGuarded(std::size_t bytes, int fill) {
   std::memset(block + kGuardBytes, fill, bytes);
   liveBlocks()[block + kGuardBytes] = bytes;
   ++testRuntime().liveRecords;
+  testRuntime().liveBytes += bytes;
+  testRuntime().mostBytes = std::max(testRuntime().mostBytes, testRuntime().liveBytes);
   return block + kGuardBytes;
 }
 
@@ -93,6 +95,7 @@ void releaseRecord(void* record) {
   if (!testing::guarded(bytes - testing::kGuardBytes) || !testing::guarded(bytes + found->second)) {
     ++testRuntime().damaged;
   }
+  testRuntime().liveBytes -= found->second;
   testing::liveBlocks().erase(found);
   --testRuntime().liveRecords;
   std::free(bytes - testing::kGuardBytes);

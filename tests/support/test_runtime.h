@@ -12,6 +12,9 @@ struct TestRuntime {
   int allocations = 0;
   /// Records not yet released.
   int liveRecords = 0;
+  /// Bytes of records not yet released, and the most there were at once.
+  std::size_t liveBytes = 0;
+  std::size_t mostBytes = 0;
   /// Records that were written outside of, or released twice.
   int damaged = 0;
 };
