@@ -23,6 +23,8 @@ struct MiniJvm::Class {
   std::string name;
   std::map<std::string, std::unique_ptr<Member>> members;
   std::unordered_map<const void*, Member*> recentMembers;
+  /// Those whose arrays the constructor makes.
+  std::vector<Member*> made;
   bool learnt = false;
   Object* mirror = nullptr;
 };
@@ -116,12 +118,12 @@ struct MiniJvm::Functions {
       jvm.throwNew(error, name);
       return nullptr;
     }
-    if (mirror->mirrored->learnt && *name != '<' &&
-        !mirror->mirrored->members.contains(std::string(name) + ' ' + signature)) {
+    const bool fixed = mirror->mirrored->learnt && *name != '<';
+    Member* const found = jvm.findMember(mirror->mirrored, name, signature, !fixed);
+    if (found == nullptr) {
       jvm.throwNew(error, name);
-      return nullptr;
     }
-    return jvm.findMember(mirror->mirrored, name, signature);
+    return found;
   }
   static jfieldID JNICALL getFieldId(JNIEnv* env, jclass type, const char* name,
                                      const char* signature) {
@@ -142,12 +144,10 @@ struct MiniJvm::Functions {
     }
     const auto* const constructor = reinterpret_cast<Member*>(id);
     Object* const object = jvm.make(jvm.resolve(type)->mirrored);
-    for (const auto& [key, member] : object->type->members) {
-      if (member->madeLength >= 0) {
-        Object* const array = jvm.make(jvm.findClass("[B"));
-        array->payload = std::vector<jbyte>(static_cast<std::size_t>(member->madeLength));
-        jvm.slotOf(object, member.get()) = {true, 0, array};
-      }
+    for (const Member* const member : object->type->made) {
+      Object* const array = jvm.make(jvm.findClass("[B"));
+      array->payload = std::vector<jbyte>(static_cast<std::size_t>(member->madeLength));
+      jvm.slotOf(object, member) = {true, 0, array};
     }
     if (constructor->signature == "(I)V") {
       jvm.slotOf(object, jvm.findMember(object->type, "code", "I")) = {
@@ -199,7 +199,9 @@ struct MiniJvm::Functions {
     MiniJvm& jvm = of(env);
     jvm.enter(false, "DeleteLocalRef");
     if (jvm.resolve(reference) != nullptr) {
-      reinterpret_cast<Reference*>(reference)->live = false;
+      auto* const dead = reinterpret_cast<Reference*>(reference);
+      dead->live = false;
+      jvm.deleted_.push_back(dead);
       --jvm.liveReferences_;
     }
   }
@@ -496,12 +498,17 @@ MiniJvm::Class* MiniJvm::findClass(const char* name) {
   return recent;
 }
 
-MiniJvm::Member* MiniJvm::findMember(Class* type, const char* name, const char* signature) {
+MiniJvm::Member* MiniJvm::findMember(Class* type, const char* name, const char* signature,
+                                     bool make) {
   Member*& recent = type->recentMembers[name];
   if (recent != nullptr && recent->name == name && recent->signature == signature) {
     return recent;
   }
-  std::unique_ptr<Member>& member = type->members[std::string(name) + ' ' + signature];
+  const std::string key = std::string(name) + ' ' + signature;
+  if (!make && !type->members.contains(key)) {
+    return nullptr;
+  }
+  std::unique_ptr<Member>& member = type->members[key];
   if (member == nullptr) {
     member = std::make_unique<Member>(Member{name, signature, type->members.size() - 1, -1});
   }
@@ -574,7 +581,15 @@ jobject MiniJvm::refer(Object* object) {
     return nullptr;
   }
   mostReferences_ = std::max(mostReferences_, ++liveReferences_);
-  return reinterpret_cast<jobject>(&references_.emplace_back(Reference{object, true}));
+  // A deleted reference stays dead for a while, so that its use is noticed.
+  constexpr std::size_t kStaysDead = 4096;
+  if (deleted_.size() < kStaysDead) {
+    return reinterpret_cast<jobject>(&references_.emplace_back(Reference{object, true}));
+  }
+  Reference* const reused = deleted_.front();
+  deleted_.pop_front();
+  *reused = {object, true};
+  return reinterpret_cast<jobject>(reused);
 }
 
 MiniJvm::Object* MiniJvm::resolve(jobject reference) {
@@ -600,7 +615,11 @@ void MiniJvm::learnClasses(std::istream& fields) {
   for (int length = 0; fields >> className >> name >> signature >> length;) {
     Class* const type = findClass(("tessaly/str/diskarray/" + className).c_str());
     type->learnt = true;
-    findMember(type, name.c_str(), signature.c_str())->madeLength = length;
+    Member* const member = findMember(type, name.c_str(), signature.c_str());
+    member->madeLength = length;
+    if (length >= 0) {
+      type->made.push_back(member);
+    }
   }
 }
 

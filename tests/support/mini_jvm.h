@@ -106,7 +106,8 @@ class MiniJvm {
   };
 
   Class* findClass(const char* name);
-  Member* findMember(Class* type, const char* name, const char* signature);
+  /// The member of a class; where it has none, a new one or null.
+  Member* findMember(Class* type, const char* name, const char* signature, bool make = true);
   Object* make(Class* type);
   Object* makeInput(const std::string& signature);
   Object* makeThrowable(const std::string& className, const std::string& message, jint code = 0);
@@ -126,6 +127,7 @@ class MiniJvm {
   std::unordered_map<const void*, Class*> recentClasses_;
   std::deque<Object> objects_;
   std::deque<Reference> references_;
+  std::deque<Reference*> deleted_;
   std::vector<std::string> missing_;
   /// Characters that native code holds.
   std::unordered_map<const char*, std::vector<char>> characters_;

@@ -27,8 +27,8 @@ Compared& compared() {
 
 const auto* const kCompared = ::testing::AddGlobalTestEnvironment(&compared());
 
-/// The fields that native code looked up during a call, in order. The look-up is swapped in the
-/// thread's JNI function table for as long.
+/// The fields that native code looked up during a call, in order; their names are the bridge's own
+/// constants. The look-up is swapped in the thread's JNI function table for as long.
 class FieldLog {
  public:
   FieldLog() : own_(*realJvm()->functions), original_(realJvm()->functions) {
@@ -41,8 +41,8 @@ class FieldLog {
   FieldLog(const FieldLog&) = delete;
   FieldLog& operator=(const FieldLog&) = delete;
 
-  static std::vector<std::string>& names() {
-    static std::vector<std::string> looked;
+  static std::vector<const char*>& names() {
+    static std::vector<const char*> looked;
     return looked;
   }
 
