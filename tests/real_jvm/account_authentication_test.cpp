@@ -1,34 +1,11 @@
 // Accounts and sessions in a real Java process.
-#include <gtest/gtest.h>
-
-#include "simulator/control.h"
-#include "tests/support/real_jvm.h"
+#include "tests/real_jvm/registered_unit.h"
 
 namespace quorvelj::testing {
 namespace {
 
-class AccountAuthentication : public ::testing::Test {
+class AccountAuthentication : public RegisteredUnit {
  protected:
-  AccountAuthentication() {
-    quorvelSimReset();
-    realJvm()->PushLocalFrame(512);
-    const jobject param = create("QVUnitParam");
-    for (const char* const field : {"group_name", "ctl0", "ctl1", "serial"}) {
-      set(param, field, "");
-    }
-    set(param, "unit_name", "north");
-    call("QV_UnitAdd", {param});
-    unit_ = text("north");
-  }
-  ~AccountAuthentication() override { realJvm()->PopLocalFrame(nullptr); }
-
-  Called login(const char* user, const char* password) {
-    const jobject request = create("LoginRequest");
-    set(request, "user_id", user);
-    set(request, "passwd", password);
-    set(request, "log_string", "test");
-    return call("QV_LoginQVAccount", {unit_, request});
-  }
   static jobject account(const char* user, const char* password, bool enabled) {
     const jobject created = create("Account");
     set(created, "user_id", user);
@@ -43,8 +20,6 @@ class AccountAuthentication : public ::testing::Test {
     set(identifier, "user_id", user);
     return identifier;
   }
-
-  jobject unit_;
 };
 
 TEST_F(AccountAuthentication, RequestRecords) {

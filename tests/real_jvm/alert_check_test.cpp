@@ -1,12 +1,12 @@
 // Alerts and their mail in a real Java process.
 #include <cstring>
 
-#include "tests/real_jvm/unit_in_session.h"
+#include "tests/real_jvm/registered_unit.h"
 
 namespace quorvelj::testing {
 namespace {
 
-class AlertCheck : public UnitInSession {
+class AlertCheck : public RegisteredUnit {
  protected:
   /// What Java gets of a mail record with this number of recipients and no NUL in them.
   static jobject mailOf(std::int32_t recipients) {
@@ -89,7 +89,7 @@ TEST_F(AlertCheck, RecipientsThatAreSet) {
   }
   set(mail, "tonum", "5");
   EXPECT_EQ(call("QV_SetEmailInfo", {mail}).failure, "");
-  const std::vector<char> record = lastInput("QV_SetEmailInfo", 0);
+  const std::string record = lastInput("QV_SetEmailInfo", 0);
   EXPECT_EQ(record[244], 5);
   EXPECT_STREQ(record.data() + 448, "the to[2]");
   const jobject kept = call("QV_GetEmailInfo", {}).result;

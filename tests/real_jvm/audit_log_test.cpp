@@ -1,10 +1,10 @@
 // The audit log in a real Java process.
-#include "tests/real_jvm/unit_in_session.h"
+#include "tests/real_jvm/registered_unit.h"
 
 namespace quorvelj::testing {
 namespace {
 
-using AuditLog = UnitInSession;
+using AuditLog = RegisteredUnit;
 
 TEST_F(AuditLog, Records) {
   const std::vector<Member> settings{

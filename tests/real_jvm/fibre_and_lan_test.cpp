@@ -1,11 +1,10 @@
 // Fibre ports and LAN settings in a real Java process.
-#include "tests/real_jvm/real_session.h"
+#include "tests/real_jvm/registered_unit.h"
 
 namespace quorvelj::testing {
 namespace {
 
-using Members = std::vector<Member>;
-using FibreAndLan = RealSession;
+using FibreAndLan = RegisteredUnit;
 
 const Members kLan{uint8At(0, "dhcp"),
                    textAt(1, 16, "ip_address"),
@@ -20,7 +19,7 @@ const Members kLanDetail{int32At(0, "dhcp"),       textAt(4, 16, "ip_address"),
                          textAt(20, 16, "subnet"), textAt(36, 16, "gateway"),
                          textAt(52, 18, "ether"),  uint8At(70, "duplex_type"),
                          uint8At(71, "link_speed")};
-const Members kLanEx = placed(0, "ctl[0].", kLanDetail) + placed(72, "ctl[1].", kLanDetail);
+const Members kLanEx = at(0, "ctl[0].", kLanDetail) + at(72, "ctl[1].", kLanDetail);
 const Members kPortNumbers =
     int32sAt(0, {"ctl[0].valid_index", "ctl[0].normal_port", "ctl[0].port_num",
                  "ctl[0].ssl_port_num", "ctl[1].valid_index", "ctl[1].normal_port",
@@ -40,7 +39,7 @@ const Members kUserDetail =
             textAt(284, 40, "set_ipaddress"),
             textAt(324, 40, "set_subnet"),
             textAt(364, 40, "set_gateway")};
-const Members kUserLan = placed(0, "ctl[0].", kUserDetail) + placed(496, "ctl[1].", kUserDetail) +
+const Members kUserLan = at(0, "ctl[0].", kUserDetail) + at(496, "ctl[1].", kUserDetail) +
                          int32sAt(992, {"mainte_ip_change_mode", "last_set_mode",
                                         "logout_instruction", "ipv6_used", "set_ipversion"});
 const Members kMainteDetail{int32At(0, "valid_index"),          textAt(4, 40, "ip_address"),
@@ -52,11 +51,11 @@ const Members kMainteAddress{int32At(0, "set_ipversion"), textAt(4, 40, "ip_addr
 const Members kNncDetail{int32At(0, "valid_index"),  textAt(4, 40, "ip_address"),
                          textAt(44, 40, "subnet"),   int32At(84, "mtu"),
                          int32At(88, "negotiation"), int32At(92, "set_status")};
-const Members kNnc =
-    Members{int8At(0, "nnclaninfo_valid[0]"), int8At(3, "nnclaninfo_valid[3]"),
-            int32At(4, "set_valid")} +
-    placed(8, "nnclaninfo[0].", kNncDetail) + placed(296, "nnclaninfo[3].", kNncDetail) +
-    placed(392, "set_nnclaninfo[0].", kNncDetail) + placed(680, "set_nnclaninfo[3].", kNncDetail);
+const Members kNnc = Members{int8At(0, "nnclaninfo_valid[0]"), int8At(3, "nnclaninfo_valid[3]"),
+                             int32At(4, "set_valid")} +
+                     at(8, "nnclaninfo[0].", kNncDetail) + at(296, "nnclaninfo[3].", kNncDetail) +
+                     at(392, "set_nnclaninfo[0].", kNncDetail) +
+                     at(680, "set_nnclaninfo[3].", kNncDetail);
 
 const Members kFibrePort =
     Members{textAt(0, 17, "node_name"), textAt(17, 17, "port_name"), textAt(34, 7, "n_port_id"),
@@ -73,57 +72,56 @@ const Members kPermission{textAt(0, 17, "node_name"), textAt(17, 17, "port_name"
                           textAt(34, 7, "n_port_id"), bytesAt(41, 256, "lun_security_bitmap")};
 const Members kSecurity =
     int32sAt(0, {"access_guard", "all_lun_security", "permission_count", "security_chk_lv"}) +
-    placed(16, "permission[0].", kPermission) + placed(37735, "permission[127].", kPermission);
+    at(16, "permission[0].", kPermission) + at(37735, "permission[127].", kPermission);
 const Members kFibre = Members{int32At(0, "lun_security"),     int32At(4, "port_valid"),
                                int32At(8, "topology[0]"),      int32At(36, "topology[7]"),
                                int32At(40, "topology_ref[0]"), int32At(68, "topology_ref[7]")} +
-                       placed(72, "port[0].", kFibrePort) + placed(632, "port[7].", kFibrePort) +
-                       placed(712, "sfc[0].", kSfc) + placed(922, "sfc[7].", kSfc) +
-                       placed(952, "security[0].", kSecurity) +
-                       placed(267176, "security[7].", kSecurity) +
+                       at(72, "port[0].", kFibrePort) + at(632, "port[7].", kFibrePort) +
+                       at(712, "sfc[0].", kSfc) + at(922, "sfc[7].", kSfc) +
+                       at(952, "security[0].", kSecurity) + at(267176, "security[7].", kSecurity) +
                        Members{textAt(305248, 8, "product_number")};
 
 TEST_F(FibreAndLan, ResultRecords) {
   const std::vector<jobject> arguments{unit_, session_};
   expectBuilt("QV_GetLANInformation", {unit_, session_, number(1)}, 80, kLan);
-  EXPECT_EQ(lastNumber("QV_GetLANInformation", 2), 1);
+  EXPECT_EQ(lastInt("QV_GetLANInformation", 2), 1);
   expectBuilt("QV_GetLANInformationEx", {unit_}, 144, kLanEx);
   expectBuilt("QV_GetLANPortNumber", arguments, 40, kPortNumbers);
   expectBuilt("QV_GetQVUserLANInformation", arguments, 1012, kUserLan);
   expectBuilt("QV_LoadQVUserLANInformation", {unit_, text("file"), session_}, 1012, kUserLan);
   expectBuilt("QV_GetMainteLanInfo", arguments, 1320,
-              placed(0, "ctl[0].", kMainteDetail) + placed(212, "ctl[1].", kMainteDetail) +
-                  placed(424, "nnc[0].", kMainteDetail) + placed(1060, "nnc[3].", kMainteDetail));
+              at(0, "ctl[0].", kMainteDetail) + at(212, "ctl[1].", kMainteDetail) +
+                  at(424, "nnc[0].", kMainteDetail) + at(1060, "nnc[3].", kMainteDetail));
   expectBuilt(
       "QV_GetMainteLanAvailableList", arguments, 552,
-      Members{int32At(0, "available_count")} + placed(4, "available_address[0].", kMainteAddress) +
-          placed(196, "available_address[4].", kMainteAddress) +
+      Members{int32At(0, "available_count")} + at(4, "available_address[0].", kMainteAddress) +
+          at(196, "available_address[4].", kMainteAddress) +
           int32sAt(244,
                    {"rule_ipv4_minaddr", "rule_ipv4_maxaddr", "rule_ipv4_addition_value",
                     "rule_ipv4_base_value", "available_host_ctl[0].host_address",
                     "available_host_ctl[1].host_address", "available_host_nnc[0].host_address"}) +
           int32sAt(280, {"available_host_nnc[3].host_address", "available_count_ipv6"}) +
-          placed(288, "available_address_ipv6[0].", kMainteAddress) +
-          placed(480, "available_address_ipv6[4].", kMainteAddress) +
+          at(288, "available_address_ipv6[0].", kMainteAddress) +
+          at(480, "available_address_ipv6[4].", kMainteAddress) +
           int32sAt(528, {"rule_ipv6_minaddr", "rule_ipv6_maxaddr", "rule_ipv6_addition_value",
                          "rule_ipv6_base_value"}));
   expectBuilt("QV_GetNNCLANInformation", arguments, 776, kNnc);
   expectBuilt("QV_GetFibreInformation", arguments, 610512,
-              placed(0, "[0].", kFibre) + placed(305256, "[1].", kFibre));
+              at(0, "[0].", kFibre) + at(305256, "[1].", kFibre));
 }
 
 TEST_F(FibreAndLan, RequestRecords) {
   const jobject lan = create("LANInformation");
   expectRead("QV_SetLANInformation", {unit_, session_, number(1), number(7), lan}, lan, 4, 80,
              kLan);
-  EXPECT_EQ(lastNumber("QV_SetLANInformation", 2), 1);
-  EXPECT_EQ(lastNumber("QV_SetLANInformation", 3), 7);
+  EXPECT_EQ(lastInt("QV_SetLANInformation", 2), 1);
+  EXPECT_EQ(lastInt("QV_SetLANInformation", 3), 7);
   const jobject both = create("LANInformationEx");
   expectRead("QV_SetLANInformationEx", {unit_, both}, both, 1, 144, kLanEx);
   const jobject numbers = create("LANPortNumber");
   expectRead("QV_SetLANPortNumber", {unit_, session_, number(-1), numbers}, numbers, 3, 40,
              kPortNumbers);
-  EXPECT_EQ(lastNumber("QV_SetLANPortNumber", 2), -1);
+  EXPECT_EQ(lastInt("QV_SetLANPortNumber", 2), -1);
   const auto inSession = [&](const char* method, const char* className, std::size_t size,
                              const Members& members) {
     const jobject object = create(className);
@@ -213,9 +211,9 @@ TEST_F(FibreAndLan, ImportedPermissions) {
   const char* const method = "QV_FibreInfoPermissionImport";
   // 128 records of 297 bytes.
   expectBuilt(method, {unit_, text("hosts.txt"), number(7)}, 38016,
-              placed(0, "[0].", kPermission) + placed(37719, "[127].", kPermission));
+              at(0, "[0].", kPermission) + at(37719, "[127].", kPermission));
   EXPECT_EQ(lastText(method, 1), "hosts.txt");
-  EXPECT_EQ(lastNumber(method, 2), 7);
+  EXPECT_EQ(lastInt(method, 2), 7);
   const jobject permissions = call(method, {unit_, text("hosts.txt"), number(7)}).result;
   EXPECT_EQ(get(permissions, ""), "FibreInformationPermission[128]");
   EXPECT_EQ(get(permissions, "[1].node_name"), "1000000000000001");

@@ -1,10 +1,10 @@
 // Firmware in a real Java process.
-#include "tests/real_jvm/unit_in_session.h"
+#include "tests/real_jvm/registered_unit.h"
 
 namespace quorvelj::testing {
 namespace {
 
-class Firmware : public UnitInSession {
+class Firmware : public RegisteredUnit {
  protected:
   jobject file(const char* name, const char* content) {
     const std::string path = temporary(name);

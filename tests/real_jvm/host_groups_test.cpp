@@ -1,10 +1,5 @@
 // Host groups and LU mapping in a real Java process.
-#include <gtest/gtest.h>
-
-#include <cstring>
-
-#include "simulator/control.h"
-#include "tests/support/real_jvm.h"
+#include "tests/real_jvm/registered_unit.h"
 
 namespace quorvelj::testing {
 namespace {
@@ -21,11 +16,6 @@ std::vector<Member> optionAt(std::size_t offset, const std::string& path) {
     offset += 4;
   }
   return members;
-}
-
-std::vector<Member> operator+(std::vector<Member> left, const std::vector<Member>& right) {
-  left.insert(left.end(), right.begin(), right.end());
-  return left;
 }
 
 const std::vector<Member> kHGList{
@@ -89,26 +79,8 @@ const std::vector<Member> kPortOption{
     int32At(112, "ctl[1].port_common_opt[0]"), int32At(140, "ctl[1].port_common_opt[7]"),
 };
 
-class HostGroups : public ::testing::Test {
+class HostGroups : public RegisteredUnit {
  protected:
-  HostGroups() {
-    quorvelSimReset();
-    realJvm()->PushLocalFrame(512);
-    const jobject param = create("QVUnitParam");
-    for (const char* const field : {"group_name", "ctl0", "ctl1", "serial"}) {
-      set(param, field, "");
-    }
-    set(param, "unit_name", "north");
-    call("QV_UnitAdd", {param});
-    unit_ = text("north");
-    const jobject request = create("LoginRequest");
-    set(request, "user_id", "admin");
-    set(request, "passwd", "quorvel");
-    set(request, "log_string", "");
-    session_ = call("QV_LoginQVAccount", {unit_, request}).result;
-  }
-  ~HostGroups() override { realJvm()->PopLocalFrame(nullptr); }
-
   /// Checks a record that is read in a session, with ints before it or without.
   void inSession(const char* method, const char* className, std::size_t size,
                  const std::vector<Member>& members, const std::vector<int>& ints = {}) {
@@ -183,9 +155,6 @@ class HostGroups : public ::testing::Test {
                 {unit_, session_, number(controller), number(port), number(group), mapping})
         .failure;
   }
-
-  jobject unit_;
-  jobject session_;
 };
 
 TEST_F(HostGroups, Lists) {

@@ -1,11 +1,10 @@
 // iSCSI ports with their targets, initiators and users, in a real Java process.
-#include "tests/real_jvm/real_session.h"
+#include "tests/real_jvm/registered_unit.h"
 
 namespace quorvelj::testing {
 namespace {
 
-using Members = std::vector<Member>;
-using Iscsi = RealSession;
+using Iscsi = RegisteredUnit;
 
 const Members kPort =
     int32sAt(0, {"port_valid", "set_valid"}) +
@@ -32,23 +31,21 @@ const Members kPath{int32At(0, "path_valid"), textAt(4, 9, "other_serial_no"),
 
 const Members kTargetPort =
     int32sAt(0, {"port_valid", "security", "target_max_count", "target_count"}) +
-    placed(16, "target[0].", kTarget) + placed(144288, "target[254].", kTarget);
+    at(16, "target[0].", kTarget) + at(144288, "target[254].", kTarget);
 const Members kInitiatorPort =
     int32sAt(0, {"port_valid", "security", "initiator_max_count", "initiator_count"}) +
-    placed(16, "initiator[0].", kInitiator) + placed(76516, "initiator[255].", kInitiator);
+    at(16, "initiator[0].", kInitiator) + at(76516, "initiator[255].", kInitiator);
 const Members kLoginPort = int32sAt(0, {"port_valid", "initiator_max_count", "initiator_count"}) +
-                           placed(12, "initiator[0].", kLogin) +
-                           placed(58152, "initiator[255].", kLogin);
+                           at(12, "initiator[0].", kLogin) + at(58152, "initiator[255].", kLogin);
 const Members kUserPort = int32sAt(0, {"port_valid", "security", "user_max_count", "user_count"}) +
-                          placed(16, "user[0].", kUser) + placed(169668, "user[511].", kUser);
+                          at(16, "user[0].", kUser) + at(169668, "user[511].", kUser);
 
 /// The first and the last port of each controller.
 Members ports(const Members& port, std::size_t first, std::size_t portBytes,
               std::size_t controllerBytes) {
-  return placed(first, "ctl[0].port[0].", port) +
-         placed(first + 7 * portBytes, "ctl[0].port[7].", port) +
-         placed(first + controllerBytes, "ctl[1].port[0].", port) +
-         placed(first + controllerBytes + 7 * portBytes, "ctl[1].port[7].", port);
+  return at(first, "ctl[0].port[0].", port) + at(first + 7 * portBytes, "ctl[0].port[7].", port) +
+         at(first + controllerBytes, "ctl[1].port[0].", port) +
+         at(first + controllerBytes + 7 * portBytes, "ctl[1].port[7].", port);
 }
 
 TEST_F(Iscsi, ResultRecords) {
@@ -66,13 +63,12 @@ TEST_F(Iscsi, ResultRecords) {
   expectBuilt("QV_GetiSNSInformation", arguments, 896, ports(kServer, 0, 56, 448));
   expectBuilt("QV_GetiSCSIPingStatus", arguments, 1024, ports(kPing, 0, 64, 512));
   expectBuilt("QV_GetiSCSIRemotePath", arguments, 640,
-              placed(0, "arrayunit[0].", kPath) + placed(560, "arrayunit[7].", kPath));
+              at(0, "arrayunit[0].", kPath) + at(560, "arrayunit[7].", kPath));
 
   const std::vector<jobject> ofPort{unit_, session_, number(1), number(6)};
   expectBuilt("QV_GetiSCSIInitiatorInformation", ofPort, 76820,
-              option + placed(4, "port.", kInitiatorPort));
-  expectBuilt("QV_GetiSCSICHAPUserInformation", ofPort, 170004,
-              option + placed(4, "port.", kUserPort));
+              option + at(4, "port.", kInitiatorPort));
+  expectBuilt("QV_GetiSCSICHAPUserInformation", ofPort, 170004, option + at(4, "port.", kUserPort));
 }
 
 TEST_F(Iscsi, RequestRecords) {
@@ -87,7 +83,7 @@ TEST_F(Iscsi, RequestRecords) {
     const int parameter = 2 + static_cast<int>(numbers.size());
     expectRead(method, arguments, object, parameter, size, members);
     for (int index = 2; index < parameter; ++index) {
-      EXPECT_EQ(lastNumber(method, index), numbers[static_cast<std::size_t>(index - 2)]) << method;
+      EXPECT_EQ(lastInt(method, index), numbers[static_cast<std::size_t>(index - 2)]) << method;
     }
   };
   inSession("QV_SetiSCSIPortInformation", "QViSCSIPortInformation", 2688,
@@ -108,7 +104,7 @@ TEST_F(Iscsi, RequestRecords) {
 TEST_F(Iscsi, PlainArguments) {
   const auto expectNumbers = [](const char* method, const std::vector<int>& numbers) {
     for (std::size_t index = 0; index < numbers.size(); ++index) {
-      EXPECT_EQ(lastNumber(method, static_cast<int>(index) + 2), numbers[index]) << method;
+      EXPECT_EQ(lastInt(method, static_cast<int>(index) + 2), numbers[index]) << method;
     }
   };
   call("QV_InitiSCSITarget", {unit_, session_, number(-1), number(7)});

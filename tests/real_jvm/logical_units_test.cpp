@@ -1,10 +1,10 @@
 // Logical units and the work on them in a real Java process.
-#include "tests/real_jvm/storage_fixture.h"
+#include "tests/real_jvm/registered_unit.h"
 
 namespace quorvelj::testing {
 namespace {
 
-using LogicalUnits = StorageTest;
+using LogicalUnits = RegisteredUnit;
 
 const std::vector<const char*> kLogicalUnit{"luNumber",
                                             "rgNumber",
@@ -42,23 +42,28 @@ const std::vector<const char*> kOwner{"lu_num", "rg_num",    "lu_type",    "d_ct
                                       "c_ctl",  "cache_num", "cpucore_num"};
 
 TEST_F(LogicalUnits, BuiltRecords) {
-  expectBuilt("QV_GetLogicalUnit", {unit_, session_}, 786432,
-              int32sIn("[0].", 0, kLogicalUnit) + int32sIn("[8191].", 786336, kLogicalUnit));
+  expectBuilt(
+      "QV_GetLogicalUnit", {unit_, session_}, 786432,
+      at(0, "[0].", int32sAt(0, kLogicalUnit)) + at(786336, "[8191].", int32sAt(0, kLogicalUnit)));
   expectBuilt("QV_GetLogicalUnit1", {unit_, session_, number(0)}, 96, int32sAt(0, kLogicalUnit));
   expectBuilt("QV_GetFormatStatusList", {unit_}, 40972,
-              int32sAt(0, {"mode", "totalpercent", "resttime"}) + int32sIn("lu[0].", 12, kFormat) +
-                  int32sIn("lu[2047].", 40952, kFormat));
-  expectBuilt("QV_LogicalUnitFormatStatusList", {unit_}, 32768,
-              int32sIn("lu[0].", 0, kLuFormat) + int32sIn("lu[2047].", 32752, kLuFormat));
+              int32sAt(0, {"mode", "totalpercent", "resttime"}) +
+                  at(12, "lu[0].", int32sAt(0, kFormat)) +
+                  at(40952, "lu[2047].", int32sAt(0, kFormat)));
+  expectBuilt(
+      "QV_LogicalUnitFormatStatusList", {unit_}, 32768,
+      at(0, "lu[0].", int32sAt(0, kLuFormat)) + at(32752, "lu[2047].", int32sAt(0, kLuFormat)));
   expectBuilt("QV_GetQuickFormatOption", {unit_, session_}, 16, int32sAt(0, kOption));
   expectBuilt("QV_GetQuickFormatStatusList", {unit_, session_}, 131080,
-              int32sAt(0, {"priority_mode", "format_mode"}) + int32sIn("lu[0].", 8, kQuickFormat) +
-                  int32sIn("lu[8191].", 131064, kQuickFormat));
-  expectBuilt("QV_GetParityCorrectionStatusList", {unit_, session_}, 98304,
-              int32sIn("lu[0].", 0, kCorrection) + int32sIn("lu[8191].", 98292, kCorrection));
+              int32sAt(0, {"priority_mode", "format_mode"}) +
+                  at(8, "lu[0].", int32sAt(0, kQuickFormat)) +
+                  at(131064, "lu[8191].", int32sAt(0, kQuickFormat)));
+  expectBuilt(
+      "QV_GetParityCorrectionStatusList", {unit_, session_}, 98304,
+      at(0, "lu[0].", int32sAt(0, kCorrection)) + at(98292, "lu[8191].", int32sAt(0, kCorrection)));
   expectBuilt("QV_GetLuOwnership", {unit_, session_}, 229380,
-              int32sAt(0, {"count"}) + int32sIn("lu[0].", 4, kOwner) +
-                  int32sIn("lu[8191].", 229352, kOwner));
+              int32sAt(0, {"count"}) + at(4, "lu[0].", int32sAt(0, kOwner)) +
+                  at(229352, "lu[8191].", int32sAt(0, kOwner)));
 }
 
 TEST_F(LogicalUnits, ReadRecords) {
@@ -91,45 +96,37 @@ TEST_F(LogicalUnits, ReadRecords) {
   set(formats, "lu[2047]", "-1");
   set(formats, "lu[2048]", "7");
   quorvelSimForceResult("QV_EntryFormatList", 0, 1);
-  EXPECT_EQ(change("QV_EntryFormatList", {unit_, formats}), "");
-  EXPECT_EQ(input("QV_EntryFormatList", 1), std::string(2047, '\0') + '\xFF');
+  EXPECT_EQ(call("QV_EntryFormatList", {unit_, formats}).failure, "");
+  EXPECT_EQ(lastInput("QV_EntryFormatList", 1), std::string(2047, '\0') + '\xFF');
   const jobject quickFormats = create("QuickFormatEntryList");
   set(quickFormats, "lu[8191]", "-128");
   set(quickFormats, "lu[8192]", "7");
   quorvelSimForceResult("QV_EntryQuickFormatList", 0, 1);
-  EXPECT_EQ(change("QV_EntryQuickFormatList", {unit_, session_, quickFormats}), "");
-  EXPECT_EQ(input("QV_EntryQuickFormatList", 2), std::string(8191, '\0') + '\x80');
+  EXPECT_EQ(call("QV_EntryQuickFormatList", {unit_, session_, quickFormats}).failure, "");
+  EXPECT_EQ(lastInput("QV_EntryQuickFormatList", 2), std::string(8191, '\0') + '\x80');
 }
 
 TEST_F(LogicalUnits, Arguments) {
-  expectArguments({{"QV_GetLogicalUnit", true, 0},
-                   {"QV_GetLogicalUnit1", true, 1},
-                   {"QV_GetLastLogicalUnit", false, 0},
-                   {"QV_CreateLogicalUnit", true, 0, "LogicalUnitCreationRequest"},
-                   {"QV_LogicalUnitAdd", true, 0, "LogicalUnit"},
-                   {"QV_LogicalUnitDelete", false, 0},
-                   {"QV_LogicalUnitDeleteAll", false, 0},
-                   {"QV_LogicalUnitDeleteByLUN", true, 1},
-                   {"QV_LogicalUnitExpand", false, 2},
-                   {"QV_LogicalUnitChangeStaging", true, 2},
-                   {"QV_LogicalUnitChangeCtl", true, 1},
-                   {"QV_LogicalUnitInvalid", false, 1},
-                   {"QV_LogicalUnitRestore", false, 1},
-                   {"QV_LogicalUnitRealloc", false, 0, "LogicalUnitReallocationRequest"},
-                   {"QV_LogicalUnitFormat", false, 2},
-                   {"QV_LogicalUnitFormatStatus", false, 1},
-                   {"QV_LogicalUnitFormatImmediateCTL", false, 2},
-                   {"QV_LogicalUnitFormatStatusList", false, 0},
-                   {"QV_EntryFormatList", false, 0, "FormatEntryList"},
-                   {"QV_GetFormatStatusList", false, 0},
-                   {"QV_GetQuickFormatOption", true, 0},
-                   {"QV_SetQuickFormatOption", true, 0, "QuickFormatOption"},
-                   {"QV_EntryQuickFormatList", true, 0, "QuickFormatEntryList"},
-                   {"QV_GetQuickFormatStatusList", true, 0},
-                   {"QV_EntryParityCorrectionList", true, 0, "ParityCorrectionRequest"},
-                   {"QV_GetParityCorrectionStatusList", true, 0},
-                   {"QV_GetLuOwnership", true, 0},
-                   {"QV_SetLuOwnership", true, 0, "LuOwnershipInfo"}});
+  expectPassed("QV_GetLogicalUnit", "us");
+  expectPassed("QV_GetLogicalUnit1", "usi");
+  expectPassed("QV_GetLastLogicalUnit", "u");
+  expectPassed("QV_LogicalUnitDelete", "u");
+  expectPassed("QV_LogicalUnitDeleteAll", "u");
+  expectPassed("QV_LogicalUnitDeleteByLUN", "usi");
+  expectPassed("QV_LogicalUnitExpand", "uii");
+  expectPassed("QV_LogicalUnitChangeStaging", "usii");
+  expectPassed("QV_LogicalUnitChangeCtl", "usi");
+  expectPassed("QV_LogicalUnitInvalid", "ui");
+  expectPassed("QV_LogicalUnitRestore", "ui");
+  expectPassed("QV_LogicalUnitFormat", "uii");
+  expectPassed("QV_LogicalUnitFormatStatus", "ui");
+  expectPassed("QV_LogicalUnitFormatImmediateCTL", "uii");
+  expectPassed("QV_LogicalUnitFormatStatusList", "u");
+  expectPassed("QV_GetFormatStatusList", "u");
+  expectPassed("QV_GetQuickFormatOption", "us");
+  expectPassed("QV_GetQuickFormatStatusList", "us");
+  expectPassed("QV_GetParityCorrectionStatusList", "us");
+  expectPassed("QV_GetLuOwnership", "us");
 }
 
 TEST_F(LogicalUnits, WrittenIntsAreReturned) {
@@ -139,7 +136,7 @@ TEST_F(LogicalUnits, WrittenIntsAreReturned) {
            {"QV_LogicalUnitFormatStatus", {unit_, number(1)}},
            {"QV_LogicalUnitFormatImmediateCTL", {unit_, number(1), number(2)}}}) {
     quorvelSimPrepareOutput(method, &written, sizeof written);
-    EXPECT_EQ(ask(method, arguments, ""), "-20");
+    EXPECT_EQ(get(call(method, arguments).result, ""), "-20");
   }
 }
 
@@ -147,16 +144,17 @@ TEST_F(LogicalUnits, WrittenIntsAreReturned) {
 TEST_F(LogicalUnits, ShortArrays) {
   const auto expectBounds = [&](const char* method, const std::vector<jobject>& arguments) {
     quorvelSimForceResult(method, 0, 1);
-    EXPECT_TRUE(change(method, arguments).starts_with("ArrayIndexOutOfBoundsException")) << method;
+    EXPECT_TRUE(call(method, arguments).failure.starts_with("ArrayIndexOutOfBoundsException"))
+        << method;
     quorvelSimForceResult(method, 20503, 1);
-    EXPECT_EQ(change(method, arguments), "DiskArrayException 20503") << method;
+    EXPECT_EQ(call(method, arguments).failure, "DiskArrayException 20503") << method;
     EXPECT_EQ(quorvelSimCallCount(method), 2) << method;
   };
   const jobject creation = create("LogicalUnitCreationRequest");
   set(creation, "befor_lun_count", "500");
   setLength(creation, "befor_lun", 127);
   expectBounds("QV_CreateLogicalUnit", {unit_, session_, creation});
-  EXPECT_EQ(inputInt("QV_CreateLogicalUnit", 2, 16), 500);
+  EXPECT_EQ(lastInt("QV_CreateLogicalUnit", 2, 16), 500);
   const jobject correction = create("ParityCorrectionRequest");
   setLength(correction, "lu", 8191);
   expectBounds("QV_EntryParityCorrectionList", {unit_, session_, correction});
@@ -170,7 +168,7 @@ TEST_F(LogicalUnits, ShortArrays) {
 
 TEST_F(LogicalUnits, OnlyOneListTakesANullName) {
   EXPECT_EQ(call("QV_LogicalUnitFormatStatusList", {nullptr}).failure, "DiskArrayException 20001");
-  EXPECT_EQ(input("QV_LogicalUnitFormatStatusList", 0), std::string(65, '\0'));
+  EXPECT_EQ(lastInput("QV_LogicalUnitFormatStatusList", 0), std::string(65, '\0'));
   for (const char* const method : {"QV_GetFormatStatusList", "QV_GetLastLogicalUnit"}) {
     EXPECT_EQ(call(method, {nullptr}).failure, "DiskArrayException 258");
     EXPECT_EQ(quorvelSimCallCount(method), 0);
@@ -190,35 +188,37 @@ TEST_F(LogicalUnits, CreatedChangedAndDeleted) {
   EXPECT_EQ(get(list, "[8191].capacity_l"), "-2147483648");
   EXPECT_EQ(get(list, "[5].befor_lun"), "8191");
   EXPECT_EQ(get(list, "[5].rg_last_lu"), "1");
-  EXPECT_EQ(ask("QV_GetLastLogicalUnit", {unit_}, ""), "8191");
+  EXPECT_EQ(get(call("QV_GetLastLogicalUnit", {unit_}).result, ""), "8191");
 
-  EXPECT_EQ(change("QV_LogicalUnitExpand", {unit_, number(5), number(3)}), "");
-  EXPECT_EQ(change("QV_LogicalUnitChangeStaging", {unit_, session_, number(5), number(2)}), "");
-  EXPECT_EQ(change("QV_LogicalUnitChangeCtl", {unit_, session_, number(5)}), "");
-  EXPECT_EQ(change("QV_LogicalUnitInvalid", {unit_, number(5)}), "");
+  EXPECT_EQ(call("QV_LogicalUnitExpand", {unit_, number(5), number(3)}).failure, "");
+  EXPECT_EQ(call("QV_LogicalUnitChangeStaging", {unit_, session_, number(5), number(2)}).failure,
+            "");
+  EXPECT_EQ(call("QV_LogicalUnitChangeCtl", {unit_, session_, number(5)}).failure, "");
+  EXPECT_EQ(call("QV_LogicalUnitInvalid", {unit_, number(5)}).failure, "");
   const jobject changed = call("QV_GetLogicalUnit1", {unit_, session_, number(5)}).result;
   EXPECT_EQ(get(changed, "capacity"), "8192");
   EXPECT_EQ(get(changed, "staging"), "2");
   EXPECT_EQ(get(changed, "currentCTL"), "1");
   EXPECT_EQ(get(changed, "status"), "2");
-  EXPECT_EQ(change("QV_LogicalUnitRestore", {unit_, number(5)}), "");
-  EXPECT_EQ(ask("QV_GetLogicalUnit1", {unit_, session_, number(5)}, "status"), "0");
+  EXPECT_EQ(call("QV_LogicalUnitRestore", {unit_, number(5)}).failure, "");
+  EXPECT_EQ(get(call("QV_GetLogicalUnit1", {unit_, session_, number(5)}).result, "status"), "0");
 
   const jobject owner = create("LuOwnershipInfo");
-  setAll(owner, {{"lu_num", 5}, {"d_ctl", 1}, {"c_ctl", 0}});
-  EXPECT_EQ(change("QV_SetLuOwnership", {unit_, session_, owner}), "");
+  set(owner, {{"lu_num", "5"}, {"d_ctl", "1"}, {"c_ctl", "0"}});
+  EXPECT_EQ(call("QV_SetLuOwnership", {unit_, session_, owner}).failure, "");
   const jobject owners = call("QV_GetLuOwnership", {unit_, session_}).result;
   EXPECT_EQ(get(owners, "count"), "2");
   EXPECT_EQ(get(owners, "lu"), "LuOwnershipInfo[8192]");
   EXPECT_EQ(get(owners, "lu[0].d_ctl"), "1");
 
   const jobject reallocation = create("LogicalUnitReallocationRequest");
-  setAll(reallocation, {{"lun", 5}, {"lusize", 2}, {"newlun", 6}});
-  EXPECT_EQ(change("QV_LogicalUnitRealloc", {unit_, reallocation}), "");
-  EXPECT_EQ(ask("QV_GetLogicalUnit1", {unit_, session_, number(6)}, "capacity"), "4096");
-  EXPECT_EQ(change("QV_LogicalUnitDelete", {unit_}), "");
-  EXPECT_EQ(change("QV_LogicalUnitDeleteByLUN", {unit_, session_, number(6)}), "");
-  EXPECT_EQ(change("QV_LogicalUnitDelete", {unit_}), "DiskArrayException 20501");
+  set(reallocation, {{"lun", "5"}, {"lusize", "2"}, {"newlun", "6"}});
+  EXPECT_EQ(call("QV_LogicalUnitRealloc", {unit_, reallocation}).failure, "");
+  EXPECT_EQ(get(call("QV_GetLogicalUnit1", {unit_, session_, number(6)}).result, "capacity"),
+            "4096");
+  EXPECT_EQ(call("QV_LogicalUnitDelete", {unit_}).failure, "");
+  EXPECT_EQ(call("QV_LogicalUnitDeleteByLUN", {unit_, session_, number(6)}).failure, "");
+  EXPECT_EQ(call("QV_LogicalUnitDelete", {unit_}).failure, "DiskArrayException 20501");
 }
 
 // The areas behind the LUs of a list are joined into one LU.
@@ -228,14 +228,14 @@ TEST_F(LogicalUnits, MadeOfScatteredAreas) {
     EXPECT_EQ(createLu(lun, 0, 0, 4096), "");
   }
   for (const int lun : {1, 3}) {
-    change("QV_LogicalUnitDeleteByLUN", {unit_, session_, number(lun)});
+    call("QV_LogicalUnitDeleteByLUN", {unit_, session_, number(lun)}).failure;
   }
   const jobject request = create("LogicalUnitCreationRequest");
-  setAll(request, {{"luNumber", 9}, {"lu_capacity_l", 8192}, {"befor_lun_count", 2}});
+  set(request, {{"luNumber", "9"}, {"lu_capacity_l", "8192"}, {"befor_lun_count", "2"}});
   set(request, "befor_lun[1]", "2");
   setLength(request, "befor_lun", 128);
   set(request, "befor_lun[1]", "2");
-  EXPECT_EQ(change("QV_CreateLogicalUnit", {unit_, session_, request}), "");
+  EXPECT_EQ(call("QV_CreateLogicalUnit", {unit_, session_, request}).failure, "");
   const jobject areas = call("QV_GetRGAreaInformation", {unit_, session_, number(0)}).result;
   EXPECT_EQ(get(areas, "area_count"), "5");
   EXPECT_EQ(get(areas, "area[1].lun"), "9");
@@ -247,30 +247,31 @@ TEST_F(LogicalUnits, WorkGetsOnWithEachQuestion) {
   createGroup(0);
   createLu(0, 0, 0, 2048);
   createLu(1, 0, 0, 2048);
-  EXPECT_EQ(change("QV_LogicalUnitFormat", {unit_, number(0), number(0)}), "");
+  EXPECT_EQ(call("QV_LogicalUnitFormat", {unit_, number(0), number(0)}).failure, "");
   for (const char* const percent : {"25", "50", "75", "100", "100"}) {
-    EXPECT_EQ(ask("QV_LogicalUnitFormatStatus", {unit_, number(0)}, ""), percent);
+    EXPECT_EQ(get(call("QV_LogicalUnitFormatStatus", {unit_, number(0)}).result, ""), percent);
   }
-  EXPECT_EQ(ask("QV_LogicalUnitFormatImmediateCTL", {unit_, number(0), number(1)}, ""), "100");
+  EXPECT_EQ(get(call("QV_LogicalUnitFormatImmediateCTL", {unit_, number(0), number(1)}).result, ""),
+            "100");
 
   const jobject entries = create("FormatEntryList");
   setLength(entries, "lu", 2048);
   set(entries, "lu[0]", "1");
   set(entries, "lu[1]", "1");
-  EXPECT_EQ(change("QV_EntryFormatList", {unit_, entries}), "");
-  EXPECT_EQ(ask("QV_GetFormatStatusList", {unit_}, "totalpercent"), "25");
-  EXPECT_EQ(ask("QV_LogicalUnitFormatStatusList", {unit_}, "lu[1].percent"), "50");
-  EXPECT_EQ(ask("QV_GetFormatStatusList", {unit_}, "resttime"), "5");
-  EXPECT_EQ(ask("QV_GetFormatStatusList", {unit_}, "mode"), "0");
+  EXPECT_EQ(call("QV_EntryFormatList", {unit_, entries}).failure, "");
+  EXPECT_EQ(get(call("QV_GetFormatStatusList", {unit_}).result, "totalpercent"), "25");
+  EXPECT_EQ(get(call("QV_LogicalUnitFormatStatusList", {unit_}).result, "lu[1].percent"), "50");
+  EXPECT_EQ(get(call("QV_GetFormatStatusList", {unit_}).result, "resttime"), "5");
+  EXPECT_EQ(get(call("QV_GetFormatStatusList", {unit_}).result, "mode"), "0");
 
   const jobject quickEntries = create("QuickFormatEntryList");
   setLength(quickEntries, "lu", 8192);
   set(quickEntries, "lu[0]", "1");
   set(quickEntries, "lu[1]", "1");
-  EXPECT_EQ(change("QV_EntryQuickFormatList", {unit_, session_, quickEntries}), "");
+  EXPECT_EQ(call("QV_EntryQuickFormatList", {unit_, session_, quickEntries}).failure, "");
   const jobject option = create("QuickFormatOption");
   set(option, "priority_mode", "2");
-  EXPECT_EQ(change("QV_SetQuickFormatOption", {unit_, session_, option}), "");
+  EXPECT_EQ(call("QV_SetQuickFormatOption", {unit_, session_, option}).failure, "");
   const jobject quick = call("QV_GetQuickFormatStatusList", {unit_, session_}).result;
   EXPECT_EQ(get(quick, "priority_mode"), "2");
   EXPECT_EQ(get(quick, "lu[0].percent"), "25");
@@ -280,8 +281,10 @@ TEST_F(LogicalUnits, WorkGetsOnWithEachQuestion) {
   setLength(correction, "lu", 8192);
   set(correction, "lu_count", "1");
   set(correction, "lu[0]", "1");
-  EXPECT_EQ(change("QV_EntryParityCorrectionList", {unit_, session_, correction}), "");
-  EXPECT_EQ(ask("QV_GetParityCorrectionStatusList", {unit_, session_}, "lu[1].percent"), "25");
+  EXPECT_EQ(call("QV_EntryParityCorrectionList", {unit_, session_, correction}).failure, "");
+  EXPECT_EQ(
+      get(call("QV_GetParityCorrectionStatusList", {unit_, session_}).result, "lu[1].percent"),
+      "25");
 }
 
 }  // namespace

@@ -1,10 +1,10 @@
 // Pools, virtual volumes and special LUs in a real Java process.
-#include "tests/real_jvm/storage_fixture.h"
+#include "tests/real_jvm/registered_unit.h"
 
 namespace quorvelj::testing {
 namespace {
 
-using PoolsAndSpecialLus = StorageTest;
+using PoolsAndSpecialLus = RegisteredUnit;
 
 const std::vector<const char*> kPool{"pool_no",    "pool_status", "allcapa_h", "allcapa_l",
                                      "usedcapa_h", "usedcapa_l",  "used_rate", "threshold",
@@ -22,7 +22,7 @@ const std::vector<const char*> kGuard{"lu_valid",     "capacity",           "cap
 
 /// A pool from its first member to its 64th LU.
 std::vector<Member> pool(const std::string& path, std::size_t offset) {
-  return int32sIn(path, offset, kPool) + int32sIn(path, offset + 288, {"lu[63]"});
+  return at(offset, path, int32sAt(0, kPool)) + at(offset + 288, path, int32sAt(0, {"lu[63]"}));
 }
 
 TEST_F(PoolsAndSpecialLus, BuiltRecords) {
@@ -32,24 +32,24 @@ TEST_F(PoolsAndSpecialLus, BuiltRecords) {
                   pool("ctl[1].pool[0].", 304) + int32sAt(596, {"sys.pool_enable_count"}) +
                   pool("sys.pool[0].", 600) + pool("sys.pool[63].", 18996));
   expectBuilt("QV_GetVVOLInformation", {unit_, session_}, 131076,
-              int32sAt(0, {"vvol_count"}) + int32sIn("lu[0].", 4, kVolume) +
-                  int32sIn("lu[8191].", 131060, kVolume));
+              int32sAt(0, {"vvol_count"}) + at(4, "lu[0].", int32sAt(0, kVolume)) +
+                  at(131060, "lu[8191].", int32sAt(0, kVolume)));
   expectBuilt("QV_IntegrationLUInfo", {unit_}, 1056772,
-              int32sAt(0, {"integration_lu"}) + int32sIn("unite_info[0].", 4, kUnited) +
-                  int32sIn("unite_info[0].", 2064, {"child_lun[511]"}) +
-                  int32sIn("unite_info[511].", 1054708, kUnited) +
-                  int32sIn("unite_info[511].", 1056768, {"child_lun[511]"}));
+              int32sAt(0, {"integration_lu"}) + at(4, "unite_info[0].", int32sAt(0, kUnited)) +
+                  at(2064, "unite_info[0].", int32sAt(0, {"child_lun[511]"})) +
+                  at(1054708, "unite_info[511].", int32sAt(0, kUnited)) +
+                  at(1056768, "unite_info[511].", int32sAt(0, {"child_lun[511]"})));
   expectBuilt("QV_IntegrationLUInfo2", {unit_, session_}, 262152,
               int32sAt(0, {"integration_lu", "parent_count", "parent_lu[0]"}) +
                   int32sAt(32772, {"parent_lu[8191]"}) +
-                  int32sIn("unite_info[0].", 32776, kUnited2) +
-                  int32sIn("unite_info[8191].", 262124, kUnited2));
+                  at(32776, "unite_info[0].", int32sAt(0, kUnited2)) +
+                  at(262124, "unite_info[8191].", int32sAt(0, kUnited2)));
   expectBuilt("QV_GetDMLU", {unit_, session_}, 32,
-              int32sAt(0, {"mode", "dmlu_count"}) + int32sIn("dmlu[0].", 8, kManagement) +
-                  int32sIn("dmlu[1].", 20, kManagement));
+              int32sAt(0, {"mode", "dmlu_count"}) + at(8, "dmlu[0].", int32sAt(0, kManagement)) +
+                  at(20, "dmlu[1].", int32sAt(0, kManagement)));
   expectBuilt("QV_GetLuGuardInformation", {unit_, session_}, 393224,
-              int32sAt(0, {"option", "expirationlock"}) + int32sIn("lu[0].", 8, kGuard) +
-                  int32sIn("lu[8191].", 393176, kGuard));
+              int32sAt(0, {"option", "expirationlock"}) + at(8, "lu[0].", int32sAt(0, kGuard)) +
+                  at(393176, "lu[8191].", int32sAt(0, kGuard)));
 }
 
 TEST_F(PoolsAndSpecialLus, ReadRecords) {
@@ -69,8 +69,8 @@ TEST_F(PoolsAndSpecialLus, ReadRecords) {
                  int32sAt(520, {"child_lu[126]"}));
   const jobject management = create("DMLUInformation");
   expectRead("QV_SetDMLU", {unit_, session_, management}, management, 2, 32,
-             int32sAt(0, {"mode", "dmlu_count"}) + int32sIn("dmlu[0].", 8, kManagement) +
-                 int32sIn("dmlu[1].", 20, kManagement));
+             int32sAt(0, {"mode", "dmlu_count"}) + at(8, "dmlu[0].", int32sAt(0, kManagement)) +
+                 at(20, "dmlu[1].", int32sAt(0, kManagement)));
   const jobject level = create("LuAccessLevelRequest");
   expectRead("QV_SetLuAccessLevel", {unit_, session_, level}, level, 2, 12,
              int32sAt(0, {"lu", "access_level", "retention_term"}));
@@ -79,32 +79,26 @@ TEST_F(PoolsAndSpecialLus, ReadRecords) {
   setLength(integration, "child_lu", 126);
   quorvelSimForceResult("QV_PoolLUAddList", 0, 1);
   quorvelSimForceResult("QV_SetIntegrationLU", 0, 1);
-  EXPECT_TRUE(change("QV_PoolLUAddList", {unit_, session_, number(0), number(1), list})
-                  .starts_with("ArrayIndexOutOfBoundsException"));
-  EXPECT_TRUE(change("QV_SetIntegrationLU", {unit_, session_, integration})
-                  .starts_with("ArrayIndexOutOfBoundsException"));
+  EXPECT_TRUE(call("QV_PoolLUAddList", {unit_, session_, number(0), number(1), list})
+                  .failure.starts_with("ArrayIndexOutOfBoundsException"));
+  EXPECT_TRUE(call("QV_SetIntegrationLU", {unit_, session_, integration})
+                  .failure.starts_with("ArrayIndexOutOfBoundsException"));
 }
 
 TEST_F(PoolsAndSpecialLus, Arguments) {
-  expectArguments({{"QV_GetPoolInformation", true, 0},
-                   {"QV_ChangePoolInformation", true, 0, "PoolChangeRequest"},
-                   {"QV_PoolLUAdd", true, 3},
-                   {"QV_PoolLUAddList", true, 2, "PoolLUListRequest"},
-                   {"QV_PoolLUAllDelete", true, 2},
-                   {"QV_CreateVVOL", true, 3},
-                   {"QV_CreateVVOLEx", true, 0, "VvolDetailInformation"},
-                   {"QV_DeleteVVOL", true, 2},
-                   {"QV_GetVVOLInformation", true, 0},
-                   {"QV_IntegrationLUInfo", false, 0},
-                   {"QV_IntegrationLUInfo2", true, 0},
-                   {"QV_SetIntegrationLU", true, 0, "IntegrationRequest"},
-                   {"QV_GetDMLU", true, 0},
-                   {"QV_SetDMLU", true, 0, "DMLUInformation"},
-                   {"QV_GetLuGuardInformation", true, 0},
-                   {"QV_SetLuAccessLevel", true, 0, "LuAccessLevelRequest"},
-                   {"QV_SetSvolDisableMode", true, 2},
-                   {"QV_ExtendRetentionTerm", true, 2},
-                   {"QV_SetExpirationLock", true, 1}});
+  expectPassed("QV_GetPoolInformation", "us");
+  expectPassed("QV_PoolLUAdd", "usiii");
+  expectPassed("QV_PoolLUAllDelete", "usii");
+  expectPassed("QV_CreateVVOL", "usiii");
+  expectPassed("QV_DeleteVVOL", "usii");
+  expectPassed("QV_GetVVOLInformation", "us");
+  expectPassed("QV_IntegrationLUInfo", "u");
+  expectPassed("QV_IntegrationLUInfo2", "us");
+  expectPassed("QV_GetDMLU", "us");
+  expectPassed("QV_GetLuGuardInformation", "us");
+  expectPassed("QV_SetSvolDisableMode", "usii");
+  expectPassed("QV_ExtendRetentionTerm", "usii");
+  expectPassed("QV_SetExpirationLock", "usi");
 }
 
 TEST_F(PoolsAndSpecialLus, Pools) {
@@ -112,14 +106,14 @@ TEST_F(PoolsAndSpecialLus, Pools) {
   for (const int lun : {1, 2, 3}) {
     createLu(lun, 0, 0, INT32_MIN);
   }
-  EXPECT_EQ(change("QV_PoolLUAdd", {unit_, session_, number(2), number(63), number(1)}), "");
-  EXPECT_EQ(change("QV_PoolLUAdd", {unit_, session_, number(2), number(64), number(2)}),
+  EXPECT_EQ(call("QV_PoolLUAdd", {unit_, session_, number(2), number(63), number(1)}).failure, "");
+  EXPECT_EQ(call("QV_PoolLUAdd", {unit_, session_, number(2), number(64), number(2)}).failure,
             "DiskArrayException 20501");
   const jobject list = create("PoolLUListRequest");
   setLength(list, "lu", 64);
-  setAll(list, {{"lu_count", 2}, {"lu[0]", 2}, {"lu[1]", 1}});
+  set(list, {{"lu_count", "2"}, {"lu[0]", "2"}, {"lu[1]", "1"}});
   const auto addList = [&] {
-    return change("QV_PoolLUAddList", {unit_, session_, number(2), number(63), list});
+    return call("QV_PoolLUAddList", {unit_, session_, number(2), number(63), list}).failure;
   };
   EXPECT_EQ(addList(), "DiskArrayException 20504");
   set(list, "lu[1]", "3");
@@ -130,23 +124,23 @@ TEST_F(PoolsAndSpecialLus, Pools) {
   EXPECT_EQ(get(info, "sys.pool[63].allcapa_h"), "1");
   EXPECT_EQ(get(info, "sys.pool[63].allcapa_l"), "-2147483648");
   EXPECT_EQ(get(info, "sys.pool[63].lu").substr(0, 12), "[1, 2, 3, 0,");
-  EXPECT_EQ(change("QV_LogicalUnitDeleteAll", {unit_}), "DiskArrayException 20504");
-  EXPECT_EQ(change("QV_PoolLUAllDelete", {unit_, session_, number(2), number(63)}), "");
-  EXPECT_EQ(change("QV_LogicalUnitDeleteAll", {unit_}), "");
+  EXPECT_EQ(call("QV_LogicalUnitDeleteAll", {unit_}).failure, "DiskArrayException 20504");
+  EXPECT_EQ(call("QV_PoolLUAllDelete", {unit_, session_, number(2), number(63)}).failure, "");
+  EXPECT_EQ(call("QV_LogicalUnitDeleteAll", {unit_}).failure, "");
 }
 
 TEST_F(PoolsAndSpecialLus, VirtualVolumes) {
   const jobject volume = create("VvolDetailInformation");
-  setAll(volume, {{"lun", 8191}, {"capacity_h", 2}, {"capacity_l", -1}});
-  EXPECT_EQ(change("QV_CreateVVOLEx", {unit_, session_, volume}), "");
-  EXPECT_EQ(change("QV_CreateVVOL", {unit_, session_, number(8191), number(0), number(1)}),
+  set(volume, {{"lun", "8191"}, {"capacity_h", "2"}, {"capacity_l", "-1"}});
+  EXPECT_EQ(call("QV_CreateVVOLEx", {unit_, session_, volume}).failure, "");
+  EXPECT_EQ(call("QV_CreateVVOL", {unit_, session_, number(8191), number(0), number(1)}).failure,
             "DiskArrayException 20502");
   const jobject volumes = call("QV_GetVVOLInformation", {unit_, session_}).result;
   EXPECT_EQ(get(volumes, "vvol_count"), "1");
   EXPECT_EQ(get(volumes, "lu"), "VvolDetailInformation[8192]");
   EXPECT_EQ(get(volumes, "lu[0].capacity_h"), "2");
   EXPECT_EQ(get(volumes, "lu[0].capacity_l"), "-1");
-  EXPECT_EQ(change("QV_DeleteVVOL", {unit_, session_, number(8191), number(0)}), "");
+  EXPECT_EQ(call("QV_DeleteVVOL", {unit_, session_, number(8191), number(0)}).failure, "");
 }
 
 TEST_F(PoolsAndSpecialLus, IntegratedLus) {
@@ -156,10 +150,11 @@ TEST_F(PoolsAndSpecialLus, IntegratedLus) {
   }
   const jobject request = create("IntegrationRequest");
   setLength(request, "child_lu", 127);
-  setAll(request, {{"child_count", 2}, {"child_lu[0]", 8191}, {"child_lu[1]", 8191}});
-  EXPECT_EQ(change("QV_SetIntegrationLU", {unit_, session_, request}), "DiskArrayException 20504");
+  set(request, {{"child_count", "2"}, {"child_lu[0]", "8191"}, {"child_lu[1]", "8191"}});
+  EXPECT_EQ(call("QV_SetIntegrationLU", {unit_, session_, request}).failure,
+            "DiskArrayException 20504");
   set(request, "child_lu[1]", "1");
-  EXPECT_EQ(change("QV_SetIntegrationLU", {unit_, session_, request}), "");
+  EXPECT_EQ(call("QV_SetIntegrationLU", {unit_, session_, request}).failure, "");
   const jobject info = call("QV_IntegrationLUInfo", {unit_}).result;
   EXPECT_EQ(get(info, "unite_info"), "UniteLU[512]");
   EXPECT_EQ(get(info, "unite_info[0].child_lu_count"), "2");
@@ -176,21 +171,22 @@ TEST_F(PoolsAndSpecialLus, IntegratedLus) {
 TEST_F(PoolsAndSpecialLus, ManagementAndGuard) {
   const jobject management = create("DMLUInformation");
   set(management, "dmlu[1].dmlu_lu", "4095");
-  EXPECT_EQ(change("QV_SetDMLU", {unit_, session_, management}), "");
-  EXPECT_EQ(ask("QV_GetDMLU", {unit_, session_}, "dmlu[1].dmlu_lu"), "4095");
+  EXPECT_EQ(call("QV_SetDMLU", {unit_, session_, management}).failure, "");
+  EXPECT_EQ(get(call("QV_GetDMLU", {unit_, session_}).result, "dmlu[1].dmlu_lu"), "4095");
 
   createGroup(0);
   createLu(9, 0, 1, 0);
   const jobject level = create("LuAccessLevelRequest");
-  setAll(level, {{"lu", 9}, {"access_level", 1}, {"retention_term", 30}});
-  EXPECT_EQ(change("QV_SetLuAccessLevel", {unit_, session_, level}), "");
+  set(level, {{"lu", "9"}, {"access_level", "1"}, {"retention_term", "30"}});
+  EXPECT_EQ(call("QV_SetLuAccessLevel", {unit_, session_, level}).failure, "");
   set(level, "access_level", "0");
-  EXPECT_EQ(change("QV_SetLuAccessLevel", {unit_, session_, level}), "DiskArrayException 20504");
+  EXPECT_EQ(call("QV_SetLuAccessLevel", {unit_, session_, level}).failure,
+            "DiskArrayException 20504");
   const std::vector<jobject> shorter{unit_, session_, number(9), number(29)};
-  EXPECT_EQ(change("QV_ExtendRetentionTerm", shorter), "DiskArrayException 20504");
-  EXPECT_EQ(change("QV_ExtendRetentionTerm", {unit_, session_, number(9), number(31)}), "");
-  EXPECT_EQ(change("QV_SetSvolDisableMode", {unit_, session_, number(9), number(1)}), "");
-  EXPECT_EQ(change("QV_SetExpirationLock", {unit_, session_, number(1)}), "");
+  EXPECT_EQ(call("QV_ExtendRetentionTerm", shorter).failure, "DiskArrayException 20504");
+  EXPECT_EQ(call("QV_ExtendRetentionTerm", {unit_, session_, number(9), number(31)}).failure, "");
+  EXPECT_EQ(call("QV_SetSvolDisableMode", {unit_, session_, number(9), number(1)}).failure, "");
+  EXPECT_EQ(call("QV_SetExpirationLock", {unit_, session_, number(1)}).failure, "");
   const jobject guards = call("QV_GetLuGuardInformation", {unit_, session_}).result;
   EXPECT_EQ(get(guards, "expirationlock"), "1");
   EXPECT_EQ(get(guards, "lu"), "LuGuard[8192]");

@@ -1,10 +1,10 @@
 // SNMP configurations in a real Java process.
-#include "tests/real_jvm/unit_in_session.h"
+#include "tests/real_jvm/registered_unit.h"
 
 namespace quorvelj::testing {
 namespace {
 
-using Snmp = UnitInSession;
+using Snmp = RegisteredUnit;
 
 TEST_F(Snmp, RecordsAndArguments) {
   expectPassed("QV_LoadSnmpConfig", "pp");

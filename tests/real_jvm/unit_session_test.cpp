@@ -6,13 +6,23 @@ namespace {
 
 class UnitSession : public RegisteredUnit {
  protected:
+  static Members within(const std::string& prefix, const Members& members) {
+    return at(0, prefix, members);
+  }
+  static Members joined(const std::vector<Members>& lists) {
+    Members all;
+    for (const Members& list : lists) {
+      all = all + list;
+    }
+    return all;
+  }
   static jobject user(const char* name, const char* password) {
     const jobject created = create("ArrayUser");
     set(created, "user", name);
     set(created, "passwd", password);
     return created;
   }
-  Called login(const char* name, const char* password) {
+  Called loginOfUser(const char* name, const char* password) {
     return call("QV_LoginQVUnit", {unit_, number(1), user(name, password)});
   }
 };
@@ -120,12 +130,12 @@ TEST_F(UnitSession, UnitRecords) {
 
 TEST_F(UnitSession, AssumedRecords) {
   expectFromUnit("QV_GetUnitIdentifier", 40, {textAt(0, 5, "equipment_id")});
-  expectToUnit("QV_SetUnitIdentifier", "UnitIdentifier", 40, {textAt(0, 5, "equipment_id")});
+  expectRequest("QV_SetUnitIdentifier", "UnitIdentifier", 40, {textAt(0, 5, "equipment_id")});
   const jobject identifier = call("QV_GetUnitIdentifier", {unit_, session_}).result;
   EXPECT_EQ(get(identifier, "ctl"), "ControllerInfo[2]");
   EXPECT_NE(get(identifier, "ctl[1]"), "null");
   EXPECT_NE(call("QV_GetTimeInfo", {unit_, session_}).result, nullptr);
-  expectToUnit("QV_SetTimeInfo", "TimeInfo", 660, {});
+  expectRequest("QV_SetTimeInfo", "TimeInfo", 660, {});
 }
 
 TEST_F(UnitSession, LoginsReturnTwoTexts) {
@@ -162,26 +172,26 @@ TEST_F(UnitSession, LoginsReturnTwoTexts) {
 }
 
 TEST_F(UnitSession, ArrayUsers) {
-  EXPECT_EQ(login("eve", "apple").result, nullptr);
+  EXPECT_EQ(loginOfUser("eve", "apple").result, nullptr);
   EXPECT_EQ(call("QV_RegistUser", {unit_, number(0), user("eve", "apple")}).failure, "");
   EXPECT_EQ(call("QV_RegistUser", {unit_, number(0), user("eve", "pear")}).failure,
             "DiskArrayException 20104");
-  EXPECT_EQ(login("eve", "pear").failure, "DiskArrayException 20102");
+  EXPECT_EQ(loginOfUser("eve", "pear").failure, "DiskArrayException 20102");
   EXPECT_EQ(get(call("QV_CheckLogin", {unit_, number(1)}).result, ""), "0");
-  EXPECT_EQ(get(login("eve", "apple").result, "[0]"), "eve");
+  EXPECT_EQ(get(loginOfUser("eve", "apple").result, "[0]"), "eve");
   EXPECT_EQ(get(call("QV_CheckLogin", {unit_, number(1)}).result, ""), "1");
   EXPECT_EQ(get(call("QV_GetLoginUser", {unit_, number(1)}).result, "[1]"), "apple");
   EXPECT_EQ(call("QV_GetLoginUser", {unit_, number(2)}).result, nullptr);
   EXPECT_EQ(call("QV_LogoutQVUnit", {unit_, number(1)}).failure, "");
   EXPECT_EQ(call("QV_GetLoginUser", {unit_, number(1)}).result, nullptr);
-  login("eve", "apple");
+  loginOfUser("eve", "apple");
   EXPECT_EQ(call("QV_ResetLogin", {unit_, number(1)}).failure, "");
   EXPECT_EQ(get(call("QV_CheckLogin", {unit_, number(1)}).result, ""), "0");
 
   const jobject other = user("bob", "pear");
   EXPECT_EQ(call("QV_ChangeUser", {unit_, number(0), user("eve", "apple"), other}).failure, "");
-  EXPECT_EQ(login("eve", "apple").failure, "DiskArrayException 20102");
-  EXPECT_EQ(get(login("bob", "pear").result, "[0]"), "bob");
+  EXPECT_EQ(loginOfUser("eve", "apple").failure, "DiskArrayException 20102");
+  EXPECT_EQ(get(loginOfUser("bob", "pear").result, "[0]"), "bob");
   call("QV_RegistUser", {unit_, number(0), user("eve", "apple")});
   EXPECT_EQ(get(call("QV_GetUserInformation", {unit_, number(4)}).result, "num"), "2");
   EXPECT_EQ(call("QV_DeleteUser", {unit_, number(0), other}).failure, "");
@@ -241,7 +251,7 @@ TEST_F(UnitSession, Clock) {
   const std::vector<Member> time = int32sAt(0, {"tm_sec", "tm_min", "tm_hour", "tm_mday", "tm_mon",
                                                 "tm_year", "tm_wday", "tm_yday", "tm_isdst"});
   expectFromUnit("QV_GetUnitTime", 36, time);
-  expectToUnit("QV_SetUnitTime", "QVTime", 36, time);
+  expectRequest("QV_SetUnitTime", "QVTime", 36, time);
 
   EXPECT_EQ(get(call("QV_GetUnitTime", {unit_, session_}).result, "tm_year"), "112");
   const jobject set9 = create("QVTime");
