@@ -10,6 +10,7 @@
 #include <fstream>
 #include <iterator>
 #include <set>
+#include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -27,6 +28,23 @@ using Fields = std::vector<std::pair<std::string, std::string>>;
 inline Members operator+(Members left, const Members& right) {
   left.insert(left.end(), right.begin(), right.end());
   return left;
+}
+
+/// Consecutive texts of one width, and consecutive ints: their names, parted by spaces.
+inline Members textsAt(std::size_t offset, std::size_t width, const char* names) {
+  std::istringstream words(names);
+  Members members;
+  for (std::string name; words >> name; offset += width) {
+    members.push_back(textAt(offset, width, name.c_str()));
+  }
+  return members;
+}
+inline Members int32sAt(std::size_t offset, const char* names) {
+  Members members = textsAt(offset, 4, names);
+  for (Member& member : members) {
+    member.kind = Member::Kind::kInt32;
+  }
+  return members;
 }
 
 /// The members of a record that lies at an offset of another, and in Java at a path, "rg[199].".
