@@ -66,6 +66,7 @@ TEST_F(LogicalUnits, ReadRecords) {
 
   const jobject formats = create("FormatEntryList", {{"lu[2048]", "7"}});
   expectRead("QV_EntryFormatList", {unit_, formats}, formats, 1, 2048, {bytesAt(0, 2048, "lu")});
+  EXPECT_EQ(lastText("QV_EntryFormatList", 0), "north");
   setLength(formats, "lu", 2047);
   expectTooShort("QV_EntryFormatList", {unit_, formats});
   const jobject quick = create("QuickFormatEntryList", {{"lu[8192]", "7"}});
@@ -76,6 +77,7 @@ TEST_F(LogicalUnits, ReadRecords) {
   const jobject reallocation = create("LogicalUnitReallocationRequest");
   expectRead("QV_LogicalUnitRealloc", {unit_, reallocation}, reallocation, 1, 12,
              int32sAt(0, "lun lusize newlun"));
+  EXPECT_EQ(lastText("QV_LogicalUnitRealloc", 0), "north");
   expectRequest("QV_LogicalUnitAdd", "LogicalUnit", 96, kLogicalUnit);
   expectRequest("QV_SetQuickFormatOption", "QuickFormatOption", 16, kOption);
   expectRequest("QV_SetLuOwnership", "LuOwnershipInfo", 28, kOwner);

@@ -275,6 +275,7 @@ class RegisteredUnit : public ::testing::Test {
     return arguments;
   }
   static void expectUnitAndInts(const char* method, const std::vector<int>& ints) {
+    EXPECT_EQ(lastInput(method, 0).size(), 65U) << method;
     EXPECT_EQ(lastText(method, 0), "north") << method;
     for (std::size_t index = 0; index < ints.size(); ++index) {
       EXPECT_EQ(lastInt(method, 2 + static_cast<int>(index)), ints[index]) << method;
