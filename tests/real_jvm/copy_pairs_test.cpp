@@ -1,5 +1,5 @@
 // Copy pairs in a real Java process.
-#include "tests/real_jvm/replication_fixture.h"
+#include "tests/real_jvm/registered_unit.h"
 
 namespace quorvelj::testing {
 namespace {
@@ -16,7 +16,7 @@ const Members kTarget{
     int32At(88, "pair_info.pair_lun"),
 };
 
-class CopyPairs : public Replication {
+class CopyPairs : public RegisteredUnit {
  protected:
   void expectOperation(const char* method, const char* className, std::size_t size,
                        const Members& tail) {

@@ -10,6 +10,16 @@ namespace {
 
 class DrivesAndParts : public RegisteredUnit {
  protected:
+  static Members within(const std::string& prefix, const Members& members) {
+    return at(0, prefix, members);
+  }
+  static Members joined(const std::vector<Members>& lists) {
+    Members all;
+    for (const Members& list : lists) {
+      all = all + list;
+    }
+    return all;
+  }
   jobject fromUnit(const char* method) { return call(method, {unit_, session_}).result; }
 };
 
@@ -87,7 +97,7 @@ TEST_F(DrivesAndParts, SettingRecords) {
   const auto expectBoth = [&](const std::string& operation, std::size_t size,
                               const std::vector<Member>& members) {
     expectFromUnit(("QV_Get" + operation).c_str(), size, members);
-    expectToUnit(("QV_Set" + operation).c_str(), operation.c_str(), size, members);
+    expectRequest(("QV_Set" + operation).c_str(), operation.c_str(), size, members);
   };
   expectBoth("DiskDriveRestoration", 28,
              int32sAt(0, {"mode", "restoration", "dynamic_sparing", "interval", "unit_size",

@@ -1,31 +1,8 @@
 // Performance counters and their files in a real Java process.
-#include <gtest/gtest.h>
-
-#include <cstring>
-#include <fstream>
-#include <iterator>
-
-#include "simulator/control.h"
-#include "tests/support/real_jvm.h"
+#include "tests/real_jvm/registered_unit.h"
 
 namespace quorvelj::testing {
 namespace {
-
-using Members = std::vector<Member>;
-
-/// Members of one object, which starts at an offset and lies at a path.
-Members at(std::size_t offset, const std::string& path, Members members) {
-  for (Member& member : members) {
-    member.offset += offset;
-    member.path = path + member.path;
-  }
-  return members;
-}
-
-Members operator+(Members left, const Members& right) {
-  left.insert(left.end(), right.begin(), right.end());
-  return left;
-}
 
 const Members kTime = int32sAt(0, {".tm_sec", ".tm_min", ".tm_hour", ".tm_mday", ".tm_mon",
                                    ".tm_year", ".tm_wday", ".tm_yday", ".tm_isdst"});
@@ -119,37 +96,13 @@ Members own(Members members) {
   return members;
 }
 
-class PerformanceCollection : public ::testing::Test {
+class PerformanceCollection : public RegisteredUnit {
  protected:
-  PerformanceCollection() {
-    quorvelSimReset();
-    realJvm()->PushLocalFrame(512);
-    session_ = create("QVSessionInfo");
-  }
-  ~PerformanceCollection() override { realJvm()->PopLocalFrame(nullptr); }
-
-  /// Registers a unit and logs in.
-  void begin() {
-    const jobject param = create("QVUnitParam");
-    for (const char* const field : {"group_name", "ctl1", "serial"}) {
-      set(param, field, "");
-    }
-    set(param, "unit_name", "u");
-    set(param, "ctl0", "192.0.2.10");
-    call("QV_UnitAdd", {param});
-    const jobject request = create("LoginRequest");
-    set(request, "user_id", "admin");
-    set(request, "passwd", "quorvel");
-    set(request, "log_string", "");
-    session_ = call("QV_LoginQVAccount", {text("u"), request}).result;
-  }
   jobject element(jobject array, int index) {
     return realJvm()->GetObjectArrayElement(static_cast<jobjectArray>(array), index);
   }
-  jobject snapshots() {
-    return call("QV_GetPerformanceAll", {text("u"), session_, number(0)}).result;
-  }
-  jobject commandCounts() { return call("QV_GetPerformance", {text("u"), session_}).result; }
+  jobject snapshots() { return call("QV_GetPerformanceAll", {unit_, session_, number(0)}).result; }
+  jobject commandCounts() { return call("QV_GetPerformance", {unit_, session_}).result; }
   static void setObject(jobject object, const char* name, const char* signature, jobject value) {
     JNIEnv* const env = realJvm();
     env->SetObjectField(object, env->GetFieldID(env->GetObjectClass(object), name, signature),
@@ -179,23 +132,17 @@ class PerformanceCollection : public ::testing::Test {
     }
   }
   static std::string file(const char* name) { return ::testing::TempDir() + name; }
-  static std::string contentOf(const std::string& path) {
-    std::ifstream stream(path);
-    return {std::istreambuf_iterator<char>(stream), {}};
-  }
-
-  jobject session_;
 };
 
 TEST_F(PerformanceCollection, Snapshots) {
-  expectBuilt("QV_GetPerformanceAll", {text("u"), session_, number(5)}, 6916416,
+  expectBuilt("QV_GetPerformanceAll", {unit_, session_, number(5)}, 6916416,
               at(0, "[0]", kSnapshot) + at(3458208, "[1]", kSnapshot));
   int passed = 0;
   quorvelSimLastInput("QV_GetPerformanceAll", 2, &passed, sizeof passed);
   EXPECT_EQ(passed, 5);
-  expectBuilt("QV_GetPerformance", {text("u"), session_}, 131144,
+  expectBuilt("QV_GetPerformance", {unit_, session_}, 131144,
               at(0, "[0]", kCommandCounts) + at(65572, "[1]", kCommandCounts));
-  const jobject pair = call("QV_GetPerformance", {text("u"), session_}).result;
+  const jobject pair = call("QV_GetPerformance", {text("nowhere"), session_}).result;
   EXPECT_EQ(pair, nullptr) << "the unit is not registered";
 }
 
@@ -205,14 +152,14 @@ TEST_F(PerformanceCollection, SnapshotsInRequests) {
   const jobject graph = create("PerformanceOutputGraphInfoRequest");
   int place = 0;
   for (const char* const field : {"preinfo0", "afterinfo0", "preinfo1", "afterinfo1"}) {
-    expectRead("QV_PerformanceOutputAll", {text("u"), all}, all, 3 + place, 3458208,
+    expectRead("QV_PerformanceOutputAll", {unit_, all}, all, 3 + place, 3458208,
                at(0, field, kSnapshot));
     // The same reader: its first members show the place.
     const Members few = at(0, field, int32sAt(0, {".valid", ".support", ".get_status"}));
-    expectRead("QV_PerformanceOutputAllEx", {text("u"), session_, allEx}, allEx, 4 + place, 3458208,
+    expectRead("QV_PerformanceOutputAllEx", {unit_, session_, allEx}, allEx, 4 + place, 3458208,
                few);
-    expectRead("QV_PerformanceOutputGraphInfo", {text("u"), session_, graph}, graph, 2 + place,
-               3458208, few);
+    expectRead("QV_PerformanceOutputGraphInfo", {unit_, session_, graph}, graph, 2 + place, 3458208,
+               few);
     ++place;
   }
 }
@@ -221,7 +168,7 @@ TEST_F(PerformanceCollection, Requests) {
   const jobject all = create("PerformanceOutputAllRequest");
   fillMatrix(all, "drive", 16);
   fillMatrix(all, "drive_opr_rate", 16);
-  const std::vector<jobject> arguments{text("u"), all};
+  const std::vector<jobject> arguments{unit_, all};
   expectRead("QV_PerformanceOutputAll", arguments, all, 1, 1024, {textAt(0, 1024, "filename")});
   expectRead(
       "QV_PerformanceOutputAll", arguments, all, 2, 3088,
@@ -245,7 +192,7 @@ TEST_F(PerformanceCollection, Requests) {
                             bytesAt(9986, 30, ".drive[59]"),
                             bytesAt(10016, 30, ".drive_opr_rate[0]"),
                             bytesAt(11786, 30, ".drive_opr_rate[59]")};
-  const std::vector<jobject> argumentsEx{text("u"), session_, allEx};
+  const std::vector<jobject> argumentsEx{unit_, session_, allEx};
   expectRead("QV_PerformanceOutputAllEx", argumentsEx, allEx, 2, 1024,
              {textAt(0, 1024, "filename")});
   expectRead("QV_PerformanceOutputAllEx", argumentsEx, allEx, 3, 24056,
@@ -264,12 +211,12 @@ TEST_F(PerformanceCollection, Requests) {
   }
 
   const jobject time = create("QVTime");
-  expectRead("QV_PerformanceOutputSkip", {text("u"), text("path"), time, number(9)}, time, 2, 36,
+  expectRead("QV_PerformanceOutputSkip", {unit_, text("path"), time, number(9)}, time, 2, 36,
              own(kTime));
 }
 
 TEST_F(PerformanceCollection, CommandCountsAsArguments) {
-  std::vector<jobject> arguments{text("u"), session_, text("path")};
+  std::vector<jobject> arguments{unit_, session_, text("path")};
   for (int index = 0; index < 4; ++index) {
     arguments.push_back(create("StatisticalCommand"));
   }
@@ -311,9 +258,9 @@ TEST_F(PerformanceCollection, SmallRecords) {
                    "read_write_recover", "read_write_unrecover", "drive_recover", "drive_unrecover",
                    "controller_recover", "controller_unrecover", "scsi_recover", "scsi_unrecover",
                    "correctable_error", "uncorrectable_error"});
-  expectBuilt("QV_GetThreshold", {text("u"), session_}, 56, threshold);
+  expectBuilt("QV_GetThreshold", {unit_, session_}, 56, threshold);
   const jobject object = create("Threshold");
-  expectRead("QV_SetThreshold", {text("u"), session_, object}, object, 2, 56, threshold);
+  expectRead("QV_SetThreshold", {unit_, session_, object}, object, 2, 56, threshold);
 
   expectBuilt(
       "QV_PerformanceInputMngFile", {text("path")}, 232,
@@ -330,7 +277,7 @@ TEST_F(PerformanceCollection, SmallRecords) {
 
   const Members times = at(0, "graphinfo.mtime[0]", kTime) + at(36, "graphinfo.mtime[1]", kTime);
   const jobject graphRequest = create("PerformanceOutputGraphInfoRequest");
-  expectBuilt("QV_PerformanceOutputGraphInfo", {text("u"), session_, graphRequest}, 1729120, times);
+  expectBuilt("QV_PerformanceOutputGraphInfo", {unit_, session_, graphRequest}, 1729120, times);
   const jobject graph = create("PerformanceCollectGraphInfo");
   expectRead("QV_PerformanceDataOutput", {text("path"), graph}, graph, 1, 864560, times);
   expectRead("QV_PerformanceDataInitialize", {session_, text("path"), number(1), number(2)},
@@ -340,7 +287,7 @@ TEST_F(PerformanceCollection, SmallRecords) {
 TEST_F(PerformanceCollection, GraphsAreBuiltAtFullCapacity) {
   quorvelSimForceResult("QV_PerformanceOutputGraphInfo", 0, 1);
   const jobject graph = call("QV_PerformanceOutputGraphInfo",
-                             {text("u"), session_, create("PerformanceOutputGraphInfoRequest")})
+                             {unit_, session_, create("PerformanceOutputGraphInfoRequest")})
                             .result;
   const auto shape = [&](const char* field) {
     return get(graph, std::string("graphinfo.") + field);
@@ -362,7 +309,6 @@ TEST_F(PerformanceCollection, GraphsAreBuiltAtFullCapacity) {
 }
 
 TEST_F(PerformanceCollection, CountersGrowWhileStatisticsAreOn) {
-  begin();
   const jobject first = snapshots();
   const jobject second = snapshots();
   EXPECT_EQ(get(first, ""), "PerformanceAll[2]");
@@ -370,26 +316,29 @@ TEST_F(PerformanceCollection, CountersGrowWhileStatisticsAreOn) {
   EXPECT_EQ(get(second, "[1].lu[3].read_count"), "7800");
   EXPECT_EQ(get(second, "[0].lu[3].read_count"), "0");
   EXPECT_EQ(get(second, "[0].used_cache_size_h"), "1");
-  call("QV_SetPfmStatisCfg", {text("u"), session_, number(0)});
-  EXPECT_EQ(get(call("QV_GetPfmStatisCfg", {text("u"), session_}).result, ""), "0");
+  call("QV_SetPfmStatisCfg", {unit_, session_, number(0)});
+  EXPECT_EQ(get(call("QV_GetPfmStatisCfg", {unit_, session_}).result, ""), "0");
   EXPECT_EQ(get(snapshots(), "[1].lu[3].read_count"), "7800");
   EXPECT_EQ(get(commandCounts(), "[1].lu[3].read_count"), "7800");
 
   EXPECT_EQ(get(call("QV_GetPfmFileMaxCount", {}).result, ""), "2880");
-  const jobject threshold = call("QV_GetThreshold", {text("u"), session_}).result;
+  const jobject threshold = call("QV_GetThreshold", {unit_, session_}).result;
   EXPECT_EQ(get(threshold, "media_recover"), "50");
   set(threshold, "media_recover", "51");
-  call("QV_SetThreshold", {text("u"), session_, threshold});
-  EXPECT_EQ(get(call("QV_GetThreshold", {text("u"), session_}).result, "media_recover"), "51");
+  call("QV_SetThreshold", {unit_, session_, threshold});
+  EXPECT_EQ(get(call("QV_GetThreshold", {unit_, session_}).result, "media_recover"), "51");
 }
 
 TEST_F(PerformanceCollection, IntervalsBecomeFiles) {
-  begin();
   const jobject before = commandCounts();
   const jobject after = commandCounts();
   const std::string path = file("counts");
-  std::vector<jobject> arguments{text("u"),          session_,          text(path),
-                                 element(before, 0), element(after, 0), element(before, 1),
+  std::vector<jobject> arguments{unit_,
+                                 session_,
+                                 text(path),
+                                 element(before, 0),
+                                 element(after, 0),
+                                 element(before, 1),
                                  element(after, 1)};
   EXPECT_EQ(call("QV_PerformanceOutput", arguments).failure, "");
   const std::string content = contentOf(path);
@@ -410,31 +359,30 @@ TEST_F(PerformanceCollection, IntervalsBecomeFiles) {
   setObject(all, "port", "[B", selection(8, {}));
   setObject(all, "backend", "[B", selection(8, {}));
   setObject(all, "lu", "[B", selection(2048, {3}));
-  EXPECT_EQ(call("QV_PerformanceOutputAll", {text("u"), all}).failure, "");
+  EXPECT_EQ(call("QV_PerformanceOutputAll", {unit_, all}).failure, "");
   // No table of drives was given: the reading of the options ends there, which is not looked at.
   EXPECT_EQ(contentOf(path), "controller,lu,reads,writes\n1,3,3900,1300\n");
   const jobject time = create("QVTime");
   set(time, "tm_hour", "9");
-  EXPECT_EQ(call("QV_PerformanceOutputSkip", {text("u"), text(path), time, number(0)}).failure, "");
+  EXPECT_EQ(call("QV_PerformanceOutputSkip", {unit_, text(path), time, number(0)}).failure, "");
   EXPECT_EQ(contentOf(path), "controller,lu,reads,writes\n1,3,3900,1300\nskipped,9,0,0\n");
 }
 
 TEST_F(PerformanceCollection, GraphsMakeACollection) {
-  begin();
   const std::string path = file("collection");
   EXPECT_EQ(
       call("QV_PerformanceDataInitialize", {session_, text(path), number(60), number(0)}).failure,
       "");
   for (int interval = 0; interval < 2; ++interval) {
     const jobject before = snapshots();
-    const jobject graph = call("QV_PerformanceOutputGraphInfo",
-                               {text("u"), session_,
-                                request("PerformanceOutputGraphInfoRequest", before, snapshots())})
-                              .result;
+    const jobject graph =
+        call("QV_PerformanceOutputGraphInfo",
+             {unit_, session_, request("PerformanceOutputGraphInfoRequest", before, snapshots())})
+            .result;
     EXPECT_EQ(call("QV_PerformanceDataOutput", {text(path), graph}).failure, "");
   }
   const jobject information = call("QV_PerformanceInputMngFile", {text(path)}).result;
-  EXPECT_EQ(get(information, "unitname"), "u");
+  EXPECT_EQ(get(information, "unitname"), "north");
   EXPECT_EQ(get(information, "serialno"), "85000101");
   EXPECT_EQ(get(information, "intervaltime"), "60");
   EXPECT_EQ(get(information, "fromtime.minute"), "2");

@@ -1,204 +1,117 @@
 // Pools, virtual volumes and special LUs in a real Java process.
-#include "tests/real_jvm/storage_fixture.h"
+#include "tests/real_jvm/registered_unit.h"
 
 namespace quorvelj::testing {
 namespace {
 
-using PoolsAndSpecialLus = StorageTest;
+using PoolsAndSpecialLus = RegisteredUnit;
 
-const std::vector<const char*> kPool{"pool_no",    "pool_status", "allcapa_h", "allcapa_l",
-                                     "usedcapa_h", "usedcapa_l",  "used_rate", "threshold",
-                                     "lu_count",   "lu[0]"};
-const std::vector<const char*> kVolume{"lun", "capacity_specify", "capacity_h", "capacity_l"};
-const std::vector<const char*> kUnited{"unite_info", "status", "capacity", "child_lu_count",
-                                       "child_lun[0]"};
-const std::vector<const char*> kUnited2{"unite_info", "status",         "capacity", "capacity_h",
-                                        "capacity_l", "child_lu_count", "next_lun"};
-const std::vector<const char*> kManagement{"dmlu_valid", "set_valid", "dmlu_lu"};
-const std::vector<const char*> kGuard{"lu_valid",     "capacity",           "capacity_h",
-                                      "capacity_l",   "access_level_valid", "access_level_status",
-                                      "access_level", "svol_disable",       "access_inhibit_mode",
-                                      "access_attr",  "changeable_attr",    "retention_term"};
-
-/// A pool from its first member to its 64th LU.
-std::vector<Member> pool(const std::string& path, std::size_t offset) {
-  return int32sIn(path, offset, kPool) + int32sIn(path, offset + 288, {"lu[63]"});
-}
+const Members kPool = int32sAt(0,
+                               "pool_no pool_status allcapa_h allcapa_l usedcapa_h usedcapa_l "
+                               "used_rate threshold lu_count lu[0]") +
+                      int32sAt(288, "lu[63]");
+const Members kVolume = int32sAt(0, "lun capacity_specify capacity_h capacity_l");
+const Members kUnited = int32sAt(0, "unite_info status capacity child_lu_count child_lun[0]") +
+                        int32sAt(2060, "child_lun[511]");
+const Members kUnited2 =
+    int32sAt(0, "unite_info status capacity capacity_h capacity_l child_lu_count next_lun");
+const Members kManagement =
+    int32sAt(0, "mode dmlu_count") +
+    at({{8, "dmlu[0]."}, {20, "dmlu[1]."}}, int32sAt(0, "dmlu_valid set_valid dmlu_lu"));
+const Members kGuard = int32sAt(
+    0,
+    "lu_valid capacity capacity_h capacity_l access_level_valid access_level_status access_level "
+    "svol_disable access_inhibit_mode access_attr changeable_attr retention_term");
 
 TEST_F(PoolsAndSpecialLus, BuiltRecords) {
-  expectBuilt("QV_GetPoolInformation", {unit_, session_}, 19288,
-              int32sAt(0, {"option"}) + int32sAt(4, {"ctl[0].pool_enable_count"}) +
-                  pool("ctl[0].pool[0].", 8) + int32sAt(300, {"ctl[1].pool_enable_count"}) +
-                  pool("ctl[1].pool[0].", 304) + int32sAt(596, {"sys.pool_enable_count"}) +
-                  pool("sys.pool[0].", 600) + pool("sys.pool[63].", 18996));
-  expectBuilt("QV_GetVVOLInformation", {unit_, session_}, 131076,
-              int32sAt(0, {"vvol_count"}) + int32sIn("lu[0].", 4, kVolume) +
-                  int32sIn("lu[8191].", 131060, kVolume));
+  expectFromUnit("QV_GetPoolInformation", 19288,
+                 int32sAt(0, "option ctl[0].pool_enable_count") + at(8, "ctl[0].pool[0].", kPool) +
+                     int32sAt(300, "ctl[1].pool_enable_count") + at(304, "ctl[1].pool[0].", kPool) +
+                     int32sAt(596, "sys.pool_enable_count") +
+                     at({{600, "sys.pool[0]."}, {18996, "sys.pool[63]."}}, kPool));
+  expectFromUnit("QV_GetVVOLInformation", 131076,
+                 int32sAt(0, "vvol_count") + at({{4, "lu[0]."}, {131060, "lu[8191]."}}, kVolume));
   expectBuilt("QV_IntegrationLUInfo", {unit_}, 1056772,
-              int32sAt(0, {"integration_lu"}) + int32sIn("unite_info[0].", 4, kUnited) +
-                  int32sIn("unite_info[0].", 2064, {"child_lun[511]"}) +
-                  int32sIn("unite_info[511].", 1054708, kUnited) +
-                  int32sIn("unite_info[511].", 1056768, {"child_lun[511]"}));
-  expectBuilt("QV_IntegrationLUInfo2", {unit_, session_}, 262152,
-              int32sAt(0, {"integration_lu", "parent_count", "parent_lu[0]"}) +
-                  int32sAt(32772, {"parent_lu[8191]"}) +
-                  int32sIn("unite_info[0].", 32776, kUnited2) +
-                  int32sIn("unite_info[8191].", 262124, kUnited2));
-  expectBuilt("QV_GetDMLU", {unit_, session_}, 32,
-              int32sAt(0, {"mode", "dmlu_count"}) + int32sIn("dmlu[0].", 8, kManagement) +
-                  int32sIn("dmlu[1].", 20, kManagement));
-  expectBuilt("QV_GetLuGuardInformation", {unit_, session_}, 393224,
-              int32sAt(0, {"option", "expirationlock"}) + int32sIn("lu[0].", 8, kGuard) +
-                  int32sIn("lu[8191].", 393176, kGuard));
+              int32sAt(0, "integration_lu") +
+                  at({{4, "unite_info[0]."}, {1054708, "unite_info[511]."}}, kUnited));
+  expectFromUnit("QV_IntegrationLUInfo2", 262152,
+                 int32sAt(0, "integration_lu parent_count parent_lu[0]") +
+                     int32sAt(32772, "parent_lu[8191]") +
+                     at({{32776, "unite_info[0]."}, {262124, "unite_info[8191]."}}, kUnited2));
+  expectFromUnit("QV_GetDMLU", 32, kManagement);
+  expectFromUnit(
+      "QV_GetLuGuardInformation", 393224,
+      int32sAt(0, "option expirationlock") + at({{8, "lu[0]."}, {393176, "lu[8191]."}}, kGuard));
 }
 
 TEST_F(PoolsAndSpecialLus, ReadRecords) {
-  const jobject poolChange = create("PoolChangeRequest");
-  expectRead("QV_ChangePoolInformation", {unit_, session_, poolChange}, poolChange, 2, 16,
-             int32sAt(0, {"ctl_no", "pool_no", "poolinfo_chg_index", "threshold"}));
-  const jobject list = create("PoolLUListRequest");
-  set(list, "lu[64]", "7");
-  expectRead("QV_PoolLUAddList", {unit_, session_, number(0), number(1), list}, list, 4, 260,
-             int32sAt(0, {"lu_count", "lu[0]"}) + int32sAt(256, {"lu[63]"}));
-  const jobject volume = create("VvolDetailInformation");
-  expectRead("QV_CreateVVOLEx", {unit_, session_, volume}, volume, 2, 16, int32sAt(0, kVolume));
-  const jobject integration = create("IntegrationRequest");
-  set(integration, "child_lu[127]", "7");
-  expectRead("QV_SetIntegrationLU", {unit_, session_, integration}, integration, 2, 524,
-             int32sAt(0, {"operation", "parent_lun", "child_lun", "child_count", "child_lu[0]"}) +
-                 int32sAt(520, {"child_lu[126]"}));
-  const jobject management = create("DMLUInformation");
-  expectRead("QV_SetDMLU", {unit_, session_, management}, management, 2, 32,
-             int32sAt(0, {"mode", "dmlu_count"}) + int32sIn("dmlu[0].", 8, kManagement) +
-                 int32sIn("dmlu[1].", 20, kManagement));
-  const jobject level = create("LuAccessLevelRequest");
-  expectRead("QV_SetLuAccessLevel", {unit_, session_, level}, level, 2, 12,
-             int32sAt(0, {"lu", "access_level", "retention_term"}));
-
+  expectRequest("QV_ChangePoolInformation", "PoolChangeRequest", 16,
+                int32sAt(0, "ctl_no pool_no poolinfo_chg_index threshold"));
+  expectRequest("QV_CreateVVOLEx", "VvolDetailInformation", 16, kVolume);
+  expectRequest("QV_SetDMLU", "DMLUInformation", 32, kManagement);
+  expectRequest("QV_SetLuAccessLevel", "LuAccessLevelRequest", 12,
+                int32sAt(0, "lu access_level retention_term"));
+  // Arrays longer and shorter than the record's.
+  const jobject list = create("PoolLUListRequest", {{"lu[64]", "7"}});
+  expectRequest("QV_PoolLUAddList", list, 260,
+                int32sAt(0, "lu_count lu[0]") + int32sAt(256, "lu[63]"), {-1, 2});
   setLength(list, "lu", 63);
+  expectTooShort("QV_PoolLUAddList", {unit_, session_, number(0), number(1), list});
+  const jobject integration = create("IntegrationRequest", {{"child_lu[127]", "7"}});
+  expectRequest("QV_SetIntegrationLU", integration, 524,
+                int32sAt(0, "operation parent_lun child_lun child_count child_lu[0]") +
+                    int32sAt(520, "child_lu[126]"));
   setLength(integration, "child_lu", 126);
-  quorvelSimForceResult("QV_PoolLUAddList", 0, 1);
-  quorvelSimForceResult("QV_SetIntegrationLU", 0, 1);
-  EXPECT_TRUE(change("QV_PoolLUAddList", {unit_, session_, number(0), number(1), list})
-                  .starts_with("ArrayIndexOutOfBoundsException"));
-  EXPECT_TRUE(change("QV_SetIntegrationLU", {unit_, session_, integration})
-                  .starts_with("ArrayIndexOutOfBoundsException"));
+  expectTooShort("QV_SetIntegrationLU", {unit_, session_, integration});
 }
 
 TEST_F(PoolsAndSpecialLus, Arguments) {
-  expectArguments({{"QV_GetPoolInformation", true, 0},
-                   {"QV_ChangePoolInformation", true, 0, "PoolChangeRequest"},
-                   {"QV_PoolLUAdd", true, 3},
-                   {"QV_PoolLUAddList", true, 2, "PoolLUListRequest"},
-                   {"QV_PoolLUAllDelete", true, 2},
-                   {"QV_CreateVVOL", true, 3},
-                   {"QV_CreateVVOLEx", true, 0, "VvolDetailInformation"},
-                   {"QV_DeleteVVOL", true, 2},
-                   {"QV_GetVVOLInformation", true, 0},
-                   {"QV_IntegrationLUInfo", false, 0},
-                   {"QV_IntegrationLUInfo2", true, 0},
-                   {"QV_SetIntegrationLU", true, 0, "IntegrationRequest"},
-                   {"QV_GetDMLU", true, 0},
-                   {"QV_SetDMLU", true, 0, "DMLUInformation"},
-                   {"QV_GetLuGuardInformation", true, 0},
-                   {"QV_SetLuAccessLevel", true, 0, "LuAccessLevelRequest"},
-                   {"QV_SetSvolDisableMode", true, 2},
-                   {"QV_ExtendRetentionTerm", true, 2},
-                   {"QV_SetExpirationLock", true, 1}});
+  expectPassed("QV_PoolLUAdd", "usiii");
+  expectPassed("QV_PoolLUAllDelete", "usii");
+  expectPassed("QV_CreateVVOL", "usiii");
+  expectPassed("QV_DeleteVVOL", "usii");
+  expectPassed("QV_IntegrationLUInfo", "u");
+  expectPassed("QV_SetSvolDisableMode", "usii");
+  expectPassed("QV_ExtendRetentionTerm", "usii");
+  expectPassed("QV_SetExpirationLock", "usi");
 }
 
-TEST_F(PoolsAndSpecialLus, Pools) {
+TEST_F(PoolsAndSpecialLus, WhatIsSetIsReadBack) {
   createGroup(0);
-  for (const int lun : {1, 2, 3}) {
+  for (const int lun : {0, 1, 8190}) {
     createLu(lun, 0, 0, INT32_MIN);
   }
-  EXPECT_EQ(change("QV_PoolLUAdd", {unit_, session_, number(2), number(63), number(1)}), "");
-  EXPECT_EQ(change("QV_PoolLUAdd", {unit_, session_, number(2), number(64), number(2)}),
-            "DiskArrayException 20501");
-  const jobject list = create("PoolLUListRequest");
-  setLength(list, "lu", 64);
-  setAll(list, {{"lu_count", 2}, {"lu[0]", 2}, {"lu[1]", 1}});
-  const auto addList = [&] {
-    return change("QV_PoolLUAddList", {unit_, session_, number(2), number(63), list});
-  };
-  EXPECT_EQ(addList(), "DiskArrayException 20504");
-  set(list, "lu[1]", "3");
-  EXPECT_EQ(addList(), "");
-  const jobject info = call("QV_GetPoolInformation", {unit_, session_}).result;
-  EXPECT_EQ(get(info, "ctl[1].pool"), "PoolDetailInfo[1]");
-  EXPECT_EQ(get(info, "sys.pool_enable_count"), "1");
-  EXPECT_EQ(get(info, "sys.pool[63].allcapa_h"), "1");
-  EXPECT_EQ(get(info, "sys.pool[63].allcapa_l"), "-2147483648");
-  EXPECT_EQ(get(info, "sys.pool[63].lu").substr(0, 12), "[1, 2, 3, 0,");
-  EXPECT_EQ(change("QV_LogicalUnitDeleteAll", {unit_}), "DiskArrayException 20504");
-  EXPECT_EQ(change("QV_PoolLUAllDelete", {unit_, session_, number(2), number(63)}), "");
-  EXPECT_EQ(change("QV_LogicalUnitDeleteAll", {unit_}), "");
-}
+  EXPECT_EQ(run("QV_PoolLUAdd", 2, 63, 0), "");
+  EXPECT_EQ(run("QV_PoolLUAdd", 2, 64, 1), "DiskArrayException 20501");
+  expectFields(information("QV_GetPoolInformation"), {{"ctl[1].pool", "PoolDetailInfo[1]"},
+                                                      {"sys.pool", "PoolDetailInfo[64]"},
+                                                      {"sys.pool_enable_count", "1"},
+                                                      {"sys.pool[63].allcapa_l", "-2147483648"}});
 
-TEST_F(PoolsAndSpecialLus, VirtualVolumes) {
-  const jobject volume = create("VvolDetailInformation");
-  setAll(volume, {{"lun", 8191}, {"capacity_h", 2}, {"capacity_l", -1}});
-  EXPECT_EQ(change("QV_CreateVVOLEx", {unit_, session_, volume}), "");
-  EXPECT_EQ(change("QV_CreateVVOL", {unit_, session_, number(8191), number(0), number(1)}),
-            "DiskArrayException 20502");
-  const jobject volumes = call("QV_GetVVOLInformation", {unit_, session_}).result;
-  EXPECT_EQ(get(volumes, "vvol_count"), "1");
-  EXPECT_EQ(get(volumes, "lu"), "VvolDetailInformation[8192]");
-  EXPECT_EQ(get(volumes, "lu[0].capacity_h"), "2");
-  EXPECT_EQ(get(volumes, "lu[0].capacity_l"), "-1");
-  EXPECT_EQ(change("QV_DeleteVVOL", {unit_, session_, number(8191), number(0)}), "");
-}
+  EXPECT_EQ(
+      run("QV_CreateVVOLEx", create("VvolDetailInformation",
+                                    {{"lun", "8191"}, {"capacity_h", "2"}, {"capacity_l", "-1"}})),
+      "");
+  expectFields(information("QV_GetVVOLInformation"), {{"vvol_count", "1"},
+                                                      {"lu", "VvolDetailInformation[8192]"},
+                                                      {"lu[0].capacity_h", "2"},
+                                                      {"lu[0].capacity_l", "-1"}});
 
-TEST_F(PoolsAndSpecialLus, IntegratedLus) {
-  createGroup(0);
-  for (const int lun : {0, 1, 8191}) {
-    createLu(lun, 0, 0, INT32_MIN);
-  }
-  const jobject request = create("IntegrationRequest");
-  setLength(request, "child_lu", 127);
-  setAll(request, {{"child_count", 2}, {"child_lu[0]", 8191}, {"child_lu[1]", 8191}});
-  EXPECT_EQ(change("QV_SetIntegrationLU", {unit_, session_, request}), "DiskArrayException 20504");
-  set(request, "child_lu[1]", "1");
-  EXPECT_EQ(change("QV_SetIntegrationLU", {unit_, session_, request}), "");
-  const jobject info = call("QV_IntegrationLUInfo", {unit_}).result;
-  EXPECT_EQ(get(info, "unite_info"), "UniteLU[512]");
-  EXPECT_EQ(get(info, "unite_info[0].child_lu_count"), "2");
-  EXPECT_EQ(get(info, "unite_info[0].child_lun[0]"), "8191");
-  EXPECT_EQ(get(info, "unite_info[1].unite_info"), "2");
-  const jobject info2 = call("QV_IntegrationLUInfo2", {unit_, session_}).result;
-  EXPECT_EQ(get(info2, "unite_info"), "UniteLU2[8192]");
-  EXPECT_EQ(get(info2, "unite_info[0].capacity_h"), "1");
-  EXPECT_EQ(get(info2, "unite_info[0].next_lun"), "8191");
-  EXPECT_EQ(get(info2, "unite_info[8191].next_lun"), "1");
-  EXPECT_EQ(get(info2, "unite_info[1].next_lun"), "-1");
-}
+  const jobject integration = create(
+      "IntegrationRequest", {{"parent_lun", "1"}, {"child_count", "1"}, {"child_lu[0]", "8190"}});
+  setLength(integration, "child_lu", 127);
+  set(integration, {{"parent_lun", "1"}, {"child_count", "1"}, {"child_lu[0]", "8190"}});
+  EXPECT_EQ(run("QV_SetIntegrationLU", integration), "");
+  expectFields(call("QV_IntegrationLUInfo", {unit_}).result,
+               {{"unite_info", "UniteLU[512]"}, {"unite_info[1].child_lun[0]", "8190"}});
+  expectFields(information("QV_IntegrationLUInfo2"),
+               {{"unite_info", "UniteLU2[8192]"}, {"unite_info[1].next_lun", "8190"}});
 
-TEST_F(PoolsAndSpecialLus, ManagementAndGuard) {
-  const jobject management = create("DMLUInformation");
-  set(management, "dmlu[1].dmlu_lu", "4095");
-  EXPECT_EQ(change("QV_SetDMLU", {unit_, session_, management}), "");
-  EXPECT_EQ(ask("QV_GetDMLU", {unit_, session_}, "dmlu[1].dmlu_lu"), "4095");
-
-  createGroup(0);
-  createLu(9, 0, 1, 0);
-  const jobject level = create("LuAccessLevelRequest");
-  setAll(level, {{"lu", 9}, {"access_level", 1}, {"retention_term", 30}});
-  EXPECT_EQ(change("QV_SetLuAccessLevel", {unit_, session_, level}), "");
-  set(level, "access_level", "0");
-  EXPECT_EQ(change("QV_SetLuAccessLevel", {unit_, session_, level}), "DiskArrayException 20504");
-  const std::vector<jobject> shorter{unit_, session_, number(9), number(29)};
-  EXPECT_EQ(change("QV_ExtendRetentionTerm", shorter), "DiskArrayException 20504");
-  EXPECT_EQ(change("QV_ExtendRetentionTerm", {unit_, session_, number(9), number(31)}), "");
-  EXPECT_EQ(change("QV_SetSvolDisableMode", {unit_, session_, number(9), number(1)}), "");
-  EXPECT_EQ(change("QV_SetExpirationLock", {unit_, session_, number(1)}), "");
-  const jobject guards = call("QV_GetLuGuardInformation", {unit_, session_}).result;
-  EXPECT_EQ(get(guards, "expirationlock"), "1");
-  EXPECT_EQ(get(guards, "lu"), "LuGuard[8192]");
-  EXPECT_EQ(get(guards, "lu[9].capacity_h"), "1");
-  EXPECT_EQ(get(guards, "lu[9].access_level"), "1");
-  EXPECT_EQ(get(guards, "lu[9].svol_disable"), "1");
-  EXPECT_EQ(get(guards, "lu[9].retention_term"), "31");
-  EXPECT_EQ(get(guards, "lu[8].lu_valid"), "0");
+  EXPECT_EQ(run("QV_SetDMLU", create("DMLUInformation", {{"dmlu[1].dmlu_lu", "4095"}})), "");
+  EXPECT_EQ(get(information("QV_GetDMLU"), "dmlu[1].dmlu_lu"), "4095");
+  EXPECT_EQ(run("QV_SetExpirationLock", 1), "");
+  expectFields(information("QV_GetLuGuardInformation"),
+               {{"expirationlock", "1"}, {"lu", "LuGuard[8192]"}});
 }
 
 }  // namespace

@@ -1,178 +1,82 @@
 // RAID groups in a real Java process.
-#include "tests/real_jvm/storage_fixture.h"
+#include "tests/real_jvm/registered_unit.h"
 
 namespace quorvelj::testing {
 namespace {
 
-using RaidGroups = StorageTest;
+using RaidGroups = RegisteredUnit;
 
-const std::vector<const char*> kRaidGroup{
-    "rgnum",      "level",   "port",   "row",  "width",     "depth",     "minimum_capa",
-    "lastLBASet", "lastLBA", "rest_h", "rest", "lumaxcapa", "unit_type", "unit_type_sub_code"};
-const std::vector<const char*> kRgDetail{
-    "valid_index",      "rgnum",        "level",        "start_unit_no", "start_hdu_no",
-    "parity_hdu_count", "parity_count", "minimum_capa", "total_capa_h",  "total_capa_l",
-    "rest_capa_h",      "rest_capa_l",  "rg_type",      "lu_count"};
-const std::vector<const char*> kDrive{"valid_index", "next_unit_no", "next_hdu_no",
-                                      "paritygroup_no"};
-const std::vector<const char*> kArea{"areakind", "lun", "befor_lun", "area_capa_h", "area_capa_l"};
+const Members kRaidGroup = int32sAt(0,
+                                    "rgnum level port row width depth minimum_capa lastLBASet "
+                                    "lastLBA rest_h rest lumaxcapa unit_type unit_type_sub_code");
+const Members kRgDetail =
+    int32sAt(0,
+             "valid_index rgnum level start_unit_no start_hdu_no parity_hdu_count parity_count "
+             "minimum_capa total_capa_h total_capa_l rest_capa_h rest_capa_l rg_type lu_count");
+const Members kDrive = int32sAt(0, "valid_index next_unit_no next_hdu_no paritygroup_no");
+const Members kArea = int32sAt(0, "areakind lun befor_lun area_capa_h area_capa_l");
+const Members kRequest =
+    int32sAt(0, "create_mode rgnum level drive_type drive_capa parity_hdu_count parity_count") +
+    at({{28, "rgdrv[0]."}, {14420, "rgdrv[1799]."}}, int32sAt(0, "unit_no hdu_no"));
 
 TEST_F(RaidGroups, Records) {
-  expectBuilt("QV_GetRaidGroups", {unit_}, 5040,
-              int32sIn("[0].", 0, kRaidGroup) + int32sIn("[89].", 4984, kRaidGroup));
-  expectBuilt("QV_GetRaidGroupInformation", {unit_, session_}, 40004,
-              int32sAt(0, {"rg_count"}) + int32sIn("rg[0].", 4, kRgDetail) +
-                  int32sIn("rg[199].", 11148, kRgDetail) + int32sIn("rgdrv[0][0].", 11204, kDrive) +
-                  int32sIn("rgdrv[0][29].", 11668, kDrive) +
-                  int32sIn("rgdrv[1][0].", 11684, kDrive) +
-                  int32sIn("rgdrv[59][29].", 39988, kDrive));
-  expectBuilt("QV_GetRGAreaInformation", {unit_, session_, number(1)}, 163880,
-              int32sAt(0, {"rgnum", "lumaxcapa", "lumaxcapa_h", "lumaxcapa_l", "area_count"}) +
-                  int32sIn("area[0].", 20, kArea) + int32sIn("area[8192].", 163860, kArea));
-
-  const jobject group = create("RaidGroup");
-  expectRead("QV_RaidGroupAdd", {unit_, group}, group, 1, 56, int32sAt(0, kRaidGroup));
-  expectRead("QV_RaidGroupExpand", {unit_, group}, group, 1, 56, int32sAt(0, kRaidGroup));
-
-  const jobject request = create("CreateRaidGroup");
-  const std::vector<Member> members =
-      int32sAt(0, {"create_mode", "rgnum", "level", "drive_type", "drive_capa", "parity_hdu_count",
-                   "parity_count"}) +
-      int32sIn("rgdrv[0].", 28, {"unit_no", "hdu_no"}) +
-      int32sIn("rgdrv[1799].", 14420, {"unit_no", "hdu_no"});
-  expectRead("QV_CreateRaidGroup", {unit_, session_, request}, request, 2, 14428, members);
-  expectRead("QV_GetRaidGroupCreationCapacity", {unit_, session_, request}, request, 2, 14428,
-             members);
-  expectBuilt("QV_GetRaidGroupCreationCapacity", {unit_, session_, request}, 56,
-              int32sAt(0, kRgDetail));
-}
-
-TEST_F(RaidGroups, Arguments) {
-  expectArguments({{"QV_GetRaidGroups", false, 0},
-                   {"QV_RaidGroupAdd", false, 0, "RaidGroup"},
-                   {"QV_RaidGroupExpand", false, 0, "RaidGroup"},
-                   {"QV_RaidGroupDelete", true, 1},
-                   {"QV_RaidGroupAllDelete", true, 0},
-                   {"QV_CreateRaidGroup", true, 0, "CreateRaidGroup"},
-                   {"QV_GetRaidGroupInformation", true, 0},
-                   {"QV_GetRGAreaInformation", true, 1},
-                   {"QV_GetRaidGroupCreationCapacity", true, 0, "CreateRaidGroup"}});
-}
-
-TEST_F(RaidGroups, ArraysAreAsLongAsEver) {
-  EXPECT_EQ(ask("QV_GetRaidGroups", {unit_}, ""), "RaidGroup[90]");
-  const jobject none = call("QV_GetRaidGroupInformation", {unit_, session_}).result;
-  EXPECT_EQ(get(none, "rg_count"), "0");
-  EXPECT_EQ(get(none, "rg"), "RgDetail[200]");
-  EXPECT_EQ(get(none, "rg[199].valid_index"), "0");
-  EXPECT_EQ(get(none, "rgdrv[59]"), "RgDriveInfo[30]");
-  createGroup(3);
-  EXPECT_EQ(ask("QV_GetRGAreaInformation", {unit_, session_, number(3)}, "area"), "AreaInfo[8193]");
+  expectBuilt("QV_GetRaidGroups", {unit_}, 5040, at({{0, "[0]."}, {4984, "[89]."}}, kRaidGroup));
+  expectFromUnit("QV_GetRaidGroupInformation", 40004,
+                 int32sAt(0, "rg_count") + at({{4, "rg[0]."}, {11148, "rg[199]."}}, kRgDetail) +
+                     at({{11204, "rgdrv[0][0]."},
+                         {11668, "rgdrv[0][29]."},
+                         {11684, "rgdrv[1][0]."},
+                         {39988, "rgdrv[59][29]."}},
+                        kDrive));
+  expectFromUnit("QV_GetRGAreaInformation", 163880,
+                 int32sAt(0, "rgnum lumaxcapa lumaxcapa_h lumaxcapa_l area_count") +
+                     at({{20, "area[0]."}, {163860, "area[8192]."}}, kArea),
+                 {-1});
+  for (const char* const method : {"QV_RaidGroupAdd", "QV_RaidGroupExpand"}) {
+    const jobject group = create("RaidGroup");
+    expectRead(method, {unit_, group}, group, 1, 56, kRaidGroup);
+    EXPECT_EQ(lastText(method, 0), "north");
+  }
+  expectRequest("QV_CreateRaidGroup", "CreateRaidGroup", 14428, kRequest);
+  expectRequest("QV_GetRaidGroupCreationCapacity", "CreateRaidGroup", 14428, kRequest);
+  expectBuilt("QV_GetRaidGroupCreationCapacity", {unit_, session_, create("CreateRaidGroup")}, 56,
+              kRgDetail);
+  expectPassed("QV_GetRaidGroups", "u");
+  expectPassed("QV_RaidGroupDelete", "usi");
+  expectPassed("QV_RaidGroupAllDelete", "us");
 }
 
 // Any number of drives is handed over, and the record holds 1,800.
 TEST_F(RaidGroups, DrivesOfARequest) {
-  const jobject request = create("CreateRaidGroup");
-  set(request, "parity_count", "9");
-  const auto sent = [&] {
+  const jobject request = create("CreateRaidGroup", {{"parity_count", "9"}});
+  const auto expectSent = [&] {
     quorvelSimForceResult("QV_CreateRaidGroup", 0, 1);
-    const std::string failure = change("QV_CreateRaidGroup", {unit_, session_, request});
-    EXPECT_EQ(inputInt("QV_CreateRaidGroup", 2, 24), 9);
-    return failure;
+    EXPECT_EQ(run("QV_CreateRaidGroup", request), "");
+    EXPECT_EQ(lastInt("QV_CreateRaidGroup", 2, 24), 9);
   };
-  EXPECT_EQ(sent(), "");  // null
+  expectSent();  // null
   setLength(request, "rgdrv", 0);
-  EXPECT_EQ(sent(), "");
-  set(request, "rgdrv[1799].hdu_no", "1799");
-  set(request, "rgdrv[1800].hdu_no", "1800");
-  EXPECT_EQ(sent(), "");
-  EXPECT_EQ(inputInt("QV_CreateRaidGroup", 2, 14424), 1799);
-  EXPECT_EQ(quorvelSimCallCount("QV_CreateRaidGroup"), 3);
+  expectSent();
+  set(request, {{"rgdrv[1799].hdu_no", "1799"}, {"rgdrv[1800].hdu_no", "1800"}});
+  expectSent();
+  EXPECT_EQ(lastInt("QV_CreateRaidGroup", 2, 14424), 1799);
 }
 
-TEST_F(RaidGroups, MissingObjectsReachTheLibraryUnread) {
-  for (const char* const method : {"QV_RaidGroupAdd", "QV_RaidGroupExpand"}) {
-    quorvelSimForceResult(method, 0, 1);
-    EXPECT_EQ(change(method, {unit_, nullptr}), "");
-  }
-  quorvelSimForceResult("QV_CreateRaidGroup", 20503, 1);
-  EXPECT_EQ(change("QV_CreateRaidGroup", {unit_, nullptr, nullptr}), "DiskArrayException 20503");
-  EXPECT_EQ(quorvelSimCallCount("QV_CreateRaidGroup"), 1);
-  EXPECT_EQ(call("QV_GetRaidGroups", {nullptr}).failure, "DiskArrayException 258");
-  EXPECT_EQ(quorvelSimCallCount("QV_GetRaidGroups"), 0);
-}
-
-TEST_F(RaidGroups, CapacitiesAddUp) {
-  const jobject request = create("CreateRaidGroup");
-  setAll(request, {{"rgnum", 7}, {"level", 5}, {"parity_hdu_count", 5}, {"parity_count", 2}});
-  setLength(request, "rgdrv", 0);
-  const jobject planned =
-      call("QV_GetRaidGroupCreationCapacity", {unit_, session_, request}).result;
-  EXPECT_EQ(get(planned, "total_capa_h"), "3");
-  EXPECT_EQ(get(planned, "total_capa_l"), "-1551667840");
-  EXPECT_EQ(ask("QV_GetRaidGroupInformation", {unit_, session_}, "rg_count"), "0");
-
+TEST_F(RaidGroups, CapacitiesOfAGroup) {
   EXPECT_EQ(createGroup(7), "");
   EXPECT_EQ(createGroup(7), "DiskArrayException 20502");
   EXPECT_EQ(createLu(1, 7, 1, INT32_MIN), "");
-  EXPECT_EQ(createLu(2, 7, 2, 595815808), "");
-  EXPECT_EQ(createLu(3, 7, 0, 1), "DiskArrayException 20503");
-  EXPECT_EQ(change("QV_LogicalUnitDeleteByLUN", {unit_, session_, number(1)}), "");
-
-  const jobject information = call("QV_GetRaidGroupInformation", {unit_, session_}).result;
-  EXPECT_EQ(get(information, "rg[0].total_capa_h"), "3");
-  EXPECT_EQ(get(information, "rg[0].rest_capa_h"), "1");
-  EXPECT_EQ(get(information, "rg[0].rest_capa_l"), "-2147483648");
-  EXPECT_EQ(get(information, "rg[0].lu_count"), "1");
-  EXPECT_EQ(get(information, "rgdrv[0][0].next_hdu_no"), "1");
-  EXPECT_EQ(get(information, "rgdrv[0][9].next_hdu_no"), "-1");
-  EXPECT_EQ(get(information, "rgdrv[0][9].paritygroup_no"), "1");
-  EXPECT_EQ(get(information, "rgdrv[0][10].valid_index"), "0");
-
-  const jobject areas = call("QV_GetRGAreaInformation", {unit_, session_, number(7)}).result;
-  EXPECT_EQ(get(areas, "area_count"), "2");
-  EXPECT_EQ(get(areas, "lumaxcapa_h"), "1");
-  EXPECT_EQ(get(areas, "lumaxcapa"), "2147483647");
-  EXPECT_EQ(get(areas, "area[0].lun"), "-1");
-  EXPECT_EQ(get(areas, "area[1].lun"), "2");
-
-  EXPECT_EQ(change("QV_RaidGroupDelete", {unit_, session_, number(7)}), "DiskArrayException 20504");
-  EXPECT_EQ(change("QV_LogicalUnitDelete", {unit_}), "");
-  EXPECT_EQ(change("QV_RaidGroupDelete", {unit_, session_, number(7)}), "");
-  EXPECT_EQ(change("QV_RaidGroupDelete", {unit_, session_, number(7)}), "DiskArrayException 20501");
-}
-
-TEST_F(RaidGroups, ShortForm) {
-  const jobject group = create("RaidGroup");
-  setAll(group, {{"rgnum", 4}, {"level", 6}, {"width", 6}, {"depth", 1}});
-  EXPECT_EQ(change("QV_RaidGroupAdd", {unit_, group}), "");
-  set(group, "depth", "3");
-  EXPECT_EQ(change("QV_RaidGroupExpand", {unit_, group}), "");
-  EXPECT_EQ(change("QV_RaidGroupExpand", {unit_, group}), "DiskArrayException 20503");
+  expectFields(information("QV_GetRaidGroupInformation"), {{"rg", "RgDetail[200]"},
+                                                           {"rg[0].total_capa_h", "3"},
+                                                           {"rg[0].total_capa_l", "-1551667840"},
+                                                           {"rg[0].lu_count", "1"},
+                                                           {"rg[1].valid_index", "0"},
+                                                           {"rgdrv[59]", "RgDriveInfo[30]"},
+                                                           {"rgdrv[0][9].next_hdu_no", "-1"}});
+  expectFields(information("QV_GetRGAreaInformation", 7),
+               {{"area", "AreaInfo[8193]"}, {"area[0].lun", "1"}});
   const jobject groups = call("QV_GetRaidGroups", {unit_}).result;
-  EXPECT_EQ(get(groups, "[0].rgnum"), "4");
-  EXPECT_EQ(get(groups, "[0].depth"), "3");
-  EXPECT_EQ(get(groups, "[0].rest_h"), "5");
-  EXPECT_EQ(get(groups, "[1].rgnum"), "-1");
-  set(group, "width", "121");
-  set(group, "rgnum", "5");
-  EXPECT_EQ(change("QV_RaidGroupAdd", {unit_, group}), "DiskArrayException 20503");
-  EXPECT_EQ(change("QV_RaidGroupAllDelete", {unit_, session_}), "");
-  EXPECT_EQ(ask("QV_GetRaidGroups", {unit_}, "[0].rgnum"), "-1");
-}
-
-TEST_F(RaidGroups, ChosenDrives) {
-  const jobject request = create("CreateRaidGroup");
-  setAll(request, {{"create_mode", 1}, {"level", 1}, {"parity_hdu_count", 2}, {"parity_count", 1}});
-  set(request, "rgdrv[0].unit_no", "7");
-  set(request, "rgdrv[0].hdu_no", "14");
-  set(request, "rgdrv[1].unit_no", "2");
-  EXPECT_EQ(change("QV_CreateRaidGroup", {unit_, session_, request}), "");
-  const jobject information = call("QV_GetRaidGroupInformation", {unit_, session_}).result;
-  EXPECT_EQ(get(information, "rg[0].start_unit_no"), "7");
-  EXPECT_EQ(get(information, "rgdrv[7][14].next_unit_no"), "2");
-  set(request, "rgnum", "1");
-  EXPECT_EQ(change("QV_CreateRaidGroup", {unit_, session_, request}), "DiskArrayException 20504");
+  expectFields(groups, {{"", "RaidGroup[90]"}, {"[0].rgnum", "7"}, {"[1].rgnum", "-1"}});
 }
 
 }  // namespace

@@ -1,10 +1,10 @@
 // Remote paths, consistency groups and what else remote pairs need, in a real Java process.
-#include "tests/real_jvm/replication_fixture.h"
+#include "tests/real_jvm/registered_unit.h"
 
 namespace quorvelj::testing {
 namespace {
 
-class RemotePaths : public Replication {
+class RemotePaths : public RegisteredUnit {
  protected:
   /// Members under an element: its path goes before theirs, its place is added.
   static Members in(const std::string& path, std::size_t offset, Members members) {

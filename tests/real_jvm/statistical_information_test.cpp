@@ -1,8 +1,5 @@
 // The array's internal counters in a real Java process.
-#include <gtest/gtest.h>
-
-#include "simulator/control.h"
-#include "tests/support/real_jvm.h"
+#include "tests/real_jvm/registered_unit.h"
 
 namespace quorvelj::testing {
 namespace {
@@ -57,16 +54,9 @@ const std::vector<Entry> kEntries{
     {"unit", 825092, 20, {int32At(0, "battery"), int32At(12, "upst"), int32At(16, "backup_power")}},
 };
 
-class StatisticalInformation : public ::testing::Test {
+class StatisticalInformation : public RegisteredUnit {
  protected:
-  StatisticalInformation() {
-    quorvelSimReset();
-    realJvm()->PushLocalFrame(64);
-    arguments_ = {text("u"), create("QVSessionInfo"), number(3)};
-  }
-  ~StatisticalInformation() override { realJvm()->PopLocalFrame(nullptr); }
-
-  std::vector<jobject> arguments_;
+  std::vector<jobject> arguments_{unit_, session_, number(3)};
 };
 
 TEST_F(StatisticalInformation, Record) {

@@ -122,12 +122,12 @@ TEST_F(UnitCondition, Records) {
              {int32At(0, "login_request"), textAt(4, 257, "user_id"), textAt(261, 257, "passwd"),
               bytesAt(518, 32, "session.session_id")});
   expectBuilt("QV_GetArrayCondition", {unit_, request}, 100,
-              joined({int32sAt(0, {"login_kind", "valid_index", "login_result"}),
-                      {int32At(12, "operation_auth[0]"), int32At(44, "operation_auth[8]")},
-                      int32sAt(48, {"alert_valid", "alert[0]", "alert[1]", "alert_sa", "lu_count",
-                                    "all_lu_capa_h", "all_lu_capa_l", "unused_drive_count",
-                                    "unused_drive_capa_h", "unused_drive_capa_l", "drive_count",
-                                    "all_drive_capa_h", "all_drive_capa_l"})}));
+              int32sAt(0, {"login_kind", "valid_index", "login_result"}) +
+                  Members{int32At(12, "operation_auth[0]"), int32At(44, "operation_auth[8]")} +
+                  int32sAt(48, {"alert_valid", "alert[0]", "alert[1]", "alert_sa", "lu_count",
+                                "all_lu_capa_h", "all_lu_capa_l", "unused_drive_count",
+                                "unused_drive_capa_h", "unused_drive_capa_l", "drive_count",
+                                "all_drive_capa_h", "all_drive_capa_l"}));
 }
 
 TEST_F(UnitCondition, ArraysHaveTheirFullLength) {

@@ -1,10 +1,10 @@
 // Moving logical units, and whole arrays, in a real Java process.
-#include "tests/real_jvm/replication_fixture.h"
+#include "tests/real_jvm/registered_unit.h"
 
 namespace quorvelj::testing {
 namespace {
 
-class VolumeMigration : public Replication {
+class VolumeMigration : public RegisteredUnit {
  protected:
   static jobject reservationOf(int lun) {
     const jobject reserve = create("LuMigrationReserve");
