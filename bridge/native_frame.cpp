@@ -60,4 +60,22 @@ void fillPartialArray(JNIEnv* env, jobjectArray array, const ClassMap& map, cons
   }
 }
 
+jobjectArray finishPartialArrayQuery(JNIEnv* env, int result, const ClassMap& map, void* records,
+                                     jsize length, std::size_t recordBytes) {
+  if (result != 0) {
+    releaseRecord(records);
+    throwArrayException(env, result);
+    return nullptr;
+  }
+  const jobjectArray array = newObjectArrayByName(env, map.className, length);
+  if (array != nullptr) {
+    fillPartialArray(env, array, map, records, length, recordBytes);
+  }
+  releaseRecord(records);
+  if (array != nullptr) {
+    flushOutput();
+  }
+  return array;
+}
+
 }  // namespace quorvelj

@@ -68,6 +68,12 @@ bool storeBuilt(JNIEnv* env, jobjectArray array, jsize index, const ClassMap& ma
 void fillPartialArray(JNIEnv* env, jobjectArray array, const ClassMap& map, const void* records,
                       jsize length, std::size_t recordBytes);
 
+/// Ends a query whose array is returned as far as its elements can be built: throws what the
+/// library returned, or fills a new array. Releases the records. Returns the array; null with the
+/// exception, or where the array itself cannot be made.
+jobjectArray finishPartialArrayQuery(JNIEnv* env, int result, const ClassMap& map, void* records,
+                                     jsize length, std::size_t recordBytes);
+
 /// One parameter of a library function, made from the Java argument in its place.
 template <class Parameter>
 class Argument;

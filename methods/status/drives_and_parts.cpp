@@ -191,22 +191,8 @@ NATIVE_METHOD(jobjectArray, GetDriveInformationAll, jstring unit, jobject sessio
   }
   const int result = inputs.call(QV_GetDriveInformationAll, drives);
   inputs.releaseAll();
-  if (result != 0) {
-    releaseRecord(drives);
-    throwArrayException(env, result);
-    return nullptr;
-  }
-  const jobjectArray array =
-      newObjectArrayByName(env, ClassOf<DiskDriveInformation>::kName, kFlatDrives);
-  if (array == nullptr) {
-    releaseRecord(drives);
-    return nullptr;
-  }
-  fillPartialArray(env, array, ClassOf<DiskDriveInformation>::kMap, drives, kFlatDrives,
-                   sizeof(DiskDriveInformation));
-  releaseRecord(drives);
-  flushOutput();
-  return array;
+  return finishPartialArrayQuery(env, result, ClassOf<DiskDriveInformation>::kMap, drives,
+                                 kFlatDrives, sizeof(DiskDriveInformation));
 }
 
 // Departs from every frame: the name may be null, nothing is flushed by the method itself, the

@@ -149,20 +149,8 @@ NATIVE_METHOD(jobjectArray, GetLogicalUnit, jstring unit, jobject session) {
   }
   const int result = inputs.call(QV_GetLogicalUnit, list);
   inputs.releaseAll();
-  if (result != 0) {
-    releaseRecord(list);
-    throwArrayException(env, result);
-    return nullptr;
-  }
-  const jobjectArray array = newObjectArrayByName(env, ClassOf<LogicalUnit>::kName, 8192);
-  if (array != nullptr) {
-    fillPartialArray(env, array, ClassOf<LogicalUnit>::kMap, list, 8192, sizeof(LogicalUnit));
-  }
-  releaseRecord(list);
-  if (array != nullptr) {
-    flushOutput();
-  }
-  return array;
+  return finishPartialArrayQuery(env, result, ClassOf<LogicalUnit>::kMap, list, 8192,
+                                 sizeof(LogicalUnit));
 }
 
 // Departs from the query frame: the list is in this function's own frame, nothing is flushed, a

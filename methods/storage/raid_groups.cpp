@@ -68,18 +68,6 @@ NATIVE_METHOD(jobjectArray, GetRaidGroups, jstring unit) {
     return nullptr;
   }
   const int result = inputs.call(QV_GetRaidGroups, groups);
-  if (result != 0) {
-    releaseRecord(groups);
-    throwArrayException(env, result);
-    return nullptr;
-  }
-  const jobjectArray array = newObjectArrayByName(env, ClassOf<RaidGroup>::kName, 90);
-  if (array != nullptr) {
-    fillPartialArray(env, array, ClassOf<RaidGroup>::kMap, groups, 90, sizeof(RaidGroup));
-  }
-  releaseRecord(groups);
-  if (array != nullptr) {
-    flushOutput();
-  }
-  return array;
+  return finishPartialArrayQuery(env, result, ClassOf<RaidGroup>::kMap, groups, 90,
+                                 sizeof(RaidGroup));
 }
