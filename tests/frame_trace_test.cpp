@@ -19,14 +19,21 @@ Events setText(const std::string& name, const std::string& text) {
 
 TEST_F(FrameTrace, Query) {
   const char* const method = "QV_GetAccountBannerAuth";
-  expectEvents(trace(method), kBegin + Events{"malloc 6004", method, "free", "flush"} +
-                                  newObject("AccountBanner") + setInt("warning_banner_display") +
+  const Events called = kBegin + Events{"malloc 6004", method, "free"};
+  const Events begun = called + Events{"flush"} + newObject("AccountBanner");
+  expectEvents(trace(method), begun + setInt("warning_banner_display") +
                                   setText("warning_banner", "") + Events{"free", "flush"});
-  quorvelSimForceResult("*", 7, 1);
-  expectEvents(trace(method), kBegin + Events{"malloc 6004", method, "free", "free"} + kThrow);
-  jvm_.clearPending();
   resetTestRuntime(2);
   expectEvents(trace(method), kBegin + Events{"malloc 6004"} + kThrowOutOfMemory);
+  resetTestRuntime();
+  jvm_.clearPending();
+  jvm_.removeField("warning_banner_display");
+  expectEvents(
+      trace(method),
+      begun + Events{"GetObjectClass", "GetFieldID warning_banner_display I", "free"} + kThrow);
+  EXPECT_EQ(thrown(), "DiskArrayException 2817");
+  quorvelSimForceResult("*", 7, 1);
+  expectEvents(trace(method), called + Events{"free"} + kThrow);
 }
 
 TEST_F(FrameTrace, NestedObjectsAndArrays) {
@@ -82,7 +89,7 @@ TEST_F(FrameTrace, Value) {
   EXPECT_EQ(result, 42);
   expectEvents(count(-9), kBegin + Events{"library", "free"} + kThrow);
   EXPECT_EQ(result, 0);
-  EXPECT_EQ(jvm_.pending()->code, -9);
+  EXPECT_EQ(thrown(), "DiskArrayException -9");
 }
 
 int listAccounts(const UnitName*, AccountIdentifier (*list)[2]) {

@@ -112,6 +112,15 @@ class TracedMethods : public ::testing::Test {
   }
   Events trace(const char* method) { return trace(method, argumentsOf(method)); }
 
+  /// Takes the pending exception: "DiskArrayException 258", "OutOfMemoryError" or "".
+  std::string thrown() {
+    const auto pending = jvm_.pending();
+    jvm_.clearPending();
+    const std::string name =
+        pending ? pending->className.substr(pending->className.rfind('/') + 1) : "";
+    return name == "DiskArrayException" ? name + ' ' + std::to_string(pending->code) : name;
+  }
+
   MiniJvm jvm_;
   jvalue result_{};
 };
