@@ -8,13 +8,13 @@ namespace {
 
 using DrivesAndParts = RegisteredUnit;
 
-const Members kDriveInformation{
-    textAt(0, 9, "vendor"),           textAt(9, 17, "product"),
-    textAt(26, 6, "revision"),        int32At(32, "lastLBA"),
-    textAt(36, 12, "drive_capacity"), int32At(48, "add_info_index"),
-    textAt(52, 12, "serial"),         int32At(64, "unit_type"),
-    int32At(68, "drive_type"),        int32At(72, "unit_type_sub_code"),
-    int32At(76, "drive_rotation"),    textAt(80, 12, "drive_type_name")};
+const Members kDriveInformation =
+    Members{textAt(0, 9, "vendor"),           textAt(9, 17, "product"),
+            textAt(26, 6, "revision"),        int32At(32, "lastLBA"),
+            textAt(36, 12, "drive_capacity"), int32At(48, "add_info_index"),
+            textAt(52, 12, "serial")} +
+    int32sAt(64, {"unit_type", "drive_type", "unit_type_sub_code", "drive_rotation"}) +
+    Members{textAt(80, 12, "drive_type_name")};
 const Members kDrive = int32sAt(0, {"port_no", "row_no", "mount", "attribute", "drv_state",
                                     "spare_of_disk_port", "spare_of_disk_row", "drv_alert_state"});
 const Members kPart{int32At(0, "support_index"), int32At(4, "valid_index"), textAt(8, 9, "vendor"),
