@@ -45,9 +45,7 @@ class HotSpot : public ::testing::Test {
 TEST_F(HotSpot, MissingClassIsReportedByName) {
   EXPECT_EQ(newObjectByName(env_, "tessaly/str/diskarray/Nothing"), nullptr);
   EXPECT_EQ(pending(), "java.lang.ClassNotFoundException: tessaly/str/diskarray/Nothing");
-}
-
-TEST_F(HotSpot, ExceptionsAreThrownOverAPendingOne) {
+  // A later exception takes the place of a pending one.
   EXPECT_EQ(newObjectByName(env_, "tessaly/str/diskarray/Nothing"), nullptr);
   throwArrayException(env_, 2817);
   EXPECT_EQ(pending(), "tessaly.str.diskarray.DiskArrayException: disk array error 2817");

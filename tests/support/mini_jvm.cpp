@@ -65,6 +65,14 @@ constexpr char kBounds[] = "java/lang/ArrayIndexOutOfBoundsException";
 constexpr std::size_t kMostRows = 100;
 constexpr char kNoMemory[] = "java/lang/OutOfMemoryError";
 
+/// What JNI's functions call the elements of an array.
+template <class Element>
+constexpr const char* kNameOf = "Int";
+template <>
+constexpr const char* kNameOf<jshort> = "Short";
+template <>
+constexpr const char* kNameOf<jbyte> = "Byte";
+
 template <class Pointer>
 Pointer as(jobject reference) {
   return static_cast<Pointer>(reference);
@@ -327,13 +335,13 @@ struct MiniJvm::Functions {
   }
 
   /// The elements of a region, or null with the exception where it cannot be accessed.
-  template <class Payload>
-  static typename Payload::value_type* region(JNIEnv* env, const char* call, jarray array,
-                                              jsize start, jsize count) {
+  template <class Element>
+  static Element* region(JNIEnv* env, const char* call, jarray array, jsize start, jsize count) {
     MiniJvm& jvm = of(env);
-    const bool fails = jvm.enter(true, call, count);
+    const bool fails = jvm.enter(true, call, kNameOf<Element>, "ArrayRegion ", count);
     Object* const target = jvm.resolve(array);
-    auto* const payload = target == nullptr ? nullptr : std::get_if<Payload>(&target->payload);
+    auto* const payload =
+        target == nullptr ? nullptr : std::get_if<std::vector<Element>>(&target->payload);
     if (payload == nullptr) {
       ++jvm.misuses_;
       return nullptr;
@@ -345,45 +353,21 @@ struct MiniJvm::Functions {
     }
     return payload->data() + start;
   }
-  template <class Payload, class Value>
-  static void getRegion(JNIEnv* env, const char* call, jarray array, jsize start, jsize count,
-                        Value* values) {
-    const Value* const first = region<Payload>(env, call, array, start, count);
+  template <class Array, class Element>
+  static void JNICALL getRegion(JNIEnv* env, Array array, jsize start, jsize count,
+                                Element* values) {
+    const Element* const first = region<Element>(env, "Get", array, start, count);
     if (first != nullptr) {
       std::copy_n(first, count, values);
     }
   }
-  template <class Payload, class Value>
-  static void setRegion(JNIEnv* env, const char* call, jarray array, jsize start, jsize count,
-                        const Value* values) {
-    Value* const first = region<Payload>(env, call, array, start, count);
+  template <class Array, class Element>
+  static void JNICALL setRegion(JNIEnv* env, Array array, jsize start, jsize count,
+                                const Element* values) {
+    Element* const first = region<Element>(env, "Set", array, start, count);
     if (first != nullptr) {
       std::copy_n(values, count, first);
     }
-  }
-  static void JNICALL getIntRegion(JNIEnv* env, jintArray array, jsize start, jsize count,
-                                   jint* values) {
-    getRegion<std::vector<jint>>(env, "GetIntArrayRegion ", array, start, count, values);
-  }
-  static void JNICALL setIntRegion(JNIEnv* env, jintArray array, jsize start, jsize count,
-                                   const jint* values) {
-    setRegion<std::vector<jint>>(env, "SetIntArrayRegion ", array, start, count, values);
-  }
-  static void JNICALL getShortRegion(JNIEnv* env, jshortArray array, jsize start, jsize count,
-                                     jshort* values) {
-    getRegion<std::vector<jshort>>(env, "GetShortArrayRegion ", array, start, count, values);
-  }
-  static void JNICALL setShortRegion(JNIEnv* env, jshortArray array, jsize start, jsize count,
-                                     const jshort* values) {
-    setRegion<std::vector<jshort>>(env, "SetShortArrayRegion ", array, start, count, values);
-  }
-  static void JNICALL getByteRegion(JNIEnv* env, jbyteArray array, jsize start, jsize count,
-                                    jbyte* values) {
-    getRegion<std::vector<jbyte>>(env, "GetByteArrayRegion ", array, start, count, values);
-  }
-  static void JNICALL setByteRegion(JNIEnv* env, jbyteArray array, jsize start, jsize count,
-                                    const jbyte* values) {
-    setRegion<std::vector<jbyte>>(env, "SetByteArrayRegion ", array, start, count, values);
   }
 
   static jint* JNICALL getIntElements(JNIEnv* env, jintArray array, jboolean*) {
@@ -463,12 +447,12 @@ MiniJvm::MiniJvm() : env_{}, table_(std::make_unique<JNINativeInterface_>()) {
   table.NewByteArray = &Functions::newByteArray;
   table.GetIntArrayElements = &Functions::getIntElements;
   table.ReleaseIntArrayElements = &Functions::releaseIntElements;
-  table.GetIntArrayRegion = &Functions::getIntRegion;
-  table.SetIntArrayRegion = &Functions::setIntRegion;
-  table.GetShortArrayRegion = &Functions::getShortRegion;
-  table.SetShortArrayRegion = &Functions::setShortRegion;
-  table.GetByteArrayRegion = &Functions::getByteRegion;
-  table.SetByteArrayRegion = &Functions::setByteRegion;
+  table.GetIntArrayRegion = &Functions::getRegion;
+  table.SetIntArrayRegion = &Functions::setRegion;
+  table.GetShortArrayRegion = &Functions::getRegion;
+  table.SetShortArrayRegion = &Functions::setRegion;
+  table.GetByteArrayRegion = &Functions::getRegion;
+  table.SetByteArrayRegion = &Functions::setRegion;
   env_.env.functions = table_.get();
   env_.jvm = this;
 }
@@ -523,9 +507,6 @@ MiniJvm::Object* MiniJvm::make(Class* type) {
 }
 
 MiniJvm::Object* MiniJvm::makeInput(const std::string& signature) {
-  if (profile.nulls) {
-    return nullptr;
-  }
   Object* const object = make(findClass("Input"));
   if (signature == kText) {
     object->type = findClass("java/lang/String");
@@ -660,11 +641,6 @@ jintArray MiniJvm::newInts(const std::vector<jint>& values) {
   Object* const object = make(findClass("[I"));
   object->payload = values;
   return as<jintArray>(refer(object));
-}
-
-void MiniJvm::setInt(jobject object, const std::string& name, jint value) {
-  Object* const target = resolve(object);
-  slotOf(target, findMember(target->type, name.c_str(), "I")) = {true, value, nullptr};
 }
 
 void MiniJvm::setObject(jobject object, const std::string& name, const std::string& signature,

@@ -23,7 +23,6 @@ struct InputProfile {
   std::string text = "text";
   std::size_t primitives = 8192;  // elements of int, byte and short arrays
   std::size_t objects = 3;        // elements of object arrays
-  bool nulls = false;             // instead of objects, arrays and texts
 };
 
 struct PendingException {
@@ -55,7 +54,6 @@ class MiniJvm {
   /// The value of an argument of this JNI type: an int, a text, an input or an array of inputs.
   jvalue newArgument(const std::string& signature);
   jintArray newInts(const std::vector<jint>& values);
-  void setInt(jobject object, const std::string& name, jint value);
   void setObject(jobject object, const std::string& name, const std::string& signature,
                  jobject value);
   InputProfile profile;

@@ -1,0 +1,318 @@
+// The order of calls in the methods that depart from the frames, and what they make of a failure.
+#include <cstdint>
+
+#include "tests/support/traced_methods.h"
+
+namespace quorvelj::testing {
+namespace {
+
+class DepartureTrace : public TracedMethods {
+ protected:
+  /// The place of each element that is null.
+  std::vector<int> nullsOf(jobject array, std::size_t length) {
+    const std::vector<jobject> elements = jvm_.elementsOf(array);
+    EXPECT_EQ(elements.size(), length);
+    std::vector<int> nulls;
+    for (std::size_t index = 0; index < elements.size(); ++index) {
+      if (elements[index] == nullptr) {
+        nulls.push_back(static_cast<int>(index));
+      }
+    }
+    return nulls;
+  }
+  /// What a call does, of the JNI calls those that tell which classes and fields are visited.
+  Events story(const char* method) {
+    Events told = only(trace(method), {"flush", "malloc", "free", "QV_", "GetFieldID", "Throw",
+                                       "NewStringUTF", "NewObjectArray", "GetStringUTFChars"});
+    for (std::string& event : told) {
+      event = event.substr(0, event.find(' ', event.find(' ') + 1));
+    }
+    return told;
+  }
+};
+
+TEST_F(DepartureTrace, UnitCount) {
+  expectEvents(trace("QV_GetUnitCount"), {"QV_GetUnitCount"});
+  quorvelSimForceResult("*", 7, 1);
+  expectEvents(trace("QV_GetUnitCount"), Events{"QV_GetUnitCount"} + kThrow);
+}
+
+TEST_F(DepartureTrace, UnitTable) {
+  jvalue count{};
+  expectEvents(trace("QV_GetUnitParamTable", {count}),
+               Events{"calloc 0 x 612", "QV_GetUnitParamTable"} + newArray("QVUnitParam", 0) +
+                   Events{"flush", "free"});
+  jvm_.removeClass("tessaly/str/diskarray/QVUnitParam");
+  invoke("QV_GetUnitParamTable", {count});
+  EXPECT_EQ(thrown(), "DiskArrayException -1");
+  count.i = -1;
+  expectEvents(trace("QV_GetUnitParamTable", {count}),
+               {"calloc " + std::to_string(SIZE_MAX) + " x 612"});
+}
+
+TEST_F(DepartureTrace, DiscoveryReleasesItsRequestWithoutMemory) {
+  resetTestRuntime(2);
+  expectEnd(trace("QV_DiscoverUnitInformation"), Events{"malloc 276", "free"} + kThrowOutOfMemory);
+}
+
+TEST_F(DepartureTrace, LoginUser) {
+  quorvelSimPrepareOutput("*", "user\0            \0host", 22);
+  expectEvents(trace("QV_GetLoginUser"),
+               Events{"flush"} + kCopyName +
+                   Events{"QV_GetLoginUser", "NewStringUTF user", "NewStringUTF ",
+                          "FindClass java/lang/String", "NewObjectArray 2", "DeleteLocalRef",
+                          "SetObjectArrayElement", "SetObjectArrayElement", "DeleteLocalRef",
+                          "DeleteLocalRef", "flush"});
+  // A text that cannot be made is null.
+  jvm_.failCall(jvm_.fallibleCalls() + 2);
+  EXPECT_EQ(nullsOf(invoke("QV_GetLoginUser").l, 2), (std::vector<int>{0}));
+  jvm_.removeClass("java/lang/String");
+  invoke("QV_GetLoginUser");
+  EXPECT_EQ(thrown(), "DiskArrayException 2817");
+}
+
+TEST_F(DepartureTrace, PasswordCheckKeepsTheCharacters) {
+  expectEvents(trace("QV_PasswdCheck"), {"flush", "GetStringUTFChars", "QV_PasswdCheck", "flush"});
+}
+
+TEST_F(DepartureTrace, ClockKeepsTheSession) {
+  const Events head = kCopyName + Events{"malloc 32"} + kReadSession;
+  Events expected = head + Events{"QV_GetUnitTime", "flush"} + newObject("QVTime");
+  for (const char* const field : {"tm_sec", "tm_min", "tm_hour", "tm_mday", "tm_mon", "tm_year",
+                                  "tm_wday", "tm_yday", "tm_isdst"}) {
+    expected = expected + setInt(field);
+  }
+  expectEvents(trace("QV_GetUnitTime"), expected);
+  std::vector<jvalue> arguments = argumentsOf("QV_SetUnitTime");
+  arguments[2].l = nullptr;
+  expectEvents(trace("QV_SetUnitTime", arguments), head + kThrow);
+  EXPECT_EQ(thrown(), "DiskArrayException -1");
+  expectEvents(trace("QV_SetUnitTimeNow"), head + Events{"QV_SetUnitTimeNow"});
+}
+
+TEST_F(DepartureTrace, FlatStatusKeepsTheSessionAndStoresEveryElement) {
+  const Events events = trace("QV_GetDriveStatus");
+  expectStart(events, kCopyName + Events{"malloc 32"} + kReadSession + Events{"QV_GetDriveStatus"} +
+                          newArray("DiskDrive", 450) + Events{"flush"});
+  expectEnd(events, {"SetObjectArrayElement", "DeleteLocalRef"});
+  EXPECT_EQ(countOf(events, "free"), 0);
+
+  // An element that cannot be built is stored like the others.
+  jvm_.failCall(jvm_.fallibleCalls() + 500);
+  EXPECT_EQ(countOf(trace("QV_GetDriveStatus"), "SetObjectArrayElement"), 450);
+  EXPECT_EQ(thrown(), "NoSuchFieldError");
+  jvm_.removeClass("tessaly/str/diskarray/DiskDrive");
+  EXPECT_EQ(invoke("QV_GetDriveStatus").l, nullptr);
+  EXPECT_EQ(thrown(), "ClassNotFoundException");
+}
+
+TEST_F(DepartureTrace, FlatInformationIsPartialWithoutAnException) {
+  const Events events = trace("QV_GetDriveInformationAll");
+  expectStart(events, kBegin + Events{"malloc 41400", "QV_GetDriveInformationAll", "free"} +
+                          newArray("DiskDriveInformation", 450) + Events{"flush"});
+  expectEnd(events, {"SetObjectArrayElement", "DeleteLocalRef", "free", "flush"});
+
+  jvm_.failCall(jvm_.fallibleCalls() + 500);
+  const std::vector<int> nulls = nullsOf(invoke("QV_GetDriveInformationAll").l, 450);
+  ASSERT_FALSE(nulls.empty());
+  EXPECT_GT(nulls.front(), 0);
+  EXPECT_EQ(nulls.size(), static_cast<std::size_t>(450 - nulls.front()));
+  EXPECT_EQ(thrown(), "NoSuchFieldError");
+  jvm_.removeField("drive_rotation");
+  EXPECT_EQ(nullsOf(invoke("QV_GetDriveInformationAll").l, 450).size(), 450U);
+  jvm_.removeClass("tessaly/str/diskarray/DiskDriveInformation");
+  EXPECT_EQ(invoke("QV_GetDriveInformationAll").l, nullptr);
+  EXPECT_EQ(thrown(), "ClassNotFoundException");
+}
+
+TEST_F(DepartureTrace, PinTable) {
+  expectEvents(trace("QV_GetPinInfo2"),
+               kBegin + Events{"QV_GetPinInfo2", "free", "NewIntArray 8192",
+                               "SetIntArrayRegion 8192", "ExceptionOccurred", "flush"});
+  jvm_.failCall(jvm_.fallibleCalls() + 5);
+  EXPECT_EQ(invoke("QV_GetPinInfo2").l, nullptr);
+  EXPECT_EQ(thrown(), "DiskArrayException 2817");
+}
+
+TEST_F(DepartureTrace, CrosscallAllocatesBothInputsBeforeItReadsThem) {
+  const Events head{
+      "flush",          "GetStringUTFChars",      "malloc 32", "malloc 8", "GetFieldID session_id",
+      "GetFieldID ctl", "GetFieldID forced_mode", "malloc 12"};
+  expectEvents(
+      story("QV_MicroReplaceCrosscall"),
+      head + Events{"QV_MicroReplaceCrosscall", "free", "free", "flush", "GetFieldID valid",
+                    "GetFieldID WaitCancelreq", "GetFieldID ReplaceCTL", "free", "flush"});
+  resetTestRuntime(3);
+  expectEvents(story("QV_MicroReplaceCrosscall"),
+               head + Events{"ThrowNew java/lang/OutOfMemoryError"});
+}
+
+TEST_F(DepartureTrace, ReplacementThatGoesOnIsBuiltAndFlushed) {
+  quorvelSimForceResult("*", 4109, 1);
+  expectEvents(story("QV_MicroReplaceEx"),
+               {"flush", "GetStringUTFChars", "malloc 32", "GetFieldID session_id", "malloc 12",
+                "QV_MicroReplaceEx", "free", "flush", "GetFieldID valid",
+                "GetFieldID WaitCancelreq", "GetFieldID ReplaceCTL", "free", "flush"});
+}
+
+TEST_F(DepartureTrace, MailSettingsAreBuiltFromTheStackWithoutFlushesAround) {
+  expectEvents(story("QV_GetEmailInfo"),
+               {"QV_GetEmailInfo", "flush", "GetFieldID on_off", "NewStringUTF ",
+                "GetFieldID domain", "NewStringUTF ", "GetFieldID smtp", "NewStringUTF ",
+                "GetFieldID from", "GetFieldID tonum", "NewObjectArray 0", "GetFieldID to"});
+  // Those that cannot be built are null without a code.
+  jvm_.removeField("smtp");
+  jvm_.removeField("tonum");
+  EXPECT_EQ(invoke("QV_GetEmailInfo").l, nullptr);
+  EXPECT_EQ(thrown(), "NoSuchFieldError");
+}
+
+TEST_F(DepartureTrace, SessionStaysWithTheFilesOfSnmp) {
+  quorvelSimForceResult("*", 7, 1);
+  expectEvents(story("QV_SetSnmpConfig"),
+               {"flush", "GetStringUTFChars", "GetStringUTFChars", "GetStringUTFChars", "malloc 32",
+                "GetFieldID session_id", "QV_SetSnmpConfig", "Throw"});
+}
+
+TEST_F(DepartureTrace, FibrePermissionsFlushAndAllocateNothing) {
+  const Events events = trace("QV_FibreInfoPermissionImport");
+  expectStart(events,
+              kCopyName + kCopyName + Events{"QV_FibreInfoPermissionImport"} +
+                  newArray("FibreInformationPermission", 128) +
+                  Events{"flush", "FindClass tessaly/str/diskarray/FibreInformationPermission"});
+  // Only the builders flush, and the last element is the end.
+  EXPECT_EQ(countOf(events, "flush"), 128);
+  expectEnd(events, kStore);
+
+  jvm_.removeClass("tessaly/str/diskarray/FibreInformationPermission");
+  invoke("QV_FibreInfoPermissionImport");
+  EXPECT_EQ(thrown(), "DiskArrayException 2817");
+
+  quorvelSimForceResult("*", 7, 1);
+  expectEvents(trace("QV_FibreInfoPermissionImport", std::vector<jvalue>(3)),
+               Events{"QV_FibreInfoPermissionImport"} + kThrow);
+  char name[65] = {};
+  EXPECT_EQ(quorvelSimLastInput("QV_FibreInfoPermissionImport", 0, name, sizeof name), 65U);
+  EXPECT_EQ(name[0], '\0');
+}
+
+TEST_F(DepartureTrace, MappingOfAGroup) {
+  expectEvents(
+      trace("QV_GetLuMappingList"),
+      kBegin +
+          Events{"malloc 8192", "QV_GetLuMappingList", "free", "FindClass java/lang/Object",
+                 "NewObjectArray 2", "DeleteLocalRef", "FindClass java/lang/Integer",
+                 "GetMethodID <init> (I)V", "NewObject", "DeleteLocalRef"} +
+          kStore + Events{"flush"} + newObject("LuMappingHGInfo") +
+          Events{"NewIntArray 2048", "SetIntArrayRegion 2048", "ExceptionOccurred",
+                 "GetObjectClass", "GetFieldID lu [I", "SetObjectField", "ExceptionOccurred",
+                 "DeleteLocalRef", "DeleteLocalRef"} +
+          kStore + Events{"free", "flush"});
+}
+
+TEST_F(DepartureTrace, WholeMappingIsOneRecord) {
+  for (const char* const method :
+       {"QV_GetLuMappingListAll", "QV_GetLuMappingListAllLite", "QV_SetLuMappingListAll"}) {
+    SCOPED_TRACE(method);
+    expectEvents(only(trace(method), {"malloc", "calloc", "free"}),
+                 {"malloc 32", "malloc 33423500", "free", "free"});
+  }
+}
+
+TEST_F(DepartureTrace, NameOfNoGroupIsLeftAsItWas) {
+  for (const char* const method : {"QV_CreateHG", "QV_ChangeHG"}) {
+    std::vector<jvalue> arguments = argumentsOf(method);
+    arguments[5].l = nullptr;
+    invoke(method, arguments);
+    std::string given(33, '\0');
+    EXPECT_EQ(quorvelSimLastInput(method, 5, given.data(), given.size()), 33U);
+    EXPECT_EQ(given, std::string(33, '\xA5'));
+  }
+}
+
+TEST_F(DepartureTrace, LogicalUnitsEndAtWhatCannotBeBuilt) {
+  // An object takes 4 calls, each of its ints 5, and its store 2.
+  constexpr int kAnElement = 4 + 24 * 5 + 2;
+  constexpr int kFallibleOfThem = 3 + 24 * 2 + 1;
+  constexpr int kCopyNameReadSessionMakeArray = 3 + 7 + 3;
+  invoke("QV_GetLogicalUnit");
+  EXPECT_EQ(jvm_.calls(), kCopyNameReadSessionMakeArray + 8192 * kAnElement);
+  const int before = jvm_.fallibleCalls() - 8192 * kFallibleOfThem;
+  for (const int built : {0, 1, 40}) {
+    // The first value of an element is stored by its fifth call that can fail.
+    jvm_.failCall(jvm_.fallibleCalls() + before + built * kFallibleOfThem + 5);
+    const std::vector<int> nulls = nullsOf(invoke("QV_GetLogicalUnit").l, 8192);
+    EXPECT_EQ(thrown(), "InternalError");
+    ASSERT_EQ(nulls.size(), static_cast<std::size_t>(8192 - built));
+    EXPECT_EQ(nulls.front(), built);
+    EXPECT_EQ(testRuntime().liveRecords, 0);
+  }
+}
+
+TEST_F(DepartureTrace, ArrayOfRaidGroups) {
+  const Events events = trace("QV_GetRaidGroups");
+  EXPECT_EQ(events.size(), 11U + 90 * (1 + 4 + 14 * 5 + 2));
+  expectStart(events, Events{"flush"} + kCopyName + Events{"malloc 5040", "QV_GetRaidGroups"} +
+                          newArray("RaidGroup", 90) + Events{"flush"});
+  expectEnd(events, {"SetObjectArrayElement", "DeleteLocalRef", "free", "flush"});
+  // The name, the array, an element and its class.
+  EXPECT_EQ(jvm_.mostReferences(), 4);
+}
+
+TEST_F(DepartureTrace, FormatStatusListInItsOwnFrame) {
+  const Events events = trace("QV_LogicalUnitFormatStatusList");
+  expectStart(events, kCopyName + Events{"QV_LogicalUnitFormatStatusList", "flush",
+                                         "FindClass tessaly/str/diskarray/LuFormatStatusList"});
+  EXPECT_EQ(events.back(), "DeleteLocalRef");
+  // Each of the 2,049 builders flushes; the method does not.
+  EXPECT_EQ(countOf(events, "flush"), 2049);
+  EXPECT_EQ(testRuntime().allocations, 0);
+
+  jvm_.removeField("percent");
+  EXPECT_EQ(invoke("QV_LogicalUnitFormatStatusList").l, nullptr);
+  EXPECT_EQ(thrown(), "NoSuchFieldError");
+}
+
+TEST_F(DepartureTrace, SnapshotsWithoutMemoryAreLeftNull) {
+  resetTestRuntime(2);
+  expectEvents(trace("QV_GetPerformanceAll"),
+               kBegin + Events{"malloc 3458208", "malloc 3458208", "QV_GetPerformanceAll"} +
+                   newArray("PerformanceAll", 2) + Events{"flush", "free null", "free", "flush"});
+  EXPECT_EQ(nullsOf(result_.l, 2).size(), 2U);
+  EXPECT_EQ(thrown(), "");
+}
+
+TEST_F(DepartureTrace, SnapshotsThatTheLibraryRefuses) {
+  quorvelSimForceResult("*", 7, 2);
+  expectEvents(trace("QV_GetPerformanceAll"),
+               kBegin + Events{"malloc 3458208", "malloc 3458208", "QV_GetPerformanceAll"} +
+                   kThrow + Events{"free", "free"});
+  jvm_.clearPending();
+  expectEvents(trace("QV_GetPerformance"), kBegin + Events{"QV_GetPerformance"} + kThrow);
+}
+
+TEST_F(DepartureTrace, AFailingElementEndsThePairOfSnapshots) {
+  jvm_.removeClass("tessaly/str/diskarray/StatisticalCommand_Info");
+  EXPECT_EQ(nullsOf(invoke("QV_GetPerformance").l, 2).size(), 2U);
+  jvm_.removeClass("tessaly/str/diskarray/StatisticalCommand");
+  EXPECT_EQ(countOf(trace("QV_GetPerformance"), "Throw"), 0);
+  EXPECT_EQ(result_.l, nullptr);
+}
+
+TEST_F(DepartureTrace, OutputsReleaseBeforeTheyThrow) {
+  for (const std::size_t allocation : {1U, 5U}) {
+    resetTestRuntime(static_cast<int>(allocation));
+    Events expected = Events(5, "free") + kThrowOutOfMemory;
+    expected[allocation - 1] = "free null";
+    expectEnd(trace("QV_PerformanceOutputAll"), expected);
+    jvm_.clearPending();
+  }
+  resetTestRuntime(7);
+  expectEnd(trace("QV_PerformanceOutputGraphInfo"),
+            Events{"malloc 32", "malloc 3458208", "malloc 3458208", "malloc 3458208",
+                   "malloc 3458208", "malloc 864560", "malloc 864560"} +
+                Events(6, "free") + Events{"free null"} + kThrowOutOfMemory);
+}
+
+}  // namespace
+}  // namespace quorvelj::testing
