@@ -42,7 +42,7 @@ public final class TestBench {
         return Class.forName("tessaly.str.diskarray." + className).getConstructor().newInstance();
     }
 
-    /** The value at a path as text; an array of ints as "[1, 2]", of bytes in decimal. */
+    /** The value at a path as text; ints as "[1, 2]", bytes in decimal, other objects by their class. */
     public static String get(Object root, String path) throws ReflectiveOperationException {
         Object value = root;
         for (String step : steps(path)) {
@@ -59,7 +59,8 @@ public final class TestBench {
         if (value != null && value.getClass().isArray()) {
             return value.getClass().getSimpleName().replace("[]", "[" + Array.getLength(value) + "]");
         }
-        return String.valueOf(value);
+        boolean shown = value == null || value instanceof String || value instanceof Number;
+        return shown ? String.valueOf(value) : value.getClass().getSimpleName();
     }
 
     /** Sets the value at a path; objects and arrays on the way are made as they are needed. */

@@ -174,19 +174,38 @@ TEST_F(AllInformation, Whole) {
                      int32sAt(76038748, "cfg ctrl_condition[0] ctrl_condition[1] last_lu"));
 }
 
-TEST_F(AllInformation, WholeByTheSimulator) {
+// What is there of classes of which no field is known.
+TEST_F(AllInformation, ObjectsWithoutFields) {
   const jobject all = information("QV_GetAllInformation");
-  // What is there of classes of which no field is known.
-  for (const char* const member :
-       {"turbo_lu", "prefetch_info", "verify", "boot_opt", "on_sysparam", "on_tuning", "tuning",
-        "pre_tuning", "cache_prt", "timezonelist", "timeinfo", "systemluall", "userluall",
-        "nasosstatus", "hgopt", "portopt", "nnclaninfo"}) {
-    EXPECT_NE(get(all, member), "null") << member;
-  }
-  expectFields(all, {{"unit_conditions", "UnitCondition[2]"},
+  expectFields(all, {{"turbo_lu", "TurboLu"},
+                     {"prefetch_info", "PrefetchInformation"},
+                     {"verify", "OnlineVerify"},
                      {"on_opt", "NowWZParameter[2]"},
-                     {"pair_info.lu", "PairLUInfo[4094]"},
+                     {"on_opt[1]", "NowWZParameter"},
+                     {"boot_opt", "BootOption"},
+                     {"on_sysparam", "OnlineSystemParam"},
+                     {"on_tuning", "OnlineTuningParam"},
+                     {"tuning", "TuningParam"},
+                     {"pre_tuning", "PrefetchTuning"},
+                     {"cache_prt", "CachePartition"},
+                     {"timezonelist", "TimeZoneList"},
+                     {"timeinfo", "TimeInfo"},
+                     {"systemluall", "NASSystemLUAll"},
+                     {"userluall", "NASUserLUAll"},
+                     {"nasosstatus", "NASOSStatusList"},
                      {"account.account_info[0].user_id", "admin"}});
+  const jobject request = create("ControllerRequest");
+  expectFields(information("QV_GetAllInfo_PP", request),
+               {{"turbo_lu", "TurboLu"},
+                {"cache_prt", "CachePartition"},
+                {"unit_powersaving", "UnitPowerSavingInfo"}});
+  expectFields(information("QV_GetAllInfo_Tuning", request),
+               {{"on_tuning", "OnlineTuningParam"}, {"pre_tuning", "PrefetchTuning"}});
+  expectFields(information("QV_GetAllInfo_Config", request),
+               {{"timezonelist", "TimeZoneList"},
+                {"verify", "OnlineVerify"},
+                {"boot_opt", "BootOption"},
+                {"on_sysparam", "OnlineSystemParam"}});
 }
 
 TEST_F(AllInformation, LightForm) {

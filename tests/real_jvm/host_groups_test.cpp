@@ -196,33 +196,32 @@ TEST_F(HostGroups, WorldWideNamesAndTargets) {
 }
 
 TEST_F(HostGroups, ClassesOfUnknownFieldsAreBuilt) {
-  const auto expectOne = [](jobject result, const std::string& path, const std::string& className) {
-    const std::string shown = get(result, path);
-    EXPECT_EQ(shown.substr(0, shown.find('@')), "tessaly.str.diskarray." + className) << path;
-  };
-  const auto expectLast = [&](jobject result, const std::string& array,
-                              const std::string& className, int length) {
-    EXPECT_EQ(get(result, array), className + '[' + std::to_string(length) + ']');
-    expectOne(result, array + '[' + std::to_string(length - 1) + ']', className);
-  };
-  for (const char* const index : {"support_index", "valid_index"}) {
-    expectOne(information("QV_GetHGOptionAll"), index, "HGOptionValidIndex");
-    expectOne(information("QV_GetPortOption"), index, "PortOptionValidIndex");
-  }
-  expectLast(information("QV_GetHGParameterList"), "platinfo", "PlatformInfo", 20);
-  expectLast(information("QV_GetHGParameterList2"), "platinfo[19].middlewareinfo", "MiddlewareInfo",
-             20);
-  const jobject identifiers = information("QV_GetHGParameterID", 0);
-  expectLast(identifiers, "platform", "PlatFormID", 16);
-  expectLast(identifiers, "alternatepath", "AlternatePathID", 16);
-  expectLast(identifiers, "failover", "FailOverID", 16);
-  expectLast(identifiers, "specialmode", "SpecialModeID", 16);
-  expectLast(call("QV_GetWWNInformation", {unit_}).result, "ctl[1].port", "WWNPortInfo", 8);
-  expectLast(information("QV_GetWWNHGInformation"), "ctl[1].port", "WWNHGPortInfo", 8);
-  expectLast(call("QV_GetTargetId", {unit_, number(0)}).result, "[1].target_config.mapping",
-             "TargetLunList", 16);
-  expectOne(call("QV_WZTargetIdImport", {unit_, text("a"), text("b")}).result, "[1].target_config",
-            "WZTargetConfig");
+  expectFields(information("QV_GetHGOptionAll"),
+               {{"support_index", "HGOptionValidIndex"}, {"valid_index", "HGOptionValidIndex"}});
+  expectFields(information("QV_GetPortOption"), {{"support_index", "PortOptionValidIndex"},
+                                                 {"valid_index", "PortOptionValidIndex"}});
+  expectFields(information("QV_GetHGParameterList"),
+               {{"platinfo", "PlatformInfo[20]"}, {"platinfo[19]", "PlatformInfo"}});
+  expectFields(information("QV_GetHGParameterList2"),
+               {{"platinfo[19].middlewareinfo", "MiddlewareInfo[20]"},
+                {"platinfo[19].middlewareinfo[19]", "MiddlewareInfo"}});
+  expectFields(information("QV_GetHGParameterID", 0), {{"platform", "PlatFormID[16]"},
+                                                       {"platform[15]", "PlatFormID"},
+                                                       {"alternatepath", "AlternatePathID[16]"},
+                                                       {"alternatepath[15]", "AlternatePathID"},
+                                                       {"failover", "FailOverID[16]"},
+                                                       {"failover[15]", "FailOverID"},
+                                                       {"specialmode", "SpecialModeID[16]"},
+                                                       {"specialmode[15]", "SpecialModeID"}});
+  expectFields(call("QV_GetWWNInformation", {unit_}).result,
+               {{"ctl[1].port", "WWNPortInfo[8]"}, {"ctl[1].port[7]", "WWNPortInfo"}});
+  expectFields(information("QV_GetWWNHGInformation"),
+               {{"ctl[1].port", "WWNHGPortInfo[8]"}, {"ctl[1].port[7]", "WWNHGPortInfo"}});
+  expectFields(call("QV_GetTargetId", {unit_, number(0)}).result,
+               {{"[1].target_config.mapping", "TargetLunList[16]"},
+                {"[1].target_config.mapping[15]", "TargetLunList"}});
+  expectFields(call("QV_WZTargetIdImport", {unit_, text("a"), text("b")}).result,
+               {{"[1].target_config", "WZTargetConfig"}});
 }
 
 }  // namespace

@@ -68,10 +68,9 @@ TEST_F(UnitSession, UnitRecords) {
   // Of these two classes only some fields are known.
   expectFromUnit("QV_GetUnitIdentifier", 40, {textAt(0, 5, "equipment_id")});
   expectRequest("QV_SetUnitIdentifier", "UnitIdentifier", 40, {textAt(0, 5, "equipment_id")});
-  const jobject identifier = information("QV_GetUnitIdentifier");
-  EXPECT_EQ(get(identifier, "ctl"), "ControllerInfo[2]");
-  EXPECT_NE(get(identifier, "ctl[1]"), "null");
-  EXPECT_NE(information("QV_GetTimeInfo"), nullptr);
+  expectFields(information("QV_GetUnitIdentifier"),
+               {{"ctl", "ControllerInfo[2]"}, {"ctl[1]", "ControllerInfo"}});
+  expectFields(information("QV_GetTimeInfo"), {{"", "TimeInfo"}});
   expectRequest("QV_SetTimeInfo", "TimeInfo", 660, {});
 }
 

@@ -1,6 +1,5 @@
 // The bench of the real-JVM tests on the mini JVM, where no JVM can be had: the same tests of
 // records and behaviour, on the Java half's classes as a list made from the jar gives them.
-#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -222,9 +221,7 @@ std::string shown(jobject value, const std::string& signature) {
            std::to_string(realJvm()->GetArrayLength(static_cast<jarray>(value))) + ']';
   }
   if (className != "java/lang/String") {
-    std::string name = className;
-    std::replace(name.begin(), name.end(), '/', '.');
-    return name + "@mini";
+    return className.substr(className.rfind('/') + 1);
   }
   const auto text = static_cast<jstring>(value);
   const char* const characters = realJvm()->GetStringUTFChars(text, nullptr);

@@ -26,8 +26,8 @@ void set(jobject object, const std::string& path, const std::string& value);
 void setNull(jobject object, const char* field);
 void setLength(jobject object, const char* field, int length);
 
-/// The field at a path as text: "-1", "null", "[1, 2]", and "QVAccountRole[32]" for an array of
-/// objects.
+/// The field at a path as text: "-1", "null", "[1, 2]", "QVAccountRole[32]" for an array of objects
+/// and "QVAccountRole" for an object.
 std::string get(jobject object, const std::string& path);
 
 struct Called {
