@@ -2,29 +2,33 @@
 BUILD := build/linux
 JAVA := java -Djava.library.path=$(BUILD)/lib
 
-.PHONY: tour test benchmark dist reference clean packages-build packages-test packages-dist
+.PHONY: tour test check benchmark dist reference clean
+.PHONY: packages-build packages-test packages-check packages-dist
 
 tour: packages-build
-	cmake --preset linux -DQUORVELJ_TESTS=OFF
+	cmake --preset linux -DQUORVELJ_TESTS=OFF -DQUORVELJ_BENCHMARKS=OFF
 	cmake --build --preset linux
 	$(JAVA) -cp $(BUILD)/lib/quorvelj.jar:$(BUILD)/lib/array-tour.jar ArrayTour
 
 test: packages-test
 	scripts/test.sh
 
+check: packages-check
+	scripts/check.sh
+
 benchmark: packages-test
-	cmake --preset linux -DQUORVELJ_BENCHMARKS=ON
+	cmake --preset linux -DQUORVELJ_TESTS=ON -DQUORVELJ_BENCHMARKS=ON
 	cmake --build --preset linux
 	$(BUILD)/lib/benchmarks --benchmark_min_time=3
 
 reference: packages-test
-	cmake --preset linux
+	cmake --preset linux -DQUORVELJ_TESTS=ON -DQUORVELJ_BENCHMARKS=OFF
 	cmake --build --preset linux --target write_reference
 
 dist: packages-dist
 	scripts/dist.sh
 
-packages-build packages-test packages-dist:
+packages-build packages-test packages-check packages-dist:
 	scripts/install-packages.sh $(@:packages-%=%)
 
 clean:

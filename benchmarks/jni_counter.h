@@ -5,7 +5,7 @@
 #include <type_traits>
 #include <vector>
 
-// Counts the JNI calls of a piece of native code in a real machine: while it runs, the thread's
+// Counts the JNI calls that building takes, in a real machine: while native code runs, the thread's
 // function table is one whose entries count and go on to the machine's own.
 
 /// What one piece of native code asked of the machine.

@@ -188,8 +188,7 @@ void readElements(JNIEnv* env, const Field& field, std::size_t dimension, jobjec
     if (element != nullptr) {
       if (dimension + 1 == field.rank) {
         // An exception ends the reading of the array; any other failure is the element's own.
-        if (read(env, *field.element, element, at) == kFailed &&
-            env->ExceptionOccurred() != nullptr) {
+        if (read(env, *field.element, element, at) != kOk && env->ExceptionOccurred() != nullptr) {
           return;
         }
       } else if (dimension + 2 == field.rank && field.kind == FieldKind::kInt8) {

@@ -31,7 +31,8 @@
 //   a record, [N], [R][C], …        object, arrays         all elements              at most N
 //   a part (QUORVEL_PART)           its fields one by one  the fields                the fields
 //
-// `…` stands for a third extent; three-dimensional int and byte arrays are built only.
+// `…` stands for a third extent; three-dimensional arrays of std::int32_t and of raw bytes are
+// built only.
 namespace quorvelj {
 
 inline constexpr std::size_t kMaxRank = 3;
@@ -97,9 +98,10 @@ jobject build(JNIEnv* env, const ClassMap& map, const void* record);
 jobjectArray buildArray(JNIEnv* env, const ClassMap& map, const void* records, jsize length,
                         std::size_t recordBytes);
 
-/// Fills `record` from a Java object. Returns 0; -1 where the object, the record or an object
-/// inside it is missing; 2817 where a field could not be read. Stops at the first failure with the
-/// later members as they were, but goes on behind an object or an element that stopped inside.
+/// Fills `record` from a Java object. Returns 0; -1 where the object, the record, or an object or
+/// an array inside it is missing; 2817 where another field could not be read. Stops at the first
+/// failure with the later members as they were, but goes on behind an object or an element that
+/// stopped inside.
 int read(JNIEnv* env, const ClassMap& map, jobject object, void* record);
 
 /// Derives the field of a record member of the type `Member`.
@@ -181,7 +183,7 @@ consteval Field fieldOf(const char* name, std::size_t offset) {
   static constexpr quorvelj::Field name##Fields[] = {__VA_ARGS__}; \
   constinit const quorvelj::ClassMap name { quorvelj::ClassOf<Record>::kName, name##Fields }
 
-// macro(record, a), macro(record, b), … for up to 256 members.
+// macro(record, a), macro(record, b), … for up to 120 members.
 #define QUORVELJ_PARENTHESES ()
 #define QUORVELJ_EXPAND(...) QUORVELJ_EXPAND_3(QUORVELJ_EXPAND_3(QUORVELJ_EXPAND_3(__VA_ARGS__)))
 #define QUORVELJ_EXPAND_3(...) QUORVELJ_EXPAND_2(QUORVELJ_EXPAND_2(QUORVELJ_EXPAND_2(__VA_ARGS__)))

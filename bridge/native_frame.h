@@ -15,7 +15,8 @@
 // The call frames: what every native method does around its one library function. A regular method
 // names the function and its Java arguments in the function's order:
 //
-//   NATIVE_METHOD(jobject, GetUnitParam, jstring unit) { return query(env, QV_GetUnitParam, unit);
+//   NATIVE_METHOD(jobject, GetThreshold, jstring unit, jobject session) {
+//     return query(env, QV_GetThreshold, unit, session);
 //   }
 //
 // What becomes of an argument follows from the function's parameter in its place:
@@ -73,6 +74,11 @@ void fillPartialArray(JNIEnv* env, jobjectArray array, const ClassMap& map, cons
 /// exception, or where the array itself cannot be made.
 jobjectArray finishPartialArrayQuery(JNIEnv* env, int result, const ClassMap& map, void* records,
                                      jsize length, std::size_t recordBytes);
+template <class Record, std::size_t N>
+jobjectArray finishPartialArrayQuery(JNIEnv* env, int result, Record (*records)[N]) {
+  return finishPartialArrayQuery(env, result, ClassOf<Record>::kMap, records, static_cast<jsize>(N),
+                                 sizeof(Record));
+}
 
 /// One parameter of a library function, made from the Java argument in its place.
 template <class Parameter>

@@ -32,6 +32,10 @@ public final class ArrayTour {
     }
 
     public static void main(String[] arguments) {
+        if (arguments.length != 0 && arguments.length != 4) {
+            System.err.println("usage: ArrayTour [USER PASSWORD ADDRESS1 ADDRESS2]");
+            System.exit(2);
+        }
         ArrayTour tour = arguments.length == 4
                 ? new ArrayTour(false, arguments[0], arguments[1], arguments[2], arguments[3])
                 : new ArrayTour(true, "admin", "quorvel", "192.0.2.10", "192.0.2.20");
@@ -98,22 +102,31 @@ public final class ArrayTour {
         String unit = names[0];
         QVSessionInfo session = login(unit, password);
         System.out.println("  logged in to " + unit + " as " + user + "\n");
-        Visit visit = new Visit(unit, session);
+        try {
+            pages(new Visit(unit, session));
+        } finally {
+            ARRAY.QV_LogoutQVAccount(unit, session, new LogoutOption());
+        }
+        Visit.step("After the logout", () -> ARRAY.QV_GetOwnUserPermission(unit, session));
+    }
+
+    private void pages(Visit visit) throws DiskArrayException {
         AccountsPage.show(visit);
         UnitPage.show(visit);
         StatusPage.show(visit);
         StoragePage storage = StoragePage.show(visit);
-        HostsPage.show(visit);
-        PortsPage.show(visit);
-        MaintenancePage.show(visit);
-        if (simulated) {
-            ReplicationPage.show(visit);
+        try {
+            HostsPage.show(visit);
+            PortsPage.show(visit);
+            MaintenancePage.show(visit);
+            if (simulated) {
+                ReplicationPage.show(visit);
+            }
+            PerformancePage.show(visit);
+            WholeArrayPage.show(visit);
+        } finally {
+            storage.cleanUp();
         }
-        PerformancePage.show(visit);
-        WholeArrayPage.show(visit);
-        storage.cleanUp();
-        ARRAY.QV_LogoutQVAccount(unit, session, new LogoutOption());
-        Visit.step("After the logout", () -> ARRAY.QV_GetOwnUserPermission(unit, session));
     }
 
     private void delete() throws DiskArrayException {

@@ -12,4 +12,8 @@ cmake --build --preset linux-clang
 
 echo "== clang-tidy"
 git ls-files 'bridge/*.cpp' 'methods/**.cpp' 'simulator/*.cpp' |
-  xargs -P "$(nproc)" -n 2 clang-tidy --quiet -p build/linux-clang --warnings-as-errors='*' 2>/dev/null
+  xargs -P "$(nproc)" -n 2 clang-tidy --quiet -p build/linux-clang --warnings-as-errors='*' \
+    2>build/clang-tidy.log || {
+  grep -v ' warnings\? generated' build/clang-tidy.log >&2
+  exit 1
+}

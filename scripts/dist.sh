@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Makes dist/quorvelj-<version>.zip and .tar.gz: the DLL, the Linux libraries of both widths, the
-# jars, the library's headers and the README, with SHA-256 sums. Equal sources give equal bytes.
+# jars, the library's headers, the README and the documents, with SHA-256 sums. Equal sources give equal bytes.
 set -euo pipefail
+umask 022
 cd "$(dirname "$0")/.."
 
 version=$(sed -n 's/^project(quorvelj VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
@@ -11,7 +12,7 @@ rm -rf dist
 mkdir -p "$root"/{windows-x86,linux-x86_64,linux-i386,arraylib}
 
 for preset in windows-x86 linux-i386 linux; do
-  cmake --preset "$preset" >/dev/null
+  cmake --preset "$preset" -DQUORVELJ_TESTS=OFF -DQUORVELJ_BENCHMARKS=OFF >/dev/null
   cmake --build --preset "$preset" --target quorvelj java_half array_tour
 done
 cp build/windows-x86/lib/quorvelj.dll "$root/windows-x86/"
@@ -19,6 +20,7 @@ strip -o "$root/linux-i386/libquorvelj.so" build/linux-i386/lib/libquorvelj.so
 strip -o "$root/linux-x86_64/libquorvelj.so" build/linux/lib/libquorvelj.so
 cp build/linux/lib/{quorvelj,array-tour}.jar README.md "$root/"
 cp arraylib/*.h "$root/arraylib/"
+cp -r docs "$root/"
 (cd "$root" && find . -type f ! -name SHA256SUMS -printf '%P\n' | LC_ALL=C sort |
   xargs sha256sum >SHA256SUMS)
 

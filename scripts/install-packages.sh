@@ -9,7 +9,7 @@ tests=(binutils-mingw-w64-i686 g++-mingw-w64-i686-posix googletest libbenchmark-
 case "${1:-}" in
   build) wanted=("${build[@]}") ;;
   test) wanted=("${build[@]}" "${tests[@]}") ;;
-  check) wanted=("${build[@]}" "${tests[@]}" clang clang-format clang-tidy) ;;
+  check) wanted=("${build[@]}" "${tests[@]}" clang clang-format clang-tidy git) ;;
   wine) wanted=(wine wine32:i386) ;;
   i386) wanted=(g++-multilib openjdk-17-jre-headless:i386) ;;
   dist) wanted=("${build[@]}" "${tests[@]}" g++-multilib zip) ;;
@@ -64,7 +64,7 @@ if install || install_without_security; then
 fi
 tail -n 20 "$work/log" >&2
 echo "These packages could not be installed: ${missing[*]}" >&2
-if grep -qE '^E: (Failed to fetch|Unable to fetch|Unable to locate package)' "$work/log"; then
+if grep -qE '^[EW]: (Failed to fetch|Unable to fetch|Some index files failed)' "$work/log"; then
   exit 3
 fi
 exit 1

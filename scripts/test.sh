@@ -37,26 +37,30 @@ run() {
   ctest --preset "$@" --parallel 2
 }
 
-# The DLL's tests take long: the others are built beside them.
-build windows-x86
+presets=(linux)
 without_wine=()
 can wine "quorvelj.dll under Wine" || without_wine=(--label-exclude wine)
+can i386 "the 32-bit JVM" && presets=(linux-i386 linux)
+
+# The DLL's tests take long: the others are built beside them. They are a process group of their own,
+# so that what Wine runs ends with the script.
+build windows-x86
+set -m
 run windows-x86 "${without_wine[@]}" >build/windows-x86.log 2>&1 &
 windows_tests=$!
-trap 'kill "$windows_tests" 2>/dev/null || true' EXIT
-if can i386 "the 32-bit JVM"; then
-  build linux-i386
-  run linux-i386
-fi
-build linux
-run linux
+set +m
+trap 'kill -- "-$windows_tests" 2>/dev/null || true' EXIT
+for preset in "${presets[@]}"; do
+  build "$preset"
+  run "$preset"
+done
 code=0
 wait "$windows_tests" || code=$?
 cat build/windows-x86.log
 [ "$code" -eq 0 ] || exit "$code"
 
 echo "== summary"
-for preset in windows-x86 linux-i386 linux; do
+for preset in windows-x86 "${presets[@]}"; do
   grep -hE '^(sweep|dll|records):' "build/$preset/Testing/Temporary/LastTest.log" 2>/dev/null |
     sed "s/^/$preset /" || true
 done

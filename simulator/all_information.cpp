@@ -6,6 +6,7 @@
 #include <iterator>
 #include <memory>
 #include <tuple>
+#include <type_traits>
 
 #include "simulator/simulator.h"
 

@@ -1,5 +1,5 @@
-// The forms of the pair information: which fields each visits in which order, and what it holds on
-// to in Java while it builds 131,008 pairs.
+// The forms of the pair information: which fields each visits in which order, and that what it
+// holds on to in Java does not grow with the pairs.
 #include "tests/support/traced_methods.h"
 
 namespace quorvelj::testing {

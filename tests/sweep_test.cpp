@@ -1,9 +1,8 @@
-// Every native method, with each JNI call and each allocation failed once, the library's special
-// results, and Java inputs of every kind. What holds after each of them is checked in `check`.
+// Every native method, with JNI calls and each allocation failed once, the library's special
+// results, and Java inputs of every kind. What holds after each of them is checked in `play`.
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cstdint>
 #include <cstdio>
 #include <map>
@@ -17,13 +16,14 @@
 namespace quorvelj::testing {
 namespace {
 
-// A method with more JNI calls than this has its faults spread over them, and fewer of them the
-// longer one call takes, so that the whole sweep stays a matter of a minute.
-// The first calls, which are the frame's own, all get theirs.
+// The first JNI calls of a method, which are its frame's own, all fail once. The faults of the
+// others are spread over them, fewer the more a call of the method costs, so that the sweep stays a
+// matter of minutes. A JNI call costs 1, and as much as 64 bytes of a record.
 constexpr int kFirstCalls = 12;
-constexpr int kMostFaultsPerPass = 400;
-constexpr int kFewestFaultsPerPass = 3;
-constexpr std::chrono::milliseconds kPass{500};
+constexpr std::size_t kMostFaults = 400;
+constexpr std::size_t kFewestFaults = 3;
+constexpr std::size_t kCostOfAll = 1'500'000;
+constexpr std::size_t kBytesOfACall = 64;
 constexpr int kOrdinaryCode = 1234;
 constexpr char kText[] = "Ljava/lang/String;";
 
@@ -42,6 +42,7 @@ struct Outcome {
   jvalue result{};
   std::optional<PendingException> pending;
   int fallibleCalls = 0;
+  std::size_t cost = 1;
   int allocations = 0;
   int leakedRecords = 0;
   int libraryCalls = 0;
@@ -71,6 +72,7 @@ Outcome play(const NativeMethod& method, const Fault& fault) {
   outcome.result = method.invoke(jvm.env(), arguments);
   outcome.pending = jvm.pending();
   outcome.fallibleCalls = jvm.fallibleCalls();
+  outcome.cost += static_cast<std::size_t>(jvm.calls()) + testRuntime().mostBytes / kBytesOfACall;
   outcome.allocations = testRuntime().allocations;
   outcome.leakedRecords = testRuntime().liveRecords;
   outcome.libraryCalls = quorvelSimCallCount("*");
@@ -156,11 +158,10 @@ TEST_P(Sweep, LibraryResults) {
 
 TEST_P(Sweep, EachJniCallFails) {
   for (const int code : {0, kOrdinaryCode}) {
-    const auto start = std::chrono::steady_clock::now();
-    const int calls = play(GetParam(), {.libraryResult = code}).fallibleCalls;
-    const auto once = std::chrono::steady_clock::now() - start;
-    const auto affordable = static_cast<int>(
-        std::clamp<std::int64_t>(kPass / once, kFewestFaultsPerPass, kMostFaultsPerPass));
+    const Outcome faultless = play(GetParam(), {.libraryResult = code});
+    const int calls = faultless.fallibleCalls;
+    const auto affordable =
+        static_cast<int>(std::clamp(kCostOfAll / faultless.cost, kFewestFaults, kMostFaults));
     const int first = std::min(calls, kFirstCalls);
     const int spread = std::min(calls - first, affordable);
     for (int fault = 1; fault <= first + spread; ++fault) {

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstring>
+#include <map>
 
 #include "bridge/jni_toolkit.h"
 #include "tests/support/mini_jvm.h"

@@ -2,6 +2,7 @@
 // Usage: reference METHODS_DIRECTORY [--compare FILE]
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <map>
@@ -141,8 +142,11 @@ std::string reference(const std::filesystem::path& methods) {
   const auto definitions = definitionsIn(methods);
   for (const Method& method : kMethods) {
     const auto found = definitions.find(method.name);
-    const Definition definition =
-        found == definitions.end() ? Definition{"", "", ""} : found->second;
+    if (found == definitions.end()) {
+      std::fprintf(stderr, "no definition of %s was found\n", method.name.c_str());
+      std::exit(1);
+    }
+    const Definition& definition = found->second;
     out << "| `" << method.name << "` | " << javaArguments(method.signature) << " | "
         << javaType(method.signature.substr(method.signature.find(')') + 1)) << " | "
         << definition.family << " | "

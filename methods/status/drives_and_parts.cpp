@@ -1,4 +1,6 @@
 // Drives, parts, and what keeps them in order.
+#include <iterator>
+
 #include "arraylib/status.h"
 #include "methods/native_methods.h"
 
@@ -191,8 +193,7 @@ NATIVE_METHOD(jobjectArray, GetDriveInformationAll, jstring unit, jobject sessio
   }
   const int result = inputs.call(QV_GetDriveInformationAll, drives);
   inputs.releaseAll();
-  return finishPartialArrayQuery(env, result, ClassOf<DiskDriveInformation>::kMap, drives,
-                                 kFlatDrives, sizeof(DiskDriveInformation));
+  return finishPartialArrayQuery(env, result, drives);
 }
 
 // Departs from every frame: the name may be null, nothing is flushed by the method itself, the

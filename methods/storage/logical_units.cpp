@@ -149,8 +149,7 @@ NATIVE_METHOD(jobjectArray, GetLogicalUnit, jstring unit, jobject session) {
   }
   const int result = inputs.call(QV_GetLogicalUnit, list);
   inputs.releaseAll();
-  return finishPartialArrayQuery(env, result, ClassOf<LogicalUnit>::kMap, list, 8192,
-                                 sizeof(LogicalUnit));
+  return finishPartialArrayQuery(env, result, list);
 }
 
 // Departs from the query frame: the list is in this function's own frame, nothing is flushed, a

@@ -68,6 +68,5 @@ NATIVE_METHOD(jobjectArray, GetRaidGroups, jstring unit) {
     return nullptr;
   }
   const int result = inputs.call(QV_GetRaidGroups, groups);
-  return finishPartialArrayQuery(env, result, ClassOf<RaidGroup>::kMap, groups, 90,
-                                 sizeof(RaidGroup));
+  return finishPartialArrayQuery(env, result, groups);
 }

@@ -1,5 +1,6 @@
 // The bench of the real-JVM tests on the mini JVM, where no JVM can be had: the same tests of
 // records and behaviour, on the Java half's classes as a list made from the jar gives them.
+#include <cctype>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>

@@ -174,13 +174,6 @@ struct MiniJvm::Functions {
     }
     return jvm.refer(object);
   }
-  static jobject JNICALL newObject(JNIEnv* env, jclass type, jmethodID id, ...) {
-    va_list arguments;
-    va_start(arguments, id);
-    const jobject object = newObjectV(env, type, id, arguments);
-    va_end(arguments);
-    return object;
-  }
 
   static jint JNICALL throwObject(JNIEnv* env, jthrowable throwable) {
     MiniJvm& jvm = of(env);
@@ -422,7 +415,6 @@ MiniJvm::MiniJvm() : env_{}, table_(std::make_unique<JNINativeInterface_>()) {
   table.GetObjectClass = &Functions::getObjectClass;
   table.GetFieldID = &Functions::getFieldId;
   table.GetMethodID = &Functions::getMethodId;
-  table.NewObject = &Functions::newObject;
   table.NewObjectV = &Functions::newObjectV;
   table.Throw = &Functions::throwObject;
   table.ThrowNew = &Functions::throwNewObject;

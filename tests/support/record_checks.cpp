@@ -115,9 +115,9 @@ std::int32_t sampleNumber(const Member& member, int round) {
     case Kind::kInt32:
       return round == 0 ? 0x70000000 + offset : -1 - offset;
     case Kind::kInt8:
-      return round == 0 ? -128 : -1;
+      return round == 0 ? -128 + offset % 64 : -1 - offset % 64;
     default:
-      return round == 0 ? 128 : 255;
+      return round == 0 ? 128 + offset % 64 : 255 - offset % 64;
   }
 }
 
@@ -125,7 +125,8 @@ std::int32_t sampleNumber(const Member& member, int round) {
 std::vector<unsigned char> sampleBytes(const Member& member, int round) {
   std::vector<unsigned char> bytes(member.width);
   for (std::size_t index = 0; index < bytes.size(); ++index) {
-    bytes[index] = static_cast<unsigned char>((round == 0 ? 0x80 : 0x01) + index);
+    bytes[index] =
+        static_cast<unsigned char>((round == 0 ? 0x80 : 0x01) + member.offset % 64 + index);
   }
   return bytes;
 }
