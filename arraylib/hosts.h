@@ -20,7 +20,7 @@ QUORVEL_RECORD(HGInfo, 34);
 struct HGName {
   char hgname[33];
 };
-QUORVEL_RECORD(HGName, 33);
+QUORVEL_PART(HGName, 33);
 
 struct HGPortInfo {
   std::uint8_t security;

@@ -330,7 +330,7 @@ QUORVEL_RECORD(PerformanceOutputAllExRequest, 24056);
 struct PerformanceOutputFile {
   char filename[1024];
 };
-QUORVEL_RECORD(PerformanceOutputFile, 1024);
+QUORVEL_PART(PerformanceOutputFile, 1024);
 
 // Assumed layout: not confirmed by the library's own declarations.
 struct PerformanceCSVOutputOpt {

@@ -387,45 +387,45 @@ struct ZencopyInformation {
 QUORVEL_RECORD(ZencopyInformation, 114'696);
 
 QUORVEL_API int QV_CreateGemlynPair(const UnitName* unit, const QVSessionInfo* session,
-                                    const CreateGemlynPair* spec);
+                                    const CreateGemlynPair* request);
 QUORVEL_API int QV_SplitGemlynPair(const UnitName* unit, const QVSessionInfo* session,
-                                   const SplitGemlynPair* spec);
+                                   const SplitGemlynPair* request);
 QUORVEL_API int QV_SimpleGemlynPair(const UnitName* unit, const QVSessionInfo* session,
-                                    const PairOperation* spec);
+                                    const PairOperation* request);
 QUORVEL_API int QV_ResyncGemlynPair(const UnitName* unit, const QVSessionInfo* session,
-                                    const PairOperation* spec);
+                                    const PairOperation* request);
 QUORVEL_API int QV_RestoreGemlynPair(const UnitName* unit, const QVSessionInfo* session,
-                                     const PairOperation* spec);
+                                     const PairOperation* request);
 QUORVEL_API int QV_CreateSnapShotPair(const UnitName* unit, const QVSessionInfo* session,
-                                      const CreateSnapShotPair* spec);
+                                      const CreateSnapShotPair* request);
 QUORVEL_API int QV_SplitSnapShotPair(const UnitName* unit, const QVSessionInfo* session,
-                                     const SplitSnapShotPair* spec);
+                                     const SplitSnapShotPair* request);
 QUORVEL_API int QV_SimpleSnapShotPair(const UnitName* unit, const QVSessionInfo* session,
-                                      const PairOperation* spec);
+                                      const PairOperation* request);
 QUORVEL_API int QV_ResyncSnapShotPair(const UnitName* unit, const QVSessionInfo* session,
-                                      const PairOperation* spec);
+                                      const PairOperation* request);
 QUORVEL_API int QV_RestoreSnapShotPair(const UnitName* unit, const QVSessionInfo* session,
-                                       const PairOperation* spec);
+                                       const PairOperation* request);
 QUORVEL_API int QV_CreateFarlinkPair(const UnitName* unit, const QVSessionInfo* session,
-                                     const CreateFarlinkPair* spec);
+                                     const CreateFarlinkPair* request);
 QUORVEL_API int QV_SplitFarlinkPair(const UnitName* unit, const QVSessionInfo* session,
-                                    const SplitFarlinkPair* spec);
+                                    const SplitFarlinkPair* request);
 QUORVEL_API int QV_SimpleFarlinkPair(const UnitName* unit, const QVSessionInfo* session,
-                                     const SimpleRemotePair* spec);
+                                     const SimpleRemotePair* request);
 QUORVEL_API int QV_ResyncFarlinkPair(const UnitName* unit, const QVSessionInfo* session,
-                                     const RemotePairOperation* spec);
+                                     const RemotePairOperation* request);
 QUORVEL_API int QV_SwapFarlinkPair(const UnitName* unit, const QVSessionInfo* session,
-                                   const RemotePairOperation* spec);
+                                   const RemotePairOperation* request);
 QUORVEL_API int QV_CreateLonglinkPair(const UnitName* unit, const QVSessionInfo* session,
-                                      const CreateLonglinkPair* spec);
+                                      const CreateLonglinkPair* request);
 QUORVEL_API int QV_SplitLonglinkPair(const UnitName* unit, const QVSessionInfo* session,
-                                     const SplitLonglinkPair* spec);
+                                     const SplitLonglinkPair* request);
 QUORVEL_API int QV_SimpleLonglinkPair(const UnitName* unit, const QVSessionInfo* session,
-                                      const SimpleRemotePair* spec);
+                                      const SimpleRemotePair* request);
 QUORVEL_API int QV_ResyncLonglinkPair(const UnitName* unit, const QVSessionInfo* session,
-                                      const RemotePairOperation* spec);
+                                      const RemotePairOperation* request);
 QUORVEL_API int QV_SwapLonglinkPair(const UnitName* unit, const QVSessionInfo* session,
-                                    const RemotePairOperation* spec);
+                                    const RemotePairOperation* request);
 QUORVEL_API int QV_ChangeReplicationPair(const UnitName* unit, const QVSessionInfo* session,
                                          const PairChange* change);
 QUORVEL_API int QV_ChangeCopyPace(const UnitName* unit, const QVSessionInfo* session,

@@ -319,17 +319,21 @@ QUORVEL_RECORD(PINInformation, 262148);
 /// Pinned data by logical unit, in the short form.
 using PinTable = std::int32_t[8192];
 
+/// All drives in one row.
+using FlatDriveInformation = DiskDriveInformation[450];
+using FlatDriveStatus = DiskDrive[450];
+
 QUORVEL_API int QV_GetDriveInformation(const UnitName* unit, const QVSessionInfo* session,
                                        std::int32_t first, std::int32_t second,
                                        DiskDriveInformation* information);
 QUORVEL_API int QV_GetDriveInformationAll(const UnitName* unit, const QVSessionInfo* session,
-                                          DiskDriveInformation (*drives)[450]);
+                                          FlatDriveInformation* drives);
 QUORVEL_API int QV_GetDiskDriveInformationAll(const UnitName* unit, const QVSessionInfo* session,
                                               DiskDriveInformationAll* drives);
 QUORVEL_API int QV_GetDiskDriveStatusAll(const UnitName* unit, const QVSessionInfo* session,
                                          DiskDriveStatusAll* drives);
 QUORVEL_API int QV_GetDriveStatus(const UnitName* unit, const QVSessionInfo* session,
-                                  DiskDrive (*drives)[450]);
+                                  FlatDriveStatus* drives);
 QUORVEL_API int QV_DriveReconstructInformation(const UnitName* unit, const QVSessionInfo* session,
                                                std::int32_t first, std::int32_t second,
                                                DriveReconstructInformation* information);

@@ -108,12 +108,17 @@ jobject newArray(JNIEnv* env, const Field& field, std::size_t dimension, const s
       return newIntArrayFromBytes(env, bytesAt(at), lengthOf(field, dimension));
     case FieldKind::kBytes:
       return newByteArray(env, at, lengthOf(field, dimension));
-    default:
+    case FieldKind::kRecord:
       return newObjects(env, field, dimension, at);
+    case FieldKind::kUInt8:
+    case FieldKind::kText:
+    case FieldKind::kPart:
+      break;  // `fieldOf` makes no such arrays.
   }
+  return nullptr;
 }
 
-/// Stores a new object in its field and lets go of it.
+/// Stores a new object in its field and deletes its local reference.
 int storeNew(JNIEnv* env, jobject object, const Field& field, jobject value) {
   if (value == nullptr ||
       setObjectFieldByName(env, object, field.name, field.signature, value) != kOk) {
@@ -123,47 +128,50 @@ int storeNew(JNIEnv* env, jobject object, const Field& field, jobject value) {
   return kOk;
 }
 
+/// Stores a text or an array of texts.
+int setTexts(JNIEnv* env, jobject object, const Field& field, const char* texts) {
+  if (field.rank == 0) {
+    // A text that cannot be stored does not end a builder.
+    withTexts(texts, 1, field.elementBytes, [&](const char* text, std::size_t) {
+      return setStringField(env, object, field.name, text);
+    });
+    return kOk;
+  }
+  return withTexts(
+      texts, field.extents[0], field.elementBytes, [&](const char* slots, std::size_t stride) {
+        return setStringArrayField(env, object, field.name, slots, lengthOf(field, 0), stride);
+      });
+}
+
 int setFields(JNIEnv* env, jobject object, const ClassMap& map, const std::byte* record);
 
-int setScalar(JNIEnv* env, jobject object, const Field& field, const std::byte* at) {
+int setField(JNIEnv* env, jobject object, const Field& field, const std::byte* at) {
+  const auto storeArray = [&] { return storeNew(env, object, field, newArray(env, field, 0, at)); };
   switch (field.kind) {
     case FieldKind::kInt32:
-      return setIntField(env, object, field.name, valueAt<std::int32_t>(at));
+      if (field.rank == 0) {
+        return setIntField(env, object, field.name, valueAt<std::int32_t>(at));
+      }
+      return field.rank == 1
+                 ? setIntArrayField(env, object, field.name, intsAt(at), lengthOf(field, 0))
+                 : storeArray();
     case FieldKind::kInt8:
-      return setIntField(env, object, field.name, valueAt<std::int8_t>(at));
+      return field.rank == 0 ? setIntField(env, object, field.name, valueAt<std::int8_t>(at))
+                             : storeArray();
     case FieldKind::kUInt8:
       return setIntField(env, object, field.name, valueAt<std::uint8_t>(at));
     case FieldKind::kText:
-      // A text that cannot be stored does not end a builder.
-      withTexts(textAt(at), 1, field.elementBytes, [&](const char* text, std::size_t) {
-        return setStringField(env, object, field.name, text);
-      });
-      return kOk;
+      return setTexts(env, object, field, textAt(at));
+    case FieldKind::kBytes:
+      return field.rank == 1 ? setByteArrayField(env, object, field.name, at, lengthOf(field, 0))
+                             : storeArray();
+    case FieldKind::kRecord:
+      return field.rank == 0 ? storeNew(env, object, field, build(env, *field.element, at))
+                             : storeArray();
     case FieldKind::kPart:
       return setFields(env, object, *field.element, at);
-    default:
-      return storeNew(env, object, field, build(env, *field.element, at));
   }
-}
-
-int setField(JNIEnv* env, jobject object, const Field& field, const std::byte* at) {
-  if (field.rank == 0) {
-    return setScalar(env, object, field, at);
-  }
-  if (field.rank == 1 && field.kind == FieldKind::kInt32) {
-    return setIntArrayField(env, object, field.name, intsAt(at), lengthOf(field, 0));
-  }
-  if (field.rank == 1 && field.kind == FieldKind::kBytes) {
-    return setByteArrayField(env, object, field.name, at, lengthOf(field, 0));
-  }
-  if (field.kind == FieldKind::kText) {
-    return withTexts(textAt(at), field.extents[0], field.elementBytes,
-                     [&](const char* texts, std::size_t stride) {
-                       return setStringArrayField(env, object, field.name, texts,
-                                                  lengthOf(field, 0), stride);
-                     });
-  }
-  return storeNew(env, object, field, newArray(env, field, 0, at));
+  return kFailed;
 }
 
 int setFields(JNIEnv* env, jobject object, const ClassMap& map, const std::byte* record) {
@@ -231,48 +239,46 @@ int getInt(JNIEnv* env, jobject object, const Field& field, std::byte* at) {
   return kOk;
 }
 
-int getScalar(JNIEnv* env, jobject object, const Field& field, std::byte* at) {
+int getField(JNIEnv* env, jobject object, const Field& field, std::byte* at) {
   switch (field.kind) {
+    case FieldKind::kInt32:
+      if (field.rank == 0) {
+        return getInt(env, object, field, at);
+      }
+      return field.rank == 1
+                 ? getIntArrayField(env, object, field.name, intsAt(at), lengthOf(field, 0))
+                 : getIntMatrixField(env, object, field.name, intsAt(at), lengthOf(field, 0),
+                                     lengthOf(field, 1));
+    case FieldKind::kInt8:
+      if (field.rank == 0) {
+        return getInt(env, object, field, at);
+      }
+      return field.rank == 1
+                 ? getIntArrayFieldAsBytes(env, object, field.name, bytesAt(at), field.extents[0])
+                 : getObject(env, object, field, at);
+    case FieldKind::kUInt8:
+      return getInt(env, object, field, at);
     case FieldKind::kText:
-      return getStringField(env, object, field.name, textAt(at), field.elementBytes);
+      return field.rank == 0
+                 ? getStringField(env, object, field.name, textAt(at), field.elementBytes)
+                 : getStringArrayField(env, object, field.name, textAt(at), field.elementBytes,
+                                       field.extents[0]);
+    case FieldKind::kBytes:
+      switch (field.rank) {
+        case 1:
+          return getByteArrayField(env, object, field.name, at, lengthOf(field, 0));
+        case 2:
+          return getByteMatrixField(env, object, field.name, at, lengthOf(field, 0),
+                                    lengthOf(field, 1));
+        default:
+          return kFailed;  // Built only.
+      }
     case FieldKind::kRecord:
       return getObject(env, object, field, at);
     case FieldKind::kPart:
       return read(env, *field.element, object, at);
-    default:
-      return getInt(env, object, field, at);
   }
-}
-
-int getField(JNIEnv* env, jobject object, const Field& field, std::byte* at) {
-  if (field.rank == 0) {
-    return getScalar(env, object, field, at);
-  }
-  switch (field.kind) {
-    case FieldKind::kText:
-      return getStringArrayField(env, object, field.name, textAt(at), field.elementBytes,
-                                 field.extents[0]);
-    case FieldKind::kInt32:
-      if (field.rank == 1) {
-        return getIntArrayField(env, object, field.name, intsAt(at), lengthOf(field, 0));
-      }
-      return field.rank == 2 ? getIntMatrixField(env, object, field.name, intsAt(at),
-                                                 lengthOf(field, 0), lengthOf(field, 1))
-                             : kFailed;
-    case FieldKind::kBytes:
-      if (field.rank == 1) {
-        return getByteArrayField(env, object, field.name, at, lengthOf(field, 0));
-      }
-      return field.rank == 2 ? getByteMatrixField(env, object, field.name, at, lengthOf(field, 0),
-                                                  lengthOf(field, 1))
-                             : kFailed;
-    case FieldKind::kInt8:
-      return field.rank == 1
-                 ? getIntArrayFieldAsBytes(env, object, field.name, bytesAt(at), field.extents[0])
-                 : getObject(env, object, field, at);
-    default:
-      return getObject(env, object, field, at);
-  }
+  return kFailed;
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <span>
+#include <string_view>
 #include <type_traits>
 
 #include "arraylib/record.h"
@@ -24,15 +25,19 @@
 //   std::uint8_t                    I                      widened without           low byte
 //   char[S]                         String                 up to the NUL             cut to S - 1
 //   char[N][S]                      String[]               N slots of S bytes        at most N
-//   std::int32_t[N], [R][C], …      [I, [[I, …             all elements              N, R x C
-//   std::int8_t[N], [R][C], …       [I, [[I, …             widened with their sign   low bytes
+//   std::int32_t[N], [R][C]         [I, [[I                all elements              N, R x C
+//   std::int8_t[N], [R][C]          [I, [[I                widened with their sign   low bytes
 //   std::byte[N]                    [B                     into the array at hand    exactly N
 //   std::byte[R][C], …              [[B, …                 new arrays                R x C
 //   a record, [N], [R][C], …        object, arrays         all elements              at most N
 //   a part (QUORVEL_PART)           its fields one by one  the fields                the fields
 //
-// `…` stands for a third extent; three-dimensional arrays of std::int32_t and of raw bytes are
+// `…` stands for a third extent, which records and raw bytes have; three-dimensional raw bytes are
 // built only.
+//
+// The list names every member of the record once. Members that no Java field holds are called
+// `reserved`, `reserved0`, `reserved1`, … and may be left out. A form that fills fewer is a
+// QUORVELJ_MAP.
 namespace quorvelj {
 
 inline constexpr std::size_t kMaxRank = 3;
@@ -44,7 +49,7 @@ enum class FieldKind : std::uint8_t { kInt32, kInt8, kUInt8, kText, kBytes, kRec
 
 struct ClassMap;
 
-/// Never defined: the compiler refuses a map that comes to call it.
+/// Never defined. A map that asks for too many elements calls it at compile time and is refused.
 void moreElementsThanTheMemberHas();
 
 /// One Java field and its place in the record.
@@ -100,8 +105,8 @@ jobjectArray buildArray(JNIEnv* env, const ClassMap& map, const void* records, j
 
 /// Fills `record` from a Java object. Returns 0; -1 where the object, the record, or an object or
 /// an array inside it is missing; 2817 where another field could not be read. Stops at the first
-/// failure with the later members as they were, but goes on behind an object or an element that
-/// stopped inside.
+/// failure, and the later members keep their bytes. The failure of an object inside ends the
+/// reading of that object alone.
 int read(JNIEnv* env, const ClassMap& map, jobject object, void* record);
 
 /// Derives the field of a record member of the type `Member`.
@@ -133,9 +138,11 @@ consteval Field fieldOf(const char* name, std::size_t offset) {
     field.kind = FieldKind::kBytes;
     field.signature = &"[[[B"[kUnused];
   } else if constexpr (std::is_same_v<Element, std::int32_t>) {
+    static_assert(kRank <= 2);
     field.kind = FieldKind::kInt32;
     field.signature = &"[[[I"[kUnused];
   } else if constexpr (std::is_same_v<Element, std::int8_t>) {
+    static_assert(kRank <= 2);
     field.kind = FieldKind::kInt8;
     field.signature = &"[[[I"[kUnused];
   } else if constexpr (std::is_same_v<Element, std::uint8_t>) {
@@ -156,19 +163,84 @@ consteval Field fieldOf(const char* name, std::size_t offset) {
   return field;
 }
 
+/// Whether no two fields lie in the same place.
+template <std::size_t N>
+consteval bool eachOnce(const Field (&fields)[N]) {
+  for (std::size_t left = 0; left < N; ++left) {
+    for (std::size_t right = left + 1; right < N; ++right) {
+      if (fields[left].offset == fields[right].offset) {
+        return false;
+      }
+    }
+  }
+  return true;
+}
+
+template <std::size_t N>
+consteval bool isListed(const Field (&fields)[N], std::string_view name) {
+  for (const Field& field : fields) {
+    if (name == field.name) {
+      return true;
+    }
+  }
+  return false;
+}
+
+/// The number of a record's members that its list leaves out because no Java field holds them.
+template <class Record, std::size_t N>
+consteval int reservedMembers(const Field (&fields)[N]) {
+  int count = 0;
+  if constexpr (requires(Record & record) { record.reserved; }) {
+    count += isListed(fields, "reserved") ? 0 : 1;
+  }
+  if constexpr (requires(Record & record) { record.reserved0; }) {
+    count += isListed(fields, "reserved0") ? 0 : 1;
+  }
+  if constexpr (requires(Record & record) { record.reserved1; }) {
+    count += isListed(fields, "reserved1") ? 0 : 1;
+  }
+  return count;
+}
+
 }  // namespace quorvelj
 
 /// The field of a member, for a map that lists its fields one by one.
 #define QUORVELJ_FIELD(Record, member) \
   quorvelj::fieldOf<decltype(Record::member)>(#member, offsetof(Record, member))
 
-/// Defines the map of a record's own class, or of a part, from its members in fill order.
-#define QUORVELJ_CLASS(Record, ...)                                          \
-  static constexpr quorvelj::Field kFieldsOf##Record[] = {                   \
-      QUORVELJ_FOR_EACH(QUORVELJ_FIELD, Record __VA_OPT__(, ) __VA_ARGS__)}; \
-  constinit const quorvelj::ClassMap quorvelj::ClassOf<Record>::kMap {       \
-    quorvelj::ClassOf<Record>::kName, kFieldsOf##Record                      \
+/// Defines the map of a record's own class, or of a part, from its members in fill order: every one
+/// of them, but for the reserved ones.
+#define QUORVELJ_CLASS(Record, ...)                                                    \
+  static constexpr quorvelj::Field kFieldsOf##Record[] = {                             \
+      QUORVELJ_FOR_EACH(QUORVELJ_FIELD, Record, __VA_ARGS__)};                         \
+  static_assert(quorvelj::eachOnce(kFieldsOf##Record),                                 \
+                "the list of " #Record " names a member twice");                       \
+  QUORVELJ_DECOMPOSE(Record, QUORVELJ_FOR_EACH(QUORVELJ_BINDING, Record, __VA_ARGS__)) \
+  constinit const quorvelj::ClassMap quorvelj::ClassOf<Record>::kMap {                 \
+    quorvelj::ClassOf<Record>::kName, kFieldsOf##Record                                \
   }
+
+/// Compiles only where the record has as many members as there are bindings and reserved ones. A
+/// list with a member twice has been refused already.
+#define QUORVELJ_DECOMPOSE(Record, ...)                                            \
+  template <class Whole>                                                           \
+  static auto decompose##Record(Whole& record) {                                   \
+    constexpr bool kEachOnce = quorvelj::eachOnce(kFieldsOf##Record);              \
+    constexpr int kReserved = quorvelj::reservedMembers<Whole>(kFieldsOf##Record); \
+    static_assert(kReserved <= 2);                                                 \
+    if constexpr (kEachOnce && kReserved == 0) {                                   \
+      [[maybe_unused]] auto& [__VA_ARGS__] = record;                               \
+    } else if constexpr (kEachOnce && kReserved == 1) {                            \
+      [[maybe_unused]] auto& [__VA_ARGS__, reserved] = record;                     \
+    } else if constexpr (kEachOnce) {                                              \
+      [[maybe_unused]] auto& [__VA_ARGS__, reserved0, reserved1] = record;         \
+    }                                                                              \
+    return 0;                                                                      \
+  }                                                                                \
+  static_assert(sizeof(decompose##Record(*static_cast<Record*>(nullptr))) == sizeof(int));
+#define QUORVELJ_BINDING(Record, member) QUORVELJ_JOIN(binding, __COUNTER__)
+#define QUORVELJ_JOIN(left, right) QUORVELJ_PASTE(left, right)
+#define QUORVELJ_PASTE(left, right) left##right
 
 /// Defines the map of a class without a known field: it is made by its constructor, and its bytes
 /// are left alone.
@@ -191,7 +263,7 @@ consteval Field fieldOf(const char* name, std::size_t offset) {
 #define QUORVELJ_EXPAND_1(...) QUORVELJ_EXPAND_0(QUORVELJ_EXPAND_0(QUORVELJ_EXPAND_0(__VA_ARGS__)))
 #define QUORVELJ_EXPAND_0(...) __VA_ARGS__
 #define QUORVELJ_FOR_EACH(macro, record, ...) \
-  __VA_OPT__(QUORVELJ_EXPAND(QUORVELJ_FOR_FIRST(macro, record, __VA_ARGS__)))
+  QUORVELJ_EXPAND(QUORVELJ_FOR_FIRST(macro, record, __VA_ARGS__))
 #define QUORVELJ_FOR_FIRST(macro, record, member, ...) \
   macro(record, member)                                \
       __VA_OPT__(, QUORVELJ_FOR_REST QUORVELJ_PARENTHESES(macro, record, __VA_ARGS__))

@@ -3,7 +3,7 @@
 namespace quorvelj {
 namespace {
 
-/// The part of a query's end that is the same for an object and an array.
+/// What an object and an array have in common at the end of a query.
 template <class Build>
 auto finishWith(JNIEnv* env, int result, void* record, Build buildResult) {
   using Object = decltype(buildResult());
@@ -16,6 +16,8 @@ auto finishWith(JNIEnv* env, int result, void* record, Build buildResult) {
   releaseRecord(record);
   if (built == nullptr) {
     throwArrayException(env, kFailed);
+  } else {
+    flushOutput();
   }
   return built;
 }
@@ -76,6 +78,14 @@ jobjectArray finishPartialArrayQuery(JNIEnv* env, int result, const ClassMap& ma
     flushOutput();
   }
   return array;
+}
+
+void finishUpdate(JNIEnv* env, int result) {
+  if (result != 0) {
+    throwArrayException(env, result);
+    return;
+  }
+  flushOutput();
 }
 
 }  // namespace quorvelj

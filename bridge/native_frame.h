@@ -2,13 +2,16 @@
 
 #include <jni.h>
 
+#include <concepts>
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <tuple>
 #include <type_traits>
 #include <utility>
 
 #include "bridge/class_map.h"
+#include "bridge/departure.h"
 #include "bridge/jni_toolkit.h"
 #include "bridge/runtime.h"
 
@@ -25,19 +28,24 @@
 //   const Record*       an object: read into a new record; the reader's result is ignored
 //   std::int32_t        an int, by value
 //
-// and the last parameter of a function that returns something is its output:
+// and the parameter behind the Java arguments is the function's output:
 //
 //   Record*             built into an object       (`query`)
-//   Record (*)[N]       built into an array of N   (`query`)
+//   Record (*)[N]       built into an array of N   (`query`, `partialQuery`)
 //   std::int32_t*       returned                   (`value`)
 //
-// Standard output is flushed on entry and on success. A method that departs from its frame is
-// written out beside its family.
+// Standard output is flushed on entry and on success. A method that departs from its frame states
+// how, by `DEPARTS`, and is written out from `LibraryCall` beside its family.
 namespace quorvelj {
 
 /// Opens the definition of the native method `QV_<Operation>`. The Java class declares it, and the
 /// generated header with it: a signature that differs from Java's does not compile.
 #define NATIVE_METHOD(Result, Operation, ...)                         \
+  extern "C" {                                                        \
+  extern const quorvelj::Departure departureOf_QV_1##Operation;       \
+  }                                                                   \
+  constinit const quorvelj::Departure departureOf_QV_1##Operation =   \
+      quorvelj::kDepartureOf<struct Operation##_>;                    \
   extern "C" JNIEXPORT Result JNICALL                                 \
       Java_tessaly_str_diskarray_DiskArrayUtilityJNI_QV_1##Operation( \
           JNIEnv* env, jobject __VA_OPT__(, ) __VA_ARGS__)
@@ -51,13 +59,30 @@ Record* allocate() {
 /// Copies a text argument, or throws 258 and returns false where it is null.
 bool copyRequiredText(JNIEnv* env, jstring text, char* buffer, std::size_t length);
 
+/// Copies a text argument. A null text, and one whose characters cannot be had, is an empty one.
+template <std::size_t N>
+void copyOptionalText(JNIEnv* env, jstring text, char (&buffer)[N]) {
+  buffer[0] = '\0';
+  copyJavaStringToBuffer(env, text, buffer, N);
+}
+
 /// Ends a query: throws what the library returned, or builds the object from `record`, and throws
-/// 2817 where that fails. Releases the record. Returns the object, or null with the exception.
+/// 2817 where that fails. Releases the record. Returns the object with standard output flushed, or
+/// null with the exception.
 jobject finishQuery(JNIEnv* env, int result, const ClassMap& map, void* record);
+template <class Record>
+jobject finishQuery(JNIEnv* env, int result, Record* record) {
+  return finishQuery(env, result, ClassOf<Record>::kMap, record);
+}
 
 /// The same for `length` records of `recordBytes` each.
 jobjectArray finishArrayQuery(JNIEnv* env, int result, const ClassMap& map, void* records,
                               jsize length, std::size_t recordBytes);
+template <class Record, std::size_t N>
+jobjectArray finishQuery(JNIEnv* env, int result, Record (*records)[N]) {
+  return finishArrayQuery(env, result, ClassOf<Record>::kMap, records, static_cast<jsize>(N),
+                          sizeof(Record));
+}
 
 /// Stores an object built from `record` at `index`; false where it cannot be built. No exception is
 /// tested for or thrown.
@@ -70,17 +95,13 @@ void fillPartialArray(JNIEnv* env, jobjectArray array, const ClassMap& map, cons
                       jsize length, std::size_t recordBytes);
 
 /// Ends a query whose array is returned as far as its elements can be built: throws what the
-/// library returned, or fills a new array. Releases the records. Returns the array; null with the
-/// exception, or where the array itself cannot be made.
+/// library returned, or fills a new array. Releases the records. Returns the array with standard
+/// output flushed; null with the exception, or where the array itself cannot be made.
 jobjectArray finishPartialArrayQuery(JNIEnv* env, int result, const ClassMap& map, void* records,
                                      jsize length, std::size_t recordBytes);
-template <class Record, std::size_t N>
-jobjectArray finishPartialArrayQuery(JNIEnv* env, int result, Record (*records)[N]) {
-  return finishPartialArrayQuery(env, result, ClassOf<Record>::kMap, records, static_cast<jsize>(N),
-                                 sizeof(Record));
-}
 
-/// One parameter of a library function, made from the Java argument in its place.
+/// One parameter of a library function, made from the Java argument in its place. A Java argument
+/// that needs steps of its own is handed over as an object of a class that has these five.
 template <class Parameter>
 class Argument;
 
@@ -132,140 +153,166 @@ class Argument<const Record*> {
   Record* record_ = nullptr;
 };
 
-/// The inputs of one call, in the order of the library function's parameters.
-template <class... Parameter>
-class Inputs {
- public:
-  template <class... Java>
-  explicit Inputs(Java... java) : arguments_(java...) {}
+/// What makes a parameter of a Java argument: the argument itself where it has the steps.
+template <class Parameter, class Java>
+struct ArgumentFor {
+  using Type = Argument<Parameter>;
+};
+template <class Parameter, class Java>
+requires requires(Java argument) {
+  { argument.get() } -> std::same_as<Parameter>;
+}
+struct ArgumentFor<Parameter, Java> {
+  using Type = Java;
+};
 
-  /// Copies the texts; false with 258 thrown at the first that is null.
-  bool accept(JNIEnv* env) {
-    return each([env](auto&... argument) { return (argument.accept(env) && ...); });
+/// One call of a library function. Its first parameters, the inputs, are made from the Java
+/// arguments, one each and in their order; the others are its outputs.
+template <class Function, class... Java>
+class LibraryCall {
+  template <class Positions, class Parameters>
+  struct Split;
+  template <std::size_t... Position, class... Parameter>
+  struct Split<std::index_sequence<Position...>, int (*)(Parameter...)> {
+    using All = std::tuple<Parameter...>;
+    using Inputs =
+        std::tuple<typename ArgumentFor<std::tuple_element_t<Position, All>, Java>::Type...>;
+    template <std::size_t Index>
+    using Output = std::tuple_element_t<sizeof...(Java) + Index, All>;
+  };
+  using Parameters = Split<std::index_sequence_for<Java...>, Function>;
+
+ public:
+  /// The type of an output, a pointer.
+  template <std::size_t Index = 0>
+  using Output = typename Parameters::template Output<Index>;
+
+  LibraryCall(JNIEnv* env, Function function, Java... java)
+      : env_(env), function_(function), inputs_(java...) {}
+
+  /// Flushes standard output and copies the texts; false with 258 thrown at the first that is null.
+  bool enter() {
+    flushOutput();
+    return each([this](auto&... input) { return (input.accept(env_) && ...); });
   }
-  /// Allocates and reads one record after the other; false at the first that cannot be had.
-  bool allocateAndRead(JNIEnv* env) {
-    return each([env](auto&... argument) {
-      return ((argument.allocate() && (argument.read(env), true)) && ...);
-    });
-  }
-  /// Allocates every record; false where any cannot be had.
-  bool allocateAll() {
-    bool all = true;
-    each([&all](auto&... argument) { ((all = argument.allocate() && all), ...); });
+
+  /// `enter`, and allocates and reads one record after the other; false with 65535 thrown at the
+  /// first that cannot be had.
+  bool begin() {
+    if (!enter()) {
+      return false;
+    }
+    const bool all = each(
+        [this](auto&... input) { return ((input.allocate() && (input.read(env_), true)) && ...); });
+    if (!all) {
+      throwArrayException(env_, kOutOfMemory);
+    }
     return all;
   }
-  void readAll(JNIEnv* env) {
-    each([env](auto&... argument) { (argument.read(env), ...); });
+
+  /// Allocates every record; false, with no exception, where any cannot be had.
+  bool allocateInputs() {
+    bool all = true;
+    each([&all](auto&... input) { ((all = input.allocate() && all), ...); });
+    return all;
   }
-  void releaseAll() {
-    each([](auto&... argument) { (argument.release(), ...); });
+  /// Allocates one record after the other; false, with no exception, at the first that cannot be
+  /// had.
+  bool allocateInTurn() {
+    return each([](auto&... input) { return (input.allocate() && ...); });
   }
-  template <class... Output>
-  int call(int (*function)(Parameter..., Output...), Output... output) {
-    return each([&](auto&... argument) { return function(argument.get()..., output...); });
+  void readInputs() {
+    each([this](auto&... input) { (input.read(env_), ...); });
+  }
+  void releaseInputs() {
+    each([](auto&... input) { (input.release(), ...); });
+  }
+
+  /// Returns a new uninitialised record for an output, or null with 65535 thrown. The inputs stay.
+  template <std::size_t Index = 0>
+  Output<Index> output() {
+    auto* const record = allocate<std::remove_pointer_t<Output<Index>>>();
+    if (record == nullptr) {
+      throwArrayException(env_, kOutOfMemory);
+    }
+    return record;
+  }
+
+  /// Calls the function and returns its result. The inputs stay.
+  template <class... Outputs>
+  int callAndKeepInputs(Outputs... outputs) {
+    return each([&](auto&... input) { return function_(input.get()..., outputs...); });
+  }
+
+  /// Calls the function, releases the inputs, and returns the function's result.
+  template <class... Outputs>
+  int call(Outputs... outputs) {
+    const int result = callAndKeepInputs(outputs...);
+    releaseInputs();
+    return result;
   }
 
  private:
   template <class Visit>
   auto each(Visit visit) {
-    return std::apply(visit, arguments_);
+    return std::apply(visit, inputs_);
   }
 
-  std::tuple<Argument<Parameter>...> arguments_;
+  JNIEnv* env_;
+  Function function_;
+  typename Parameters::Inputs inputs_;
 };
-
-/// The inputs of a library function whose last parameter is its output.
-template <class Function, class Positions = void>
-struct FunctionWithOutput;
-
-template <class... Parameter>
-struct FunctionWithOutput<int (*)(Parameter...), void>
-    : FunctionWithOutput<int (*)(Parameter...),
-                         std::make_index_sequence<sizeof...(Parameter) - 1>> {};
-
-template <class... Parameter, std::size_t... Position>
-struct FunctionWithOutput<int (*)(Parameter...), std::index_sequence<Position...>> {
-  using All = std::tuple<Parameter...>;
-  using InputsOf = Inputs<std::tuple_element_t<Position, All>...>;
-  using Output = std::tuple_element_t<sizeof...(Position), All>;
-};
-
-/// What `query` makes of an output parameter.
-template <class Output>
-struct QueryResult;
-
-template <class Record>
-struct QueryResult<Record*> {
-  using Object = jobject;
-  static constexpr const ClassMap& kMap = ClassOf<Record>::kMap;
-  static Object finish(JNIEnv* env, int result, const ClassMap& map, Record* record) {
-    return finishQuery(env, result, map, record);
-  }
-};
-
-template <class Record, std::size_t N>
-struct QueryResult<Record (*)[N]> {
-  using Object = jobjectArray;
-  static constexpr const ClassMap& kMap = ClassOf<Record>::kMap;
-  static Object finish(JNIEnv* env, int result, const ClassMap& map, Record (*records)[N]) {
-    return finishArrayQuery(env, result, map, records, static_cast<jsize>(N), sizeof(Record));
-  }
-};
-
-template <class Function>
-using QueryResultOf = QueryResult<typename FunctionWithOutput<Function>::Output>;
-
-/// A `query` whose result is built by `map` instead of its class's own.
-template <class Function, class... Java>
-auto queryAs(JNIEnv* env, const ClassMap& map, Function function, Java... java) {
-  using Output = typename FunctionWithOutput<Function>::Output;
-  using Object = typename QueryResultOf<Function>::Object;
-
-  flushOutput();
-  typename FunctionWithOutput<Function>::InputsOf inputs(java...);
-  if (!inputs.accept(env)) {
-    return Object{};
-  }
-  Output output = nullptr;
-  if (inputs.allocateAndRead(env)) {
-    output = allocate<std::remove_pointer_t<Output>>();
-  }
-  if (output == nullptr) {
-    throwArrayException(env, kOutOfMemory);
-    return Object{};
-  }
-  const int result = inputs.call(function, output);
-  inputs.releaseAll();
-  const Object built = QueryResultOf<Function>::finish(env, result, map, output);
-  if (built != nullptr) {
-    flushOutput();
-  }
-  return built;
-}
 
 /// A method that returns a new object or array. A record that was allocated before one that could
 /// not be had is not released.
 template <class Function, class... Java>
 auto query(JNIEnv* env, Function function, Java... java) {
-  return queryAs(env, QueryResultOf<Function>::kMap, function, java...);
+  LibraryCall library(env, function, java...);
+  using Object = decltype(finishQuery(env, 0, library.output()));
+  if (!library.begin()) {
+    return Object{};
+  }
+  const auto output = library.output();
+  return output == nullptr ? Object{} : finishQuery(env, library.call(output), output);
+}
+
+/// A `query` whose object is built by `map` instead of its class's own.
+template <class Function, class... Java>
+jobject queryAs(JNIEnv* env, const ClassMap& map, Function function, Java... java) {
+  LibraryCall library(env, function, java...);
+  if (!library.begin()) {
+    return nullptr;
+  }
+  const auto output = library.output();
+  return output == nullptr ? nullptr : finishQuery(env, library.call(output), map, output);
+}
+
+/// A `query` of an array in which an element that cannot be built is no failure: the array is
+/// returned with the elements before it, the rest null, and 2817 is not thrown.
+template <class Function, class... Java>
+jobjectArray partialQuery(JNIEnv* env, Function function, Java... java) {
+  LibraryCall library(env, function, java...);
+  if (!library.begin()) {
+    return nullptr;
+  }
+  const auto output = library.output();
+  if (output == nullptr) {
+    return nullptr;
+  }
+  using Record = std::remove_reference_t<decltype((*output)[0])>;
+  return finishPartialArrayQuery(env, library.call(output), ClassOf<Record>::kMap, output,
+                                 static_cast<jsize>(std::size(*output)), sizeof(Record));
 }
 
 /// A method that returns the int that the library writes, or 0 with an exception.
 template <class Function, class... Java>
 jint value(JNIEnv* env, Function function, Java... java) {
-  flushOutput();
-  typename FunctionWithOutput<Function>::InputsOf inputs(java...);
-  if (!inputs.accept(env)) {
-    return 0;
-  }
-  if (!inputs.allocateAndRead(env)) {
-    throwArrayException(env, kOutOfMemory);
+  LibraryCall library(env, function, java...);
+  if (!library.begin()) {
     return 0;
   }
   std::int32_t output = 0;
-  const int result = inputs.call(function, &output);
-  inputs.releaseAll();
+  const int result = library.call(&output);
   if (result != 0) {
     throwArrayException(env, result);
     return 0;
@@ -274,35 +321,25 @@ jint value(JNIEnv* env, Function function, Java... java) {
   return output;
 }
 
-/// What an update does behind the allocation of its records: reads and hands over all of them,
-/// releases them, and throws what the library returned.
-template <class... Parameter>
-void finishUpdate(JNIEnv* env, Inputs<Parameter...>& inputs, int (*function)(Parameter...)) {
-  inputs.readAll(env);
-  const int result = inputs.call(function);
-  inputs.releaseAll();
-  if (result != 0) {
-    throwArrayException(env, result);
-    return;
-  }
-  flushOutput();
-}
+/// Ends a method that returns nothing: throws what the library returned, or flushes standard
+/// output.
+void finishUpdate(JNIEnv* env, int result);
 
 /// A method that returns nothing, with records to hand over or without. All of them are allocated
 /// before the first is read, and all are released, whichever could not be had.
-template <class... Parameter, class... Java>
-void update(JNIEnv* env, int (*function)(Parameter...), Java... java) {
-  flushOutput();
-  Inputs<Parameter...> inputs(java...);
-  if (!inputs.accept(env)) {
+template <class Function, class... Java>
+void update(JNIEnv* env, Function function, Java... java) {
+  LibraryCall library(env, function, java...);
+  if (!library.enter()) {
     return;
   }
-  if (!inputs.allocateAll()) {
+  if (!library.allocateInputs()) {
     throwArrayException(env, kOutOfMemory);
-    inputs.releaseAll();
+    library.releaseInputs();
     return;
   }
-  finishUpdate(env, inputs, function);
+  library.readInputs();
+  finishUpdate(env, library.call());
 }
 
 }  // namespace quorvelj

@@ -51,7 +51,7 @@ struct Outcome {
 
 Outcome play(const NativeMethod& method, const Fault& fault) {
   const Departure& departure = departureOf(method);
-  const auto& output = fault.output.empty() ? departure.output : fault.output;
+  const auto output = fault.output.empty() ? outputFor(method) : fault.output;
   quorvelSimReset();
   quorvelSimForceResult("*", fault.libraryResult, 1);
   quorvelSimPrepareOutput("*", output.data(), output.size());

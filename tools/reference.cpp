@@ -12,7 +12,13 @@
 #include <vector>
 
 #include "bridge/class_map.h"
+#include "bridge/departure.h"
 #include "record_headers.inc"
+
+#define NATIVE_METHOD_ENTRY(name, escaped, signature) \
+  extern "C" const quorvelj::Departure departureOf_##escaped;
+#include "native_methods.inc"
+#undef NATIVE_METHOD_ENTRY
 
 namespace {
 
@@ -23,10 +29,12 @@ using quorvelj::FieldKind;
 struct Method {
   std::string name;
   std::string signature;
+  std::string departs;
 };
 
 const std::vector<Method> kMethods{
-#define NATIVE_METHOD_ENTRY(name, escaped, signature) {#name, signature},
+#define NATIVE_METHOD_ENTRY(name, escaped, signature) \
+  {#name, signature, departureOf_##escaped.text},
 #include "native_methods.inc"
 #undef NATIVE_METHOD_ENTRY
 };
@@ -62,7 +70,8 @@ std::string contentOf(const std::filesystem::path& path) {
 /// The definitions in the sources, by the method's name.
 std::map<std::string, Definition> definitionsIn(const std::filesystem::path& directory) {
   static const std::regex kMethod(R"(NATIVE_METHOD\(\s*\w+,\s*(\w+)[^)]*\)\s*\{([\s\S]*?)\n?\}\n)");
-  static const std::regex kFrame(R"(^\s*(?:return )?(query|queryAs|update|value)\(\s*env,)");
+  static const std::regex kFrame(
+      R"(^\s*(?:return )?(query|queryAs|partialQuery|update|output|value)\(\s*env,)");
   static const std::regex kFunction(R"(\bQV_\w+)");
   std::map<std::string, Definition> definitions;
   for (const auto& entry : std::filesystem::recursive_directory_iterator(directory)) {
@@ -135,8 +144,8 @@ std::string recordType(const Field& field) {
 std::string reference(const std::filesystem::path& methods) {
   std::ostringstream out;
   out << "# Reference\n\nMade from the sources by `make reference`.\n\n## Native methods\n\n"
-      << kMethods.size() << " methods of `DiskArrayUtilityJNI`. A frame \"by hand\" departs from "
-      << "the common ones; the reason stands beside it.\n\n"
+      << kMethods.size() << " methods of `DiskArrayUtilityJNI`. A method that is written out \"by "
+      << "hand\" departs from the frames; the list behind the table says how.\n\n"
       << "| method | arguments | result | family | library function | frame |\n"
       << "|---|---|---|---|---|---|\n";
   const auto definitions = definitionsIn(methods);
@@ -153,17 +162,26 @@ std::string reference(const std::filesystem::path& methods) {
         << (definition.function == method.name ? "the same" : '`' + definition.function + '`')
         << " | " << definition.frame << " |\n";
   }
+  out << "\n### Departures\n\n";
+  for (const Method& method : kMethods) {
+    if (!method.departs.empty()) {
+      out << "- `" << method.name << "`: " << method.departs << ".\n";
+    }
+  }
   out << "\n## Records\n\n"
       << kRecords.size()
-      << " records, each with the Java class of its name; fields in the order in which they are "
-         "filled.\n";
+      << " records. Each has the Java class of its name, but for a part: its fields are fields of "
+         "the "
+         "Java object around it. Fields stand in the order in which they are filled.\n";
   std::string header;
   for (const Record& record : kRecords) {
     if (record.header != header) {
       header = record.header;
       out << "\n### arraylib/" << header << '\n';
     }
-    out << "\n**`" << record.name << "`**, " << record.bytes << " bytes\n\n";
+    const bool part = *record.map->className == '\0';
+    out << "\n**`" << record.name << "`**, " << record.bytes << " bytes" << (part ? ", a part" : "")
+        << "\n\n";
     if (record.map->fields.empty()) {
       out << "No field is known.\n";
       continue;

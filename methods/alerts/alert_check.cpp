@@ -52,9 +52,10 @@ NATIVE_METHOD(void, TestEmailAlert, jstring unit, jobject session, jobject test)
   update(env, QV_TestEmailAlert, unit, session, test);
 }
 
-// Departs from the query frame: the method itself flushes nothing, the record is on the stack, an
-// object that cannot be built is null without a code, and `to` has as many elements as there are
-// recipients. A number of recipients that the record has no room for is passed on, but not obeyed.
+DEPARTS(GetEmailInfo,
+        "flushes nothing itself, returns an object that cannot be built as null without 2817, and "
+        "builds as many elements of `to` as there are recipients, from none to all that the record "
+        "holds; the record lies on the stack and begins as zeros");
 NATIVE_METHOD(jobject, GetEmailInfo) {
   EmailInfo info{};
   const int result = QV_GetEmailInfo(&info);

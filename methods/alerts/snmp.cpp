@@ -20,35 +20,25 @@ NATIVE_METHOD(void, SetSnmpConfigonMemory, jstring unit, jobject session, jobjec
 
 namespace {
 
-// Departs from the update frame: the session's record is not released.
-void callWithFiles(JNIEnv* env,
-                   int (*function)(const UnitName*, const QVSessionInfo*, const FilePath*,
-                                   const FilePath*),
-                   jstring unit, jobject session, jstring first, jstring second) {
-  flushOutput();
-  Inputs<const UnitName*, const QVSessionInfo*, const FilePath*, const FilePath*> inputs(
-      unit, session, first, second);
-  if (!inputs.accept(env)) {
-    return;
+constexpr char kFilesDepart[] = "the session's record is never released";
+
+template <class Function>
+void callWithFiles(JNIEnv* env, Function function, jstring unit, jobject session, jstring first,
+                   jstring second) {
+  LibraryCall library(env, function, unit, session, first, second);
+  if (library.begin()) {
+    finishUpdate(env, library.callAndKeepInputs());
   }
-  if (!inputs.allocateAndRead(env)) {
-    throwArrayException(env, kOutOfMemory);
-    return;
-  }
-  const int result = inputs.call(function);
-  if (result != 0) {
-    throwArrayException(env, result);
-    return;
-  }
-  flushOutput();
 }
 
 }  // namespace
 
+DEPARTS(SetSnmpConfig, kFilesDepart, .neverReleased = 1);
 NATIVE_METHOD(void, SetSnmpConfig, jstring unit, jobject session, jstring first, jstring second) {
   callWithFiles(env, QV_SetSnmpConfig, unit, session, first, second);
 }
 
+DEPARTS(SnmpConfigOutput, kFilesDepart, .neverReleased = 1);
 NATIVE_METHOD(void, SnmpConfigOutput, jstring unit, jobject session, jstring first,
               jstring second) {
   callWithFiles(env, QV_SnmpConfigOutput, unit, session, first, second);

@@ -136,97 +136,64 @@ NATIVE_METHOD(jobject, GetNNCUpgradeStatusList, jstring unit, jobject session) {
   return query(env, QV_GetNNCUpgradeStatusList, unit, session);
 }
 
-// Departs from the query frame: the library's result 4109 is a success, too.
+DEPARTS(MicroReplaceEx, "the library's result 4109 is a success, too");
 NATIVE_METHOD(jobject, MicroReplaceEx, jstring unit, jobject session, jint option) {
   constexpr int kAlsoSuccess = 4109;
 
-  flushOutput();
-  Inputs<const UnitName*, const QVSessionInfo*, std::int32_t> inputs(unit, session, option);
-  if (!inputs.accept(env)) {
+  LibraryCall library(env, QV_MicroReplaceEx, unit, session, option);
+  if (!library.begin()) {
     return nullptr;
   }
-  MicroReplaceInformation* information = nullptr;
-  if (inputs.allocateAndRead(env)) {
-    information = allocate<MicroReplaceInformation>();
-  }
+  auto* const information = library.output();
   if (information == nullptr) {
-    throwArrayException(env, kOutOfMemory);
     return nullptr;
   }
-  const int result = inputs.call(QV_MicroReplaceEx, information);
-  inputs.releaseAll();
-  const jobject built = finishQuery(env, result == kAlsoSuccess ? 0 : result,
-                                    ClassOf<MicroReplaceInformation>::kMap, information);
-  if (built != nullptr) {
-    flushOutput();
-  }
-  return built;
+  const int result = library.call(information);
+  return finishQuery(env, result == kAlsoSuccess ? 0 : result, information);
 }
 
-// Departs from the query frame: both inputs are allocated before the first is read.
+DEPARTS(MicroReplaceCrosscall, "both inputs are allocated before the first is read");
 NATIVE_METHOD(jobject, MicroReplaceCrosscall, jstring unit, jobject session, jobject request) {
-  flushOutput();
-  Argument<const UnitName*> name(unit);
-  Argument<const QVSessionInfo*> opened(session);
-  Argument<const MicroReplaceCrosscallRequest*> wanted(request);
-  if (!name.accept(env)) {
+  LibraryCall library(env, QV_MicroReplaceCrosscall, unit, session, request);
+  if (!library.enter()) {
     return nullptr;
   }
-  MicroReplaceInformation* information = nullptr;
-  if (opened.allocate() && wanted.allocate()) {
-    opened.read(env);
-    wanted.read(env);
-    information = allocate<MicroReplaceInformation>();
-  }
-  if (information == nullptr) {
+  if (!library.allocateInTurn()) {
     throwArrayException(env, kOutOfMemory);
     return nullptr;
   }
-  const int result = QV_MicroReplaceCrosscall(name.get(), opened.get(), wanted.get(), information);
-  opened.release();
-  wanted.release();
-  const jobject built =
-      finishQuery(env, result, ClassOf<MicroReplaceInformation>::kMap, information);
-  if (built != nullptr) {
-    flushOutput();
-  }
-  return built;
+  library.readInputs();
+  auto* const information = library.output();
+  return information == nullptr ? nullptr
+                                : finishQuery(env, library.call(information), information);
 }
 
-// Departs from the update frame: the last int is handed over as a record of 4 bytes.
+DEPARTS(
+    ENCMicroReplaceEx,
+    "the last int is handed over as a record of 4 bytes, and a record that was allocated before "
+    "one that could not be had stays");
 NATIVE_METHOD(void, ENCMicroReplaceEx, jstring unit, jobject session, jint option, jint record) {
-  flushOutput();
-  Inputs<const UnitName*, const QVSessionInfo*, std::int32_t> inputs(unit, session, option);
-  if (!inputs.accept(env)) {
-    return;
-  }
-  if (!inputs.allocateAndRead(env)) {
-    throwArrayException(env, kOutOfMemory);
+  LibraryCall library(env, QV_ENCMicroReplaceEx, unit, session, option);
+  if (!library.begin()) {
     return;
   }
   const std::int32_t recorded = record;
-  const int result = inputs.call(QV_ENCMicroReplaceEx, &recorded);
-  inputs.releaseAll();
-  if (result != 0) {
-    throwArrayException(env, result);
-    return;
-  }
-  flushOutput();
+  finishUpdate(env, library.call(&recorded));
 }
 
 namespace {
 
-// Departs from the query frame: the result is a text, which the library writes into a buffer on the
-// stack.
+constexpr char kRevisionDeparts[] =
+    "the result is a text, which the library writes into a buffer on the stack";
+
 template <class Function, class... Java>
 jstring newRevision(JNIEnv* env, Function function, Java... path) {
-  flushOutput();
-  typename FunctionWithOutput<Function>::InputsOf inputs(path...);
-  if (!inputs.accept(env)) {
+  LibraryCall library(env, function, path...);
+  if (!library.begin()) {
     return nullptr;
   }
   MicroRevisionText revision{};
-  const int result = inputs.call(function, &revision);
+  const int result = library.call(&revision);
   if (result != 0) {
     throwArrayException(env, result);
     return nullptr;
@@ -245,8 +212,10 @@ jstring newRevision(JNIEnv* env, Function function, Java... path) {
 
 }  // namespace
 
+DEPARTS(GetNewMicroRevision, kRevisionDeparts);
 NATIVE_METHOD(jstring, GetNewMicroRevision) { return newRevision(env, QV_GetNewMicroRevision); }
 
+DEPARTS(GetNewMicroRevision2, kRevisionDeparts);
 NATIVE_METHOD(jstring, GetNewMicroRevision2, jstring path) {
   return newRevision(env, QV_GetNewMicroRevision2, path);
 }

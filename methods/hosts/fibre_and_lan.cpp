@@ -115,15 +115,13 @@ NATIVE_METHOD(void, SetFibreInformation, jstring unit, jobject session, jobject 
   update(env, QV_SetFibreInformation, unit, session, first, second);
 }
 
-// Departs from the query frame: no text is tested for null, nothing is flushed, and the list lies
-// on the stack.
+DEPARTS(FibreInfoPermissionImport, "flushes nothing itself, and takes a null text for an empty one",
+        .acceptsNullText = true);
 NATIVE_METHOD(jobjectArray, FibreInfoPermissionImport, jstring unit, jstring path, jint port) {
   UnitName unitName;
   FilePath filePath;
-  unitName[0] = '\0';
-  filePath[0] = '\0';
-  copyJavaStringToBuffer(env, unit, unitName, sizeof unitName);
-  copyJavaStringToBuffer(env, path, filePath, sizeof filePath);
+  copyOptionalText(env, unit, unitName);
+  copyOptionalText(env, path, filePath);
   FibreInformationPermission permissions[128];
   const int result = QV_FibreInfoPermissionImport(&unitName, &filePath, port, &permissions);
   if (result != 0) {

@@ -1,6 +1,5 @@
 // Host groups, the mapping of LUs to them and its guard, and what can be chosen for them.
 #include "arraylib/hosts.h"
-#include "methods/hosts/host_group_maps.h"
 #include "methods/native_methods.h"
 
 using namespace quorvelj;
@@ -63,21 +62,6 @@ QUORVELJ_CLASS(TargetId, ctrl_flag, target_id_mode, target_config);
 QUORVELJ_OPAQUE_CLASS(WZTargetConfig);
 QUORVELJ_CLASS(WZTargetId, ctrl_flag, target_id_mode, target_config);
 
-namespace quorvelj {
-
-QUORVELJ_MAP(kCompactLuMappingHGInfo, LuMappingHGInfo, QUORVELJ_FIELD(LuMappingHGInfo, lu));
-QUORVELJ_MAP(kCompactLuMappingPortInfo, LuMappingPortInfo,
-             QUORVELJ_FIELD(LuMappingPortInfo, security),
-             QUORVELJ_FIELD(LuMappingPortInfo, hg_tg_max_count),
-             QUORVELJ_FIELD(LuMappingPortInfo, hg).as(kCompactLuMappingHGInfo));
-QUORVELJ_MAP(kCompactLuMappingCtlInfo, LuMappingCtlInfo,
-             QUORVELJ_FIELD(LuMappingCtlInfo, port).as(kCompactLuMappingPortInfo));
-QUORVELJ_MAP(kCompactLuMapping, LuMapping, QUORVELJ_FIELD(LuMapping, HostGroupValid),
-             QUORVELJ_FIELD(LuMapping, ctrl_flag), QUORVELJ_FIELD(LuMapping, mapping_mode),
-             QUORVELJ_FIELD(LuMapping, ctl).as(kCompactLuMappingCtlInfo));
-
-}  // namespace quorvelj
-
 NATIVE_METHOD(jobject, GetHGList, jstring unit, jobject session) {
   return query(env, QV_GetHGList, unit, session);
 }
@@ -114,9 +98,9 @@ NATIVE_METHOD(jobject, GetLuMappingListAll, jstring unit, jobject session) {
   return query(env, QV_GetLuMappingListAll, unit, session);
 }
 
-// The full form's library function, the compact map.
+// The compact form has every field of the full one.
 NATIVE_METHOD(jobject, GetLuMappingListAllLite, jstring unit, jobject session) {
-  return queryAs(env, kCompactLuMapping, QV_GetLuMappingListAll, unit, session);
+  return query(env, QV_GetLuMappingListAll, unit, session);
 }
 
 NATIVE_METHOD(void, SetLuMappingListAll, jstring unit, jobject session, jobject mapping) {
@@ -245,26 +229,19 @@ jobjectArray newModeAndMapping(JNIEnv* env, std::int32_t mode, const LuMappingHG
 
 }  // namespace
 
-// Departs from the query frame: the library fills an int and a record, and both are returned.
+DEPARTS(GetLuMappingList, "the library fills an int and a record, and both are returned");
 NATIVE_METHOD(jobjectArray, GetLuMappingList, jstring unit, jobject session, jint controller,
               jint port, jint group) {
-  flushOutput();
-  Inputs<const UnitName*, const QVSessionInfo*, std::int32_t, std::int32_t, std::int32_t> inputs(
-      unit, session, controller, port, group);
-  if (!inputs.accept(env)) {
+  LibraryCall library(env, QV_GetLuMappingList, unit, session, controller, port, group);
+  if (!library.begin()) {
     return nullptr;
   }
-  LuMappingHGInfo* mapping = nullptr;
-  if (inputs.allocateAndRead(env)) {
-    mapping = allocate<LuMappingHGInfo>();
-  }
+  auto* const mapping = library.output<1>();
   if (mapping == nullptr) {
-    throwArrayException(env, kOutOfMemory);
     return nullptr;
   }
   std::int32_t mode = 0;
-  const int result = inputs.call(QV_GetLuMappingList, &mode, mapping);
-  inputs.releaseAll();
+  const int result = library.call(&mode, mapping);
   const jobjectArray pair = result == 0 ? newModeAndMapping(env, mode, mapping) : nullptr;
   releaseRecord(mapping);
   if (pair == nullptr) {

@@ -84,41 +84,29 @@ QUORVELJ_MAP(kAfterinfo1, PerformanceAll, fieldOf<PerformanceAll>("afterinfo1", 
 
 namespace {
 
-/// A snapshot in an output request.
-struct Snapshot {
-  jobject request;
-  const ClassMap& field;
-};
-
-}  // namespace
-
-namespace quorvelj {
-
-/// Java hands over snapshots inside of requests only.
-template <>
-class Argument<const PerformanceAll*> {
+/// A snapshot inside a request: read into a record of its own.
+class Snapshot {
  public:
-  explicit Argument(Snapshot snapshot) : snapshot_(snapshot) {}
+  Snapshot(jobject request, const ClassMap& field) : request_(request), field_(field) {}
   bool accept(JNIEnv*) { return true; }
   bool allocate() {
     record_ = quorvelj::allocate<PerformanceAll>();
     return record_ != nullptr;
   }
-  void read(JNIEnv* env) { quorvelj::read(env, snapshot_.field, snapshot_.request, record_); }
+  void read(JNIEnv* env) { quorvelj::read(env, field_, request_, record_); }
   void release() { releaseRecord(record_); }
   const PerformanceAll* get() { return record_; }
 
  private:
-  Snapshot snapshot_;
+  jobject request_;
+  const ClassMap& field_;
   PerformanceAll* record_ = nullptr;
 };
 
-/// The name of the file comes out of its request into a buffer, like a text of its own, but is not
-/// required.
-template <>
-class Argument<const PerformanceOutputFile*> {
+/// The name of the file inside a request: copied like a text of its own, but not required.
+class OutputFile {
  public:
-  explicit Argument(jobject request) : request_(request) { file_.filename[0] = '\0'; }
+  explicit OutputFile(jobject request) : request_(request) { file_.filename[0] = '\0'; }
   bool accept(JNIEnv* env) {
     quorvelj::read(env, ClassOf<PerformanceOutputFile>::kMap, request_, &file_);
     return true;
@@ -133,11 +121,10 @@ class Argument<const PerformanceOutputFile*> {
   PerformanceOutputFile file_;
 };
 
-/// A null array selects nothing.
-template <>
-class Argument<const LuSelection*> {
+/// The bytes of an LU selection. A null array selects nothing.
+class SelectedLus {
  public:
-  explicit Argument(jbyteArray array) : array_(array) {}
+  explicit SelectedLus(jbyteArray array) : array_(array) {}
   bool accept(JNIEnv*) { return true; }
   bool allocate() { return true; }
   void read(JNIEnv* env) {
@@ -153,25 +140,21 @@ class Argument<const LuSelection*> {
   LuSelection selection_{};
 };
 
-}  // namespace quorvelj
-
-namespace {
-
-// Departs from the update frame: where a record could not be had, the others are released before
-// the exception is thrown.
-template <class... Parameter, class... Java>
-void output(JNIEnv* env, int (*function)(Parameter...), Java... java) {
-  flushOutput();
-  Inputs<Parameter...> inputs(java...);
-  if (!inputs.accept(env)) {
+// The outputs depart from the update frame: where a record could not be had, the others are
+// released before the exception is thrown.
+template <class Function, class... Java>
+void output(JNIEnv* env, Function function, Java... java) {
+  LibraryCall library(env, function, java...);
+  if (!library.enter()) {
     return;
   }
-  if (!inputs.allocateAll()) {
-    inputs.releaseAll();
+  if (!library.allocateInputs()) {
+    library.releaseInputs();
     throwArrayException(env, kOutOfMemory);
     return;
   }
-  finishUpdate(env, inputs, function);
+  library.readInputs();
+  finishUpdate(env, library.call());
 }
 
 /// Returns a new array of two controllers' objects, or null. From the first that cannot be built on
@@ -197,19 +180,19 @@ NATIVE_METHOD(void, PerformanceOutputLU, jstring unit, jobject session, jstring 
               jobject preinfo0, jobject afterinfo0, jobject preinfo1, jobject afterinfo1,
               jbyteArray lu, jint option0, jint option1) {
   output(env, QV_PerformanceOutputLU, unit, session, path, preinfo0, afterinfo0, preinfo1,
-         afterinfo1, lu, option0, option1);
+         afterinfo1, SelectedLus(lu), option0, option1);
 }
 
 NATIVE_METHOD(void, PerformanceOutputAll, jstring unit, jobject request) {
-  output(env, QV_PerformanceOutputAll, unit, request, request, Snapshot{request, kPreinfo0},
-         Snapshot{request, kAfterinfo0}, Snapshot{request, kPreinfo1},
-         Snapshot{request, kAfterinfo1});
+  output(env, QV_PerformanceOutputAll, unit, OutputFile(request), request,
+         Snapshot(request, kPreinfo0), Snapshot(request, kAfterinfo0), Snapshot(request, kPreinfo1),
+         Snapshot(request, kAfterinfo1));
 }
 
 NATIVE_METHOD(void, PerformanceOutputAllEx, jstring unit, jobject session, jobject request) {
-  output(env, QV_PerformanceOutputAllEx, unit, session, request, request,
-         Snapshot{request, kPreinfo0}, Snapshot{request, kAfterinfo0}, Snapshot{request, kPreinfo1},
-         Snapshot{request, kAfterinfo1});
+  output(env, QV_PerformanceOutputAllEx, unit, session, OutputFile(request), request,
+         Snapshot(request, kPreinfo0), Snapshot(request, kAfterinfo0), Snapshot(request, kPreinfo1),
+         Snapshot(request, kAfterinfo1));
 }
 
 NATIVE_METHOD(void, PerformanceOutputSkip, jstring unit, jstring path, jobject time, jint option) {
@@ -255,20 +238,17 @@ NATIVE_METHOD(void, SetThreshold, jstring unit, jobject session, jobject thresho
   update(env, QV_SetThreshold, unit, session, threshold);
 }
 
-// Departs from the query frame: the records lie in this frame, the session's is not released, and
-// the array is returned as far as it could be built.
+DEPARTS(GetPerformance,
+        "the session's record is never released, and the array is returned as far as it could be "
+        "built",
+        .neverReleased = 1);
 NATIVE_METHOD(jobjectArray, GetPerformance, jstring unit, jobject session) {
-  flushOutput();
-  Inputs<const UnitName*, const QVSessionInfo*> inputs(unit, session);
-  if (!inputs.accept(env)) {
-    return nullptr;
-  }
-  if (!inputs.allocateAndRead(env)) {
-    throwArrayException(env, kOutOfMemory);
+  LibraryCall library(env, QV_GetPerformance, unit, session);
+  if (!library.begin()) {
     return nullptr;
   }
   StatisticalCommand controllers[2];
-  const int result = inputs.call(QV_GetPerformance, &controllers[0], &controllers[1]);
+  const int result = library.callAndKeepInputs(&controllers[0], &controllers[1]);
   if (result != 0) {
     throwArrayException(env, result);
     return nullptr;
@@ -280,22 +260,18 @@ NATIVE_METHOD(jobjectArray, GetPerformance, jstring unit, jobject session) {
   return array;
 }
 
-// Departs from the query frame: the library is called whether or not there is memory for the
-// snapshots, the session's record is not released, and the array is returned as far as it could be
-// built.
+DEPARTS(GetPerformanceAll,
+        "the library is called whether or not there is memory for the snapshots, the session's "
+        "record is never released, and the array is returned as far as it could be built",
+        .neverReleased = 1, .firstUntestedAllocation = 2);
 NATIVE_METHOD(jobjectArray, GetPerformanceAll, jstring unit, jobject session, jint option) {
-  flushOutput();
-  Inputs<const UnitName*, const QVSessionInfo*, std::int32_t> inputs(unit, session, option);
-  if (!inputs.accept(env)) {
-    return nullptr;
-  }
-  if (!inputs.allocateAndRead(env)) {
-    throwArrayException(env, kOutOfMemory);
+  LibraryCall library(env, QV_GetPerformanceAll, unit, session, option);
+  if (!library.begin()) {
     return nullptr;
   }
   auto* const controller0 = allocate<PerformanceAll>();
   auto* const controller1 = allocate<PerformanceAll>();
-  const int result = inputs.call(QV_GetPerformanceAll, controller0, controller1);
+  const int result = library.callAndKeepInputs(controller0, controller1);
   jobjectArray array = nullptr;
   if (result != 0) {
     throwArrayException(env, result);
@@ -310,34 +286,29 @@ NATIVE_METHOD(jobjectArray, GetPerformanceAll, jstring unit, jobject session, ji
   return array;
 }
 
-// Departs from the query frame: where a record could not be had, the others are released before the
-// exception is thrown. Of the two graphs the first is built.
+DEPARTS(PerformanceOutputGraphInfo,
+        "where a record could not be had, the others are released before the exception is thrown; "
+        "of the two graphs the first is built",
+        .releasesOnRefusal = true);
 NATIVE_METHOD(jobject, PerformanceOutputGraphInfo, jstring unit, jobject session, jobject request) {
-  flushOutput();
-  Inputs<const UnitName*, const QVSessionInfo*, const PerformanceAll*, const PerformanceAll*,
-         const PerformanceAll*, const PerformanceAll*>
-      inputs(unit, session, Snapshot{request, kPreinfo0}, Snapshot{request, kAfterinfo0},
-             Snapshot{request, kPreinfo1}, Snapshot{request, kAfterinfo1});
-  if (!inputs.accept(env)) {
+  LibraryCall library(env, QV_PerformanceOutputGraphInfo, unit, session,
+                      Snapshot(request, kPreinfo0), Snapshot(request, kAfterinfo0),
+                      Snapshot(request, kPreinfo1), Snapshot(request, kAfterinfo1));
+  if (!library.enter()) {
     return nullptr;
   }
-  const bool all = inputs.allocateAll();
+  const bool all = library.allocateInputs();
   auto* const graph = allocate<PerformanceCollectGraphInfo>();
   auto* const second = allocate<PerformanceCollectGraph>();
   if (!all || graph == nullptr || second == nullptr) {
-    inputs.releaseAll();
+    library.releaseInputs();
     releaseRecord(graph);
     releaseRecord(second);
     throwArrayException(env, kOutOfMemory);
     return nullptr;
   }
-  inputs.readAll(env);
-  const int result = inputs.call(QV_PerformanceOutputGraphInfo, graph, second);
-  inputs.releaseAll();
+  library.readInputs();
+  const int result = library.call(graph, second);
   releaseRecord(second);
-  const jobject built = finishQuery(env, result, ClassOf<PerformanceCollectGraphInfo>::kMap, graph);
-  if (built != nullptr) {
-    flushOutput();
-  }
-  return built;
+  return finishQuery(env, result, graph);
 }

@@ -73,8 +73,8 @@ QUORVELJ_MAP(kLightPairLU, PairLUInfo, QUORVELJ_FIELD(PairLUInfo, lun),
 QUORVELJ_MAP(kLightPairs, PairInfo, QUORVELJ_FIELD(PairInfo, option),
              QUORVELJ_FIELD(PairInfo, pair_count), QUORVELJ_FIELD(PairInfo, lu).as(kLightPairLU));
 
-// The second light form: the capacities of the pairs. Its bound of 2,046 logical units is meant;
-// the record holds 4,094.
+// The second light form: the capacities of the pairs. It has the first 2,046 of the 4,094 logical
+// units that the record holds.
 QUORVELJ_MAP(kSecondLightMirror, MirrorLUInfo, QUORVELJ_FIELD(MirrorLUInfo, mirror_no),
              QUORVELJ_FIELD(MirrorLUInfo, lun), QUORVELJ_FIELD(MirrorLUInfo, ctl_no),
              QUORVELJ_FIELD(MirrorLUInfo, pool_no), QUORVELJ_FIELD(MirrorLUInfo, pair_status),
@@ -93,84 +93,84 @@ QUORVELJ_MAP(kSecondLightPairs, PairInfo, QUORVELJ_FIELD(PairInfo, option),
 
 }  // namespace quorvelj
 
-NATIVE_METHOD(void, CreateGemlynPair, jstring unit, jobject session, jobject spec) {
-  update(env, QV_CreateGemlynPair, unit, session, spec);
+NATIVE_METHOD(void, CreateGemlynPair, jstring unit, jobject session, jobject request) {
+  update(env, QV_CreateGemlynPair, unit, session, request);
 }
 
-NATIVE_METHOD(void, SplitGemlynPair, jstring unit, jobject session, jobject spec) {
-  update(env, QV_SplitGemlynPair, unit, session, spec);
+NATIVE_METHOD(void, SplitGemlynPair, jstring unit, jobject session, jobject request) {
+  update(env, QV_SplitGemlynPair, unit, session, request);
 }
 
-NATIVE_METHOD(void, SimpleGemlynPair, jstring unit, jobject session, jobject spec) {
-  update(env, QV_SimpleGemlynPair, unit, session, spec);
+NATIVE_METHOD(void, SimpleGemlynPair, jstring unit, jobject session, jobject request) {
+  update(env, QV_SimpleGemlynPair, unit, session, request);
 }
 
-NATIVE_METHOD(void, ResyncGemlynPair, jstring unit, jobject session, jobject spec) {
-  update(env, QV_ResyncGemlynPair, unit, session, spec);
+NATIVE_METHOD(void, ResyncGemlynPair, jstring unit, jobject session, jobject request) {
+  update(env, QV_ResyncGemlynPair, unit, session, request);
 }
 
-NATIVE_METHOD(void, RestoreGemlynPair, jstring unit, jobject session, jobject spec) {
-  update(env, QV_RestoreGemlynPair, unit, session, spec);
+NATIVE_METHOD(void, RestoreGemlynPair, jstring unit, jobject session, jobject request) {
+  update(env, QV_RestoreGemlynPair, unit, session, request);
 }
 
-NATIVE_METHOD(void, CreateSnapShotPair, jstring unit, jobject session, jobject spec) {
-  update(env, QV_CreateSnapShotPair, unit, session, spec);
+NATIVE_METHOD(void, CreateSnapShotPair, jstring unit, jobject session, jobject request) {
+  update(env, QV_CreateSnapShotPair, unit, session, request);
 }
 
-NATIVE_METHOD(void, SplitSnapShotPair, jstring unit, jobject session, jobject spec) {
-  update(env, QV_SplitSnapShotPair, unit, session, spec);
+NATIVE_METHOD(void, SplitSnapShotPair, jstring unit, jobject session, jobject request) {
+  update(env, QV_SplitSnapShotPair, unit, session, request);
 }
 
-NATIVE_METHOD(void, SimpleSnapShotPair, jstring unit, jobject session, jobject spec) {
-  update(env, QV_SimpleSnapShotPair, unit, session, spec);
+NATIVE_METHOD(void, SimpleSnapShotPair, jstring unit, jobject session, jobject request) {
+  update(env, QV_SimpleSnapShotPair, unit, session, request);
 }
 
-NATIVE_METHOD(void, ResyncSnapShotPair, jstring unit, jobject session, jobject spec) {
-  update(env, QV_ResyncSnapShotPair, unit, session, spec);
+NATIVE_METHOD(void, ResyncSnapShotPair, jstring unit, jobject session, jobject request) {
+  update(env, QV_ResyncSnapShotPair, unit, session, request);
 }
 
-NATIVE_METHOD(void, RestoreSnapShotPair, jstring unit, jobject session, jobject spec) {
-  update(env, QV_RestoreSnapShotPair, unit, session, spec);
+NATIVE_METHOD(void, RestoreSnapShotPair, jstring unit, jobject session, jobject request) {
+  update(env, QV_RestoreSnapShotPair, unit, session, request);
 }
 
-NATIVE_METHOD(void, CreateFarlinkPair, jstring unit, jobject session, jobject spec) {
-  update(env, QV_CreateFarlinkPair, unit, session, spec);
+NATIVE_METHOD(void, CreateFarlinkPair, jstring unit, jobject session, jobject request) {
+  update(env, QV_CreateFarlinkPair, unit, session, request);
 }
 
-NATIVE_METHOD(void, SplitFarlinkPair, jstring unit, jobject session, jobject spec) {
-  update(env, QV_SplitFarlinkPair, unit, session, spec);
+NATIVE_METHOD(void, SplitFarlinkPair, jstring unit, jobject session, jobject request) {
+  update(env, QV_SplitFarlinkPair, unit, session, request);
 }
 
-NATIVE_METHOD(void, SimpleFarlinkPair, jstring unit, jobject session, jobject spec) {
-  update(env, QV_SimpleFarlinkPair, unit, session, spec);
+NATIVE_METHOD(void, SimpleFarlinkPair, jstring unit, jobject session, jobject request) {
+  update(env, QV_SimpleFarlinkPair, unit, session, request);
 }
 
-NATIVE_METHOD(void, ResyncFarlinkPair, jstring unit, jobject session, jobject spec) {
-  update(env, QV_ResyncFarlinkPair, unit, session, spec);
+NATIVE_METHOD(void, ResyncFarlinkPair, jstring unit, jobject session, jobject request) {
+  update(env, QV_ResyncFarlinkPair, unit, session, request);
 }
 
-NATIVE_METHOD(void, SwapFarlinkPair, jstring unit, jobject session, jobject spec) {
-  update(env, QV_SwapFarlinkPair, unit, session, spec);
+NATIVE_METHOD(void, SwapFarlinkPair, jstring unit, jobject session, jobject request) {
+  update(env, QV_SwapFarlinkPair, unit, session, request);
 }
 
-NATIVE_METHOD(void, CreateLonglinkPair, jstring unit, jobject session, jobject spec) {
-  update(env, QV_CreateLonglinkPair, unit, session, spec);
+NATIVE_METHOD(void, CreateLonglinkPair, jstring unit, jobject session, jobject request) {
+  update(env, QV_CreateLonglinkPair, unit, session, request);
 }
 
-NATIVE_METHOD(void, SplitLonglinkPair, jstring unit, jobject session, jobject spec) {
-  update(env, QV_SplitLonglinkPair, unit, session, spec);
+NATIVE_METHOD(void, SplitLonglinkPair, jstring unit, jobject session, jobject request) {
+  update(env, QV_SplitLonglinkPair, unit, session, request);
 }
 
-NATIVE_METHOD(void, SimpleLonglinkPair, jstring unit, jobject session, jobject spec) {
-  update(env, QV_SimpleLonglinkPair, unit, session, spec);
+NATIVE_METHOD(void, SimpleLonglinkPair, jstring unit, jobject session, jobject request) {
+  update(env, QV_SimpleLonglinkPair, unit, session, request);
 }
 
-NATIVE_METHOD(void, ResyncLonglinkPair, jstring unit, jobject session, jobject spec) {
-  update(env, QV_ResyncLonglinkPair, unit, session, spec);
+NATIVE_METHOD(void, ResyncLonglinkPair, jstring unit, jobject session, jobject request) {
+  update(env, QV_ResyncLonglinkPair, unit, session, request);
 }
 
-NATIVE_METHOD(void, SwapLonglinkPair, jstring unit, jobject session, jobject spec) {
-  update(env, QV_SwapLonglinkPair, unit, session, spec);
+NATIVE_METHOD(void, SwapLonglinkPair, jstring unit, jobject session, jobject request) {
+  update(env, QV_SwapLonglinkPair, unit, session, request);
 }
 
 NATIVE_METHOD(void, ChangeReplicationPair, jstring unit, jobject session, jobject change) {

@@ -4,7 +4,6 @@
 #include <array>
 #include <string_view>
 
-#include "methods/hosts/host_group_maps.h"
 #include "methods/native_methods.h"
 #include "methods/replication/copy_pair_maps.h"
 
@@ -60,14 +59,11 @@ QUORVELJ_CLASS(ArrayAllInfo_Tuning, valid_index, on_tuning, pre_tuning, luowner)
 
 namespace {
 
-/// The fields of the whole array, but that the mapping and the pairs are built in their compact
-/// forms.
+/// The fields of the whole array, with the pairs in their second light form.
 consteval auto lightFields() {
   auto fields = std::to_array(kFieldsOfArrayAllInformation);
   for (Field& field : fields) {
-    if (std::string_view(field.name) == "lumap") {
-      field.element = &kCompactLuMapping;
-    } else if (std::string_view(field.name) == "pair_info") {
+    if (std::string_view(field.name) == "pair_info") {
       field.element = &kSecondLightPairs;
     }
   }

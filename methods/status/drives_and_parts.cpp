@@ -166,60 +166,36 @@ NATIVE_METHOD(jint, GetPinInfoGetTime, jstring unit, jint option) {
   return value(env, QV_GetPinInfoGetTime, unit, option);
 }
 
-namespace {
-
-/// The drives of an array in the flat form: 450 slots.
-template <class Record>
-using FlatDrives = Record[450];
-constexpr jsize kFlatDrives = 450;
-
-}  // namespace
-
-// Departs from the query frame: an array that cannot be made is null without an exception of the
-// bridge's own, and an element that cannot be built leaves the rest of the array null.
 NATIVE_METHOD(jobjectArray, GetDriveInformationAll, jstring unit, jobject session) {
-  flushOutput();
-  Inputs<const UnitName*, const QVSessionInfo*> inputs(unit, session);
-  if (!inputs.accept(env)) {
-    return nullptr;
-  }
-  FlatDrives<DiskDriveInformation>* drives = nullptr;
-  if (inputs.allocateAndRead(env)) {
-    drives = allocate<FlatDrives<DiskDriveInformation>>();
-  }
-  if (drives == nullptr) {
-    throwArrayException(env, kOutOfMemory);
-    return nullptr;
-  }
-  const int result = inputs.call(QV_GetDriveInformationAll, drives);
-  inputs.releaseAll();
-  return finishPartialArrayQuery(env, result, drives);
+  return partialQuery(env, QV_GetDriveInformationAll, unit, session);
 }
 
-// Departs from every frame: the name may be null, nothing is flushed by the method itself, the
-// drives are no heap record, the session record is never released, and every element is stored,
-// also one that could not be built. An array that cannot be made is null.
+DEPARTS(GetDriveStatus,
+        "flushes nothing itself, takes a null name for an empty one, never releases the session's "
+        "record, stores every element, also one that could not be built, and returns an array that "
+        "cannot be made as null without 2817",
+        .neverReleased = 1, .acceptsNullText = true);
 NATIVE_METHOD(jobjectArray, GetDriveStatus, jstring unit, jobject session) {
   UnitName name;
-  name[0] = '\0';
-  copyJavaStringToBuffer(env, unit, name, sizeof name);
-  auto* const sessionRecord = allocate<QVSessionInfo>();
-  if (sessionRecord == nullptr) {
+  copyOptionalText(env, unit, name);
+  Argument<const QVSessionInfo*> opened(session);
+  if (!opened.allocate()) {
     throwArrayException(env, kOutOfMemory);
     return nullptr;
   }
-  read(env, ClassOf<QVSessionInfo>::kMap, session, sessionRecord);
-  FlatDrives<DiskDrive> drives;
-  const int result = QV_GetDriveStatus(&name, sessionRecord, &drives);
+  opened.read(env);
+  FlatDriveStatus drives;
+  const int result = QV_GetDriveStatus(&name, opened.get(), &drives);
   if (result != 0) {
     throwArrayException(env, result);
     return nullptr;
   }
-  const jobjectArray array = newObjectArrayByName(env, ClassOf<DiskDrive>::kName, kFlatDrives);
+  constexpr auto kDrives = static_cast<jsize>(std::extent_v<FlatDriveStatus>);
+  const jobjectArray array = newObjectArrayByName(env, ClassOf<DiskDrive>::kName, kDrives);
   if (array == nullptr) {
     return nullptr;
   }
-  for (jsize index = 0; index < kFlatDrives; ++index) {
+  for (jsize index = 0; index < kDrives; ++index) {
     const jobject drive = build(env, ClassOf<DiskDrive>::kMap, &drives[index]);
     env->SetObjectArrayElement(array, index, drive);
     deleteLocalRef(env, drive);
@@ -227,21 +203,14 @@ NATIVE_METHOD(jobjectArray, GetDriveStatus, jstring unit, jobject session) {
   return array;
 }
 
-// Departs from the query frame: the result is an `int[]`, filled from a table that is no heap
-// record.
+DEPARTS(GetPinInfo2, "the result is an `int[]`");
 NATIVE_METHOD(jintArray, GetPinInfo2, jstring unit, jobject session) {
-  flushOutput();
-  Inputs<const UnitName*, const QVSessionInfo*> inputs(unit, session);
-  if (!inputs.accept(env)) {
-    return nullptr;
-  }
-  if (!inputs.allocateAndRead(env)) {
-    throwArrayException(env, kOutOfMemory);
+  LibraryCall library(env, QV_GetPinInfo2, unit, session);
+  if (!library.begin()) {
     return nullptr;
   }
   PinTable table;
-  const int result = inputs.call(QV_GetPinInfo2, &table);
-  inputs.releaseAll();
+  const int result = library.call(&table);
   if (result != 0) {
     throwArrayException(env, result);
     return nullptr;

@@ -131,33 +131,18 @@ NATIVE_METHOD(void, SetLuOwnership, jstring unit, jobject session, jobject info)
   update(env, QV_SetLuOwnership, unit, session, info);
 }
 
-// Departs from the query frame: an element that cannot be built is no failure. The array is
-// returned with what there is before it, the rest null, and 2817 is not thrown.
 NATIVE_METHOD(jobjectArray, GetLogicalUnit, jstring unit, jobject session) {
-  flushOutput();
-  Inputs<const UnitName*, const QVSessionInfo*> inputs(unit, session);
-  if (!inputs.accept(env)) {
-    return nullptr;
-  }
-  LogicalUnit(*list)[8192] = nullptr;
-  if (inputs.allocateAndRead(env)) {
-    list = allocate<LogicalUnit[8192]>();
-  }
-  if (list == nullptr) {
-    throwArrayException(env, kOutOfMemory);
-    return nullptr;
-  }
-  const int result = inputs.call(QV_GetLogicalUnit, list);
-  inputs.releaseAll();
-  return finishPartialArrayQuery(env, result, list);
+  return partialQuery(env, QV_GetLogicalUnit, unit, session);
 }
 
-// Departs from the query frame: the list is in this function's own frame, nothing is flushed, a
-// null name is none to be refused, and a list that cannot be built is null without 2817.
+DEPARTS(
+    LogicalUnitFormatStatusList,
+    "flushes nothing itself, takes a null name for an empty one, and returns a list that cannot "
+    "be built as null without 2817",
+    .acceptsNullText = true);
 NATIVE_METHOD(jobject, LogicalUnitFormatStatusList, jstring unit) {
   UnitName name;
-  name[0] = '\0';
-  copyJavaStringToBuffer(env, unit, name, sizeof name);
+  copyOptionalText(env, unit, name);
   LuFormatStatusList list;
   const int result = QV_LogicalUnitFormatStatusList(&name, &list);
   if (result != 0) {

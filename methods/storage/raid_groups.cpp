@@ -54,19 +54,6 @@ NATIVE_METHOD(jobject, GetRaidGroupCreationCapacity, jstring unit, jobject sessi
   return query(env, QV_GetRaidGroupCreationCapacity, unit, session, request);
 }
 
-// Departs from the query frame: an element that cannot be built is no failure. The array is
-// returned with what there is before it, the rest null, and 2817 is not thrown.
 NATIVE_METHOD(jobjectArray, GetRaidGroups, jstring unit) {
-  flushOutput();
-  Inputs<const UnitName*> inputs(unit);
-  if (!inputs.accept(env)) {
-    return nullptr;
-  }
-  auto* const groups = allocate<RaidGroup[90]>();
-  if (groups == nullptr) {
-    throwArrayException(env, kOutOfMemory);
-    return nullptr;
-  }
-  const int result = inputs.call(QV_GetRaidGroups, groups);
-  return finishPartialArrayQuery(env, result, groups);
+  return partialQuery(env, QV_GetRaidGroups, unit);
 }

@@ -38,41 +38,40 @@ NATIVE_METHOD(jobject, GetAdditionalUnitInformation, jstring unit, jobject sessi
 
 namespace {
 
-// Departs from the query frame: where there is no memory for the result, the request is released
-// before the exception is thrown.
-jobject discover(JNIEnv* env, int (*function)(const DiscoverUnitRequest*, DiscoverUnit*),
-                 jobject object) {
-  flushOutput();
-  Inputs<const DiscoverUnitRequest*> request(object);
+constexpr char kDiscoveryDeparts[] =
+    "where there is no memory for the result, the request is released before the exception is "
+    "thrown";
+
+template <class Function>
+jobject discover(JNIEnv* env, Function function, jobject request) {
+  LibraryCall library(env, function, request);
+  library.enter();
   DiscoverUnit* found = nullptr;
-  if (request.allocateAndRead(env)) {
+  if (library.allocateInputs()) {
+    library.readInputs();
     found = allocate<DiscoverUnit>();
   }
   if (found == nullptr) {
-    request.releaseAll();
+    library.releaseInputs();
     throwArrayException(env, kOutOfMemory);
     return nullptr;
   }
-  const int result = request.call(function, found);
-  request.releaseAll();
-  const jobject built = finishQuery(env, result, ClassOf<DiscoverUnit>::kMap, found);
-  if (built != nullptr) {
-    flushOutput();
-  }
-  return built;
+  return finishQuery(env, library.call(found), found);
 }
 
 }  // namespace
 
+DEPARTS(DiscoverUnitInformation, kDiscoveryDeparts, .releasesOnRefusal = true);
 NATIVE_METHOD(jobject, DiscoverUnitInformation, jobject request) {
   return discover(env, QV_DiscoverUnitInformation, request);
 }
 
+DEPARTS(DiscoverUnitInformationEx, kDiscoveryDeparts, .releasesOnRefusal = true);
 NATIVE_METHOD(jobject, DiscoverUnitInformationEx, jobject request) {
   return discover(env, QV_DiscoverUnitInformationEx, request);
 }
 
-// Departs from the value frame: nothing is flushed, and a failure returns -1.
+DEPARTS(GetUnitCount, "nothing is flushed, and a failure returns -1", .failureValue = -1);
 NATIVE_METHOD(jint, GetUnitCount) {
   std::int32_t count = 0;
   const int result = QV_GetUnitCount(&count);
@@ -83,10 +82,13 @@ NATIVE_METHOD(jint, GetUnitCount) {
   return count;
 }
 
-// Departs from the query frame: the count is the caller's, the records are zero-filled, no memory
-// for them is null without an exception, an array that cannot be made is code -1, and an element
-// that cannot be built leaves the rest of the array null. Nothing is flushed on entry; on the way
-// out standard output is flushed whatever came of it.
+DEPARTS(
+    GetUnitParamTable,
+    "the count is the caller's, the records are zero-filled, no memory for them is null without "
+    "an exception, an array that cannot be made is code -1, an element that cannot be built "
+    "leaves the rest of the array null, nothing is flushed on entry, and standard output is "
+    "flushed after the call also where it failed",
+    .silentWithoutMemory = true);
 NATIVE_METHOD(jobjectArray, GetUnitParamTable, jint count) {
   auto* const table = static_cast<QVUnitParam*>(
       allocateZeroedRecords(static_cast<std::size_t>(count), sizeof(QVUnitParam)));

@@ -141,35 +141,40 @@ jobjectArray finishLogin(JNIEnv* env, int result, const LoginPair& pair) {
 
 }  // namespace
 
-// Departs from the query frame: the user and the result are no heap records, and the result is a
-// `String[]`, or null where nobody is named.
+DEPARTS(LoginQVUnit,
+        "the user and the result lie on the stack and begin as zeros, and the result is a "
+        "`String[]`, or null where nobody is named",
+        .nullOfZeros = true);
 NATIVE_METHOD(jobjectArray, LoginQVUnit, jstring unit, jint mode, jobject user) {
-  flushOutput();
-  Inputs<const LongUnitName*, std::int32_t> inputs(unit, mode);
-  if (!inputs.accept(env)) {
+  LibraryCall library(env, QV_LoginQVUnit, unit, mode);
+  if (!library.begin()) {
     return nullptr;
   }
   ArrayUser record{};
   read(env, ClassOf<ArrayUser>::kMap, user, &record);
   LoginPair pair{};
-  const int result = inputs.call<const ArrayUser*>(QV_LoginQVUnit, &record, &pair);
-  return finishLogin(env, result, pair);
+  return finishLogin(env, library.call(&record, &pair), pair);
 }
 
-// Departs as the login does, without a user.
+DEPARTS(GetLoginUser,
+        "the result lies on the stack, begins as zeros, and is a `String[]`, or null where nobody "
+        "is named",
+        .nullOfZeros = true);
 NATIVE_METHOD(jobjectArray, GetLoginUser, jstring unit, jint mode) {
-  flushOutput();
-  Inputs<const LongUnitName*, std::int32_t> inputs(unit, mode);
-  if (!inputs.accept(env)) {
+  LibraryCall library(env, QV_GetLoginUser, unit, mode);
+  if (!library.begin()) {
     return nullptr;
   }
   LoginPair pair{};
-  const int result = inputs.call(QV_GetLoginUser, &pair);
-  return finishLogin(env, result, pair);
+  return finishLogin(env, library.call(&pair), pair);
 }
 
-// Departs from every frame: returns the library's result, of which 0 and -1 are no failures. The
-// library gets Java's own characters, which are never released.
+DEPARTS(
+    PasswdCheck,
+    "returns the library's result, of which 0 and -1 are no failures; the library gets Java's "
+    "own characters, which are never released; characters that cannot be had are 2817, returned "
+    "and not thrown",
+    .failureValue = -1, .neverReleasedCharacters = 1, .stopsUnread = true, .returnsResult = true);
 NATIVE_METHOD(jint, PasswdCheck, jstring password) {
   flushOutput();
   if (password == nullptr) {
@@ -191,7 +196,7 @@ NATIVE_METHOD(jint, PasswdCheck, jstring password) {
 
 namespace {
 
-/// The unit and the session of a method of the clock. A null name is an empty one.
+/// The unit and the session of a method of the clock.
 struct ClockInputs {
   UnitName unit;
   QVSessionInfo* session;
@@ -199,8 +204,7 @@ struct ClockInputs {
 
 /// Copies the name and reads the session, or throws 65535 and returns false.
 bool accept(JNIEnv* env, jstring unit, jobject session, ClockInputs& inputs) {
-  inputs.unit[0] = '\0';
-  copyJavaStringToBuffer(env, unit, inputs.unit, sizeof inputs.unit);
+  copyOptionalText(env, unit, inputs.unit);
   inputs.session = allocate<QVSessionInfo>();
   if (inputs.session == nullptr) {
     throwArrayException(env, kOutOfMemory);
@@ -212,10 +216,12 @@ bool accept(JNIEnv* env, jstring unit, jobject session, ClockInputs& inputs) {
 
 }  // namespace
 
-// The clock departs from the frames: the name may be null, nothing is flushed by the methods
-// themselves, times are no heap records, and the session record is never released.
-
-// A time that cannot be built is returned as null without an exception of the bridge's own.
+DEPARTS(
+    GetUnitTime,
+    "flushes nothing itself, takes a null name for an empty one, never releases the session's "
+    "record, and returns a time that cannot be built as null without 2817; the time lies on the "
+    "stack",
+    .neverReleased = 1, .acceptsNullText = true);
 NATIVE_METHOD(jobject, GetUnitTime, jstring unit, jobject session) {
   ClockInputs inputs;
   if (!accept(env, unit, session, inputs)) {
@@ -230,7 +236,12 @@ NATIVE_METHOD(jobject, GetUnitTime, jstring unit, jobject session) {
   return build(env, ClassOf<QVTime>::kMap, &time);
 }
 
-// What the reader of the time returns is thrown, and the library not called: -1 for a null time.
+DEPARTS(
+    SetUnitTime,
+    "flushes nothing, takes a null name for an empty one, never releases the session's record, "
+    "and throws what the reader of the time returns, -1 for a null time, instead of calling the "
+    "library; the time lies on the stack",
+    .neverReleased = 1, .acceptsNullText = true, .stopsUnread = true);
 NATIVE_METHOD(void, SetUnitTime, jstring unit, jobject session, jobject time) {
   ClockInputs inputs;
   if (!accept(env, unit, session, inputs)) {
@@ -246,6 +257,10 @@ NATIVE_METHOD(void, SetUnitTime, jstring unit, jobject session, jobject time) {
   }
 }
 
+DEPARTS(SetUnitTimeNow,
+        "flushes nothing, takes a null name for an empty one, and never releases the session's "
+        "record",
+        .neverReleased = 1, .acceptsNullText = true);
 NATIVE_METHOD(void, SetUnitTimeNow, jstring unit, jobject session) {
   ClockInputs inputs;
   if (!accept(env, unit, session, inputs)) {

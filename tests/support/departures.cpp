@@ -1,37 +1,27 @@
 #include "tests/support/departures.h"
 
 #include <map>
+#include <string_view>
+
+#define NATIVE_METHOD_ENTRY(name, escaped, signature) \
+  extern "C" const quorvelj::Departure departureOf_##escaped;
+#include "native_methods.inc"
+#undef NATIVE_METHOD_ENTRY
 
 namespace quorvelj::testing {
 
 const Departure& departureOf(const NativeMethod& method) {
-  static const std::map<std::string, Departure> departures{
-      {"QV_GetUnitCount", {.failureValue = -1}},
-      {"QV_DiscoverUnitInformation", {.releasesOnRefusal = true}},
-      {"QV_DiscoverUnitInformationEx", {.releasesOnRefusal = true}},
-      {"QV_GetUnitParamTable", {.silentWithoutMemory = true}},
-      {"QV_LoginQVUnit", {.output = {'u', 's', 'e', 'r'}}},
-      {"QV_GetLoginUser", {.output = {'u', 's', 'e', 'r'}}},
-      {"QV_PasswdCheck",
-       {.failureValue = -1,
-        .neverReleasedCharacters = 1,
-        .stopsUnread = true,
-        .returnsResult = true}},
-      {"QV_GetUnitTime", {.neverReleased = 1, .acceptsNullText = true}},
-      {"QV_SetUnitTime", {.neverReleased = 1, .acceptsNullText = true, .stopsUnread = true}},
-      {"QV_SetUnitTimeNow", {.neverReleased = 1, .acceptsNullText = true}},
-      {"QV_GetDriveStatus", {.neverReleased = 1, .acceptsNullText = true}},
-      {"QV_LogicalUnitFormatStatusList", {.acceptsNullText = true}},
-      {"QV_FibreInfoPermissionImport", {.acceptsNullText = true}},
-      {"QV_GetPerformance", {.neverReleased = 1}},
-      {"QV_GetPerformanceAll", {.neverReleased = 1, .firstUntestedAllocation = 2}},
-      {"QV_PerformanceOutputGraphInfo", {.releasesOnRefusal = true}},
-      {"QV_SetSnmpConfig", {.neverReleased = 1}},
-      {"QV_SnmpConfigOutput", {.neverReleased = 1}},
+#define NATIVE_METHOD_ENTRY(name, escaped, signature) {#name, &departureOf_##escaped},
+  static const std::map<std::string_view, const Departure*> departures{
+#include "native_methods.inc"
   };
-  static const Departure regular;
-  const auto found = departures.find(method.name);
-  return found == departures.end() ? regular : found->second;
+#undef NATIVE_METHOD_ENTRY
+  return *departures.at(method.name);
+}
+
+std::vector<unsigned char> outputFor(const NativeMethod& method) {
+  return departureOf(method).nullOfZeros ? std::vector<unsigned char>{'u', 's', 'e', 'r'}
+                                         : std::vector<unsigned char>{};
 }
 
 }  // namespace quorvelj::testing

@@ -26,7 +26,7 @@ class Dll : public ::testing::TestWithParam<NativeMethod> {
   static Outcome play(int libraryResult, int failingCall, int nullArgument) {
     quorvelSimReset();
     quorvelSimForceResult("*", libraryResult, 1);
-    const auto& output = departureOf(GetParam()).output;
+    const auto output = outputFor(GetParam());
     quorvelSimPrepareOutput("*", output.data(), output.size());
     MiniJvm jvm;
     std::vector<jvalue> arguments;

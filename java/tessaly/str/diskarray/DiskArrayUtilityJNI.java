@@ -1023,83 +1023,83 @@ public class DiskArrayUtilityJNI {
 
     /** Creates a Gemlyn pair. */
     public native void QV_CreateGemlynPair(
-            String unit, QVSessionInfo session, CreateGemlynPair spec) throws DiskArrayException;
+            String unit, QVSessionInfo session, CreateGemlynPair request) throws DiskArrayException;
 
     /** Splits Gemlyn pairs. */
-    public native void QV_SplitGemlynPair(String unit, QVSessionInfo session, SplitGemlynPair spec)
+    public native void QV_SplitGemlynPair(String unit, QVSessionInfo session, SplitGemlynPair request)
             throws DiskArrayException;
 
     /** Dissolves Gemlyn pairs. */
-    public native void QV_SimpleGemlynPair(String unit, QVSessionInfo session, PairOperation spec)
+    public native void QV_SimpleGemlynPair(String unit, QVSessionInfo session, PairOperation request)
             throws DiskArrayException;
 
     /** Copies the changes since the split of Gemlyn pairs to their secondary side. */
-    public native void QV_ResyncGemlynPair(String unit, QVSessionInfo session, PairOperation spec)
+    public native void QV_ResyncGemlynPair(String unit, QVSessionInfo session, PairOperation request)
             throws DiskArrayException;
 
     /** Copies the secondary side of Gemlyn pairs back. */
-    public native void QV_RestoreGemlynPair(String unit, QVSessionInfo session, PairOperation spec)
+    public native void QV_RestoreGemlynPair(String unit, QVSessionInfo session, PairOperation request)
             throws DiskArrayException;
 
     /** Creates a SnapShot pair. */
     public native void QV_CreateSnapShotPair(
-            String unit, QVSessionInfo session, CreateSnapShotPair spec) throws DiskArrayException;
+            String unit, QVSessionInfo session, CreateSnapShotPair request) throws DiskArrayException;
 
     /** Splits SnapShot pairs. */
     public native void QV_SplitSnapShotPair(
-            String unit, QVSessionInfo session, SplitSnapShotPair spec) throws DiskArrayException;
+            String unit, QVSessionInfo session, SplitSnapShotPair request) throws DiskArrayException;
 
     /** Dissolves SnapShot pairs. */
-    public native void QV_SimpleSnapShotPair(String unit, QVSessionInfo session, PairOperation spec)
+    public native void QV_SimpleSnapShotPair(String unit, QVSessionInfo session, PairOperation request)
             throws DiskArrayException;
 
     /** Copies the changes since the split of SnapShot pairs to their secondary side. */
-    public native void QV_ResyncSnapShotPair(String unit, QVSessionInfo session, PairOperation spec)
+    public native void QV_ResyncSnapShotPair(String unit, QVSessionInfo session, PairOperation request)
             throws DiskArrayException;
 
     /** Copies the secondary side of SnapShot pairs back. */
     public native void QV_RestoreSnapShotPair(
-            String unit, QVSessionInfo session, PairOperation spec) throws DiskArrayException;
+            String unit, QVSessionInfo session, PairOperation request) throws DiskArrayException;
 
     /** Creates a Farlink pair. */
     public native void QV_CreateFarlinkPair(
-            String unit, QVSessionInfo session, CreateFarlinkPair spec) throws DiskArrayException;
+            String unit, QVSessionInfo session, CreateFarlinkPair request) throws DiskArrayException;
 
     /** Splits Farlink pairs. */
     public native void QV_SplitFarlinkPair(
-            String unit, QVSessionInfo session, SplitFarlinkPair spec) throws DiskArrayException;
+            String unit, QVSessionInfo session, SplitFarlinkPair request) throws DiskArrayException;
 
     /** Dissolves Farlink pairs. */
     public native void QV_SimpleFarlinkPair(
-            String unit, QVSessionInfo session, SimpleRemotePair spec) throws DiskArrayException;
+            String unit, QVSessionInfo session, SimpleRemotePair request) throws DiskArrayException;
 
     /** Copies the changes since the split of Farlink pairs to the other array. */
     public native void QV_ResyncFarlinkPair(
-            String unit, QVSessionInfo session, RemotePairOperation spec) throws DiskArrayException;
+            String unit, QVSessionInfo session, RemotePairOperation request) throws DiskArrayException;
 
     /** Makes the secondary side of Farlink pairs the primary one. */
     public native void QV_SwapFarlinkPair(
-            String unit, QVSessionInfo session, RemotePairOperation spec) throws DiskArrayException;
+            String unit, QVSessionInfo session, RemotePairOperation request) throws DiskArrayException;
 
     /** Creates a Longlink pair. */
     public native void QV_CreateLonglinkPair(
-            String unit, QVSessionInfo session, CreateLonglinkPair spec) throws DiskArrayException;
+            String unit, QVSessionInfo session, CreateLonglinkPair request) throws DiskArrayException;
 
     /** Splits Longlink pairs. */
     public native void QV_SplitLonglinkPair(
-            String unit, QVSessionInfo session, SplitLonglinkPair spec) throws DiskArrayException;
+            String unit, QVSessionInfo session, SplitLonglinkPair request) throws DiskArrayException;
 
     /** Dissolves Longlink pairs. */
     public native void QV_SimpleLonglinkPair(
-            String unit, QVSessionInfo session, SimpleRemotePair spec) throws DiskArrayException;
+            String unit, QVSessionInfo session, SimpleRemotePair request) throws DiskArrayException;
 
     /** Copies the changes since the split of Longlink pairs to the other array. */
     public native void QV_ResyncLonglinkPair(
-            String unit, QVSessionInfo session, RemotePairOperation spec) throws DiskArrayException;
+            String unit, QVSessionInfo session, RemotePairOperation request) throws DiskArrayException;
 
     /** Makes the secondary side of Longlink pairs the primary one. */
     public native void QV_SwapLonglinkPair(
-            String unit, QVSessionInfo session, RemotePairOperation spec) throws DiskArrayException;
+            String unit, QVSessionInfo session, RemotePairOperation request) throws DiskArrayException;
 
     /** Changes the attributes of a pair. */
     public native void QV_ChangeReplicationPair(

@@ -1,0 +1,85 @@
+// Every map against the Java class of its name: the same fields, of the same types.
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <map>
+#include <set>
+#include <string>
+
+#include "bridge/class_map.h"
+#include "record_headers.inc"
+
+namespace quorvelj::testing {
+namespace {
+
+using Fields = std::set<std::string>;  // "session_id [B"
+
+/// The fields of Java's classes that have any, by class.
+std::map<std::string, Fields> javaClasses() {
+  std::ifstream list(QUORVELJ_CLASSES);
+  EXPECT_TRUE(list) << "no list of classes";
+  std::map<std::string, Fields> classes;
+  std::string className;
+  std::string name;
+  std::string signature;
+  for (int length = 0; list >> className >> name >> signature >> length;) {
+    classes[className].insert(name + ' ' + signature);
+  }
+  return classes;
+}
+
+void add(Fields& fields, const ClassMap& map) {
+  for (const Field& field : map.fields) {
+    if (field.kind == FieldKind::kPart) {
+      add(fields, *field.element);
+    } else {
+      EXPECT_TRUE(fields.insert(std::string(field.name) + ' ' + field.signature).second)
+          << field.name << " is filled twice";
+    }
+  }
+}
+
+/// Fields that native methods read by maps of their own, each into a record of its own.
+const std::map<std::string, Fields>& fieldsReadApart() {
+  static const Fields snapshots{"preinfo0 Ltessaly/str/diskarray/PerformanceAll;",
+                                "afterinfo0 Ltessaly/str/diskarray/PerformanceAll;",
+                                "preinfo1 Ltessaly/str/diskarray/PerformanceAll;",
+                                "afterinfo1 Ltessaly/str/diskarray/PerformanceAll;"};
+  static const auto withFile = [] {
+    Fields fields = snapshots;
+    fields.insert("filename Ljava/lang/String;");
+    return fields;
+  }();
+  static const std::map<std::string, Fields> apart{
+      {"PerformanceOutputAllRequest", withFile},
+      {"PerformanceOutputAllExRequest", withFile},
+      {"PerformanceOutputGraphInfoRequest", snapshots},
+  };
+  return apart;
+}
+
+TEST(JavaClasses, HaveTheFieldsOfTheirMaps) {
+  std::map<std::string, Fields> mapped = fieldsReadApart();
+  const auto enter = [&](const std::string& record, const ClassMap& map) {
+    if (*map.className == '\0') {
+      return;  // The fields of a part are looked at where it is a member.
+    }
+    EXPECT_EQ(map.className, "tessaly/str/diskarray/" + record);
+    if (!map.fields.empty()) {
+      add(mapped[record], map);
+    }
+  };
+#define RECORD_ENTRY(header, Record) enter(#Record, ClassOf<Record>::kMap);
+#include "record_entries.inc"
+#undef RECORD_ENTRY
+  const auto java = javaClasses();
+  for (const auto& [name, fields] : java) {
+    EXPECT_EQ(mapped[name], fields) << "the Java class " << name << ", on the right";
+  }
+  for (const auto& [name, fields] : mapped) {
+    EXPECT_TRUE(java.contains(name)) << "no Java class " << name << " with fields";
+  }
+}
+
+}  // namespace
+}  // namespace quorvelj::testing
