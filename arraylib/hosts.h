@@ -987,6 +987,9 @@ struct FibreInformationPermission {
 };
 QUORVEL_RECORD(FibreInformationPermission, 297);
 
+/// The permitted hosts of a port.
+using PermittedHosts = FibreInformationPermission[128];
+
 // Assumed layout: not confirmed by the library's own declarations.
 struct FibreInformationSecurity {
   std::int32_t access_guard;
@@ -1056,5 +1059,4 @@ QUORVEL_API int QV_SetFibreInformation(const UnitName* unit, const QVSessionInfo
                                        const FibreInformation* second);
 // Assumed layout: not confirmed by the library's own declarations.
 QUORVEL_API int QV_FibreInfoPermissionImport(const UnitName* unit, const FilePath* path,
-                                             std::int32_t port,
-                                             FibreInformationPermission (*permissions)[128]);
+                                             std::int32_t port, PermittedHosts* permissions);

@@ -29,8 +29,8 @@ struct ClassOf;
     static const ClassMap kMap;                                                         \
   }
 
-/// The same for a record without a Java class of its own, a part: its fields are fields of the object
-/// that the record around it stands for, or of the argument that it is read from.
+/// The same for a record without a Java class of its own, a part: its fields are fields of the
+/// object that the record around it stands for, or of the argument that it is read from.
 #define QUORVEL_PART(Record, bytes)                                 \
   static_assert(sizeof(Record) == (bytes), "the size of " #Record); \
   template <>                                                       \

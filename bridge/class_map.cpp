@@ -51,26 +51,26 @@ bool terminated(const char* slots, std::size_t count, std::size_t width) {
   return true;
 }
 
-/// Hands the texts on in a copy in which every slot is one byte wider and ends in a NUL. Apart, to
-/// keep the copy out of the stack frames of nested builders.
+/// Hands texts on in place where the library ended every one inside its width, else in a copy in
+/// which every slot is one byte wider and ends in a NUL.
 template <class Store>
-[[gnu::noinline]] int withCopiedTexts(const char* slots, std::size_t count, std::size_t width,
-                                      Store store) {
-  // A slot has one byte at the least, so that the copy is at most twice as large.
-  char copy[2 * kMaxTextBytes];
+int withTexts(JNIEnv* env, const char* slots, std::size_t count, std::size_t width, Store store) {
+  if (terminated(slots, count, width)) {
+    return store(slots, width);
+  }
+  auto* const copy = static_cast<char*>(allocateRecord(count * (width + 1)));
+  if (copy == nullptr) {
+    throwArrayException(env, kOutOfMemory);
+    return kFailed;
+  }
   for (std::size_t slot = 0; slot < count; ++slot) {
     char* const start = copy + slot * (width + 1);
     std::memcpy(start, slots + slot * width, width);
     start[width] = '\0';
   }
-  return store(copy, width + 1);
-}
-
-/// Hands texts on in place where the library ended every one inside its width.
-template <class Store>
-int withTexts(const char* slots, std::size_t count, std::size_t width, Store store) {
-  return terminated(slots, count, width) ? store(slots, width)
-                                         : withCopiedTexts(slots, count, width, store);
+  const int result = store(copy, width + 1);
+  releaseRecord(copy);
+  return result;
 }
 
 jobject newArray(JNIEnv* env, const Field& field, std::size_t dimension, const std::byte* at);
@@ -132,13 +132,13 @@ int storeNew(JNIEnv* env, jobject object, const Field& field, jobject value) {
 int setTexts(JNIEnv* env, jobject object, const Field& field, const char* texts) {
   if (field.rank == 0) {
     // A text that cannot be stored does not end a builder.
-    withTexts(texts, 1, field.elementBytes, [&](const char* text, std::size_t) {
+    withTexts(env, texts, 1, field.elementBytes, [&](const char* text, std::size_t) {
       return setStringField(env, object, field.name, text);
     });
     return kOk;
   }
   return withTexts(
-      texts, field.extents[0], field.elementBytes, [&](const char* slots, std::size_t stride) {
+      env, texts, field.extents[0], field.elementBytes, [&](const char* slots, std::size_t stride) {
         return setStringArrayField(env, object, field.name, slots, lengthOf(field, 0), stride);
       });
 }
@@ -185,29 +185,34 @@ int setFields(JNIEnv* env, jobject object, const ClassMap& map, const std::byte*
 
 // Reading
 
+/// Whether the reading of an object or an array inside ended with an exception. Any other failure
+/// is the inner reader's own.
+bool stopped(JNIEnv* env, int result) { return result != kOk && exceptionPending(env); }
+
 /// Reads the elements of one dimension, as many as there is room for. An element that is missing,
-/// or that stops inside without an exception, is passed over.
-void readElements(JNIEnv* env, const Field& field, std::size_t dimension, jobjectArray array,
-                  std::byte* at) {
+/// or whose reading ended without an exception, is passed over; an exception ends the array.
+int readElements(JNIEnv* env, const Field& field, std::size_t dimension, jobjectArray array,
+                 std::byte* at) {
+  const auto readElement = [&](jobject element, std::size_t stride) {
+    if (dimension + 1 == field.rank) {
+      return read(env, *field.element, element, at);
+    }
+    if (dimension + 2 == field.rank && field.kind == FieldKind::kInt8) {
+      return copyIntArrayAsBytes(env, static_cast<jintArray>(element), bytesAt(at), stride);
+    }
+    return readElements(env, field, dimension + 1, static_cast<jobjectArray>(element), at);
+  };
   const jsize length = std::min(env->GetArrayLength(array), lengthOf(field, dimension));
   const std::size_t stride = strideOf(field, dimension);
   for (jsize index = 0; index < length; ++index) {
     const jobject element = env->GetObjectArrayElement(array, index);
-    if (element != nullptr) {
-      if (dimension + 1 == field.rank) {
-        // An exception ends the reading of the array; any other failure is the element's own.
-        if (read(env, *field.element, element, at) != kOk && env->ExceptionOccurred() != nullptr) {
-          return;
-        }
-      } else if (dimension + 2 == field.rank && field.kind == FieldKind::kInt8) {
-        copyIntArrayAsBytes(env, static_cast<jintArray>(element), bytesAt(at), stride);
-      } else {
-        readElements(env, field, dimension + 1, static_cast<jobjectArray>(element), at);
-      }
+    if (element != nullptr && stopped(env, readElement(element, stride))) {
+      return kFailed;
     }
     deleteLocalRef(env, element);
     at += stride;
   }
+  return kOk;
 }
 
 /// Reads the object or array of a field.
@@ -216,10 +221,11 @@ int getObject(JNIEnv* env, jobject object, const Field& field, std::byte* at) {
   if (value == nullptr) {
     return kNothingToRead;
   }
-  if (field.rank == 0) {
-    read(env, *field.element, value, at);
-  } else {
-    readElements(env, field, 0, static_cast<jobjectArray>(value), at);
+  const int result = field.rank == 0
+                         ? read(env, *field.element, value, at)
+                         : readElements(env, field, 0, static_cast<jobjectArray>(value), at);
+  if (stopped(env, result)) {
+    return kFailed;
   }
   deleteLocalRef(env, value);
   return kOk;
@@ -228,7 +234,7 @@ int getObject(JNIEnv* env, jobject object, const Field& field, std::byte* at) {
 int getInt(JNIEnv* env, jobject object, const Field& field, std::byte* at) {
   const auto value = static_cast<std::int32_t>(getIntField(env, object, field.name));
   // The -1 of a field that could not be read is told from a stored one by the exception.
-  if (env->ExceptionOccurred() != nullptr) {
+  if (exceptionPending(env)) {
     return kFailed;
   }
   if (field.kind == FieldKind::kInt32) {

@@ -42,9 +42,6 @@ namespace quorvelj {
 
 inline constexpr std::size_t kMaxRank = 3;
 
-/// The widest text member; a text without its NUL is copied once, to end it.
-inline constexpr std::size_t kMaxTextBytes = 8192;
-
 enum class FieldKind : std::uint8_t { kInt32, kInt8, kUInt8, kText, kBytes, kRecord, kPart };
 
 struct ClassMap;
@@ -129,7 +126,7 @@ consteval Field fieldOf(const char* name, std::size_t offset) {
     field.extents[dimension] = static_cast<std::uint32_t>(extents[dimension]);
   }
   if constexpr (kIsText) {
-    static_assert(kRank <= 1 && sizeof(Member) <= kMaxTextBytes);
+    static_assert(kRank <= 1);
     field.kind = FieldKind::kText;
     field.signature = &"[Ljava/lang/String;"[1 - kRank];
     field.elementBytes = extents[kRank];

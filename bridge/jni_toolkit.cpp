@@ -21,8 +21,6 @@ const jint* asJava(const std::int32_t* values) { return reinterpret_cast<const j
 jbyte* asJava(std::byte* bytes) { return reinterpret_cast<jbyte*>(bytes); }
 const jbyte* asJava(const std::byte* bytes) { return reinterpret_cast<const jbyte*>(bytes); }
 
-bool exceptionPending(JNIEnv* env) { return env->ExceptionOccurred() != nullptr; }
-
 /// A field of an object, found by name at this moment.
 struct FoundField {
   FoundField(JNIEnv* env, jobject object, const char* name, const char* signature)
@@ -131,6 +129,8 @@ void throwArrayException(JNIEnv* env, int code) {
     env->Throw(static_cast<jthrowable>(exception));
   }
 }
+
+bool exceptionPending(JNIEnv* env) { return env->ExceptionOccurred() != nullptr; }
 
 void deleteLocalRef(JNIEnv* env, jobject reference) {
   if (env != nullptr && reference != nullptr) {

@@ -44,6 +44,9 @@ void throwClassNotFound(JNIEnv* env, const char* className);
 /// exception of its own look-up pending instead.
 void throwArrayException(JNIEnv* env, int code);
 
+/// Whether an exception is pending.
+bool exceptionPending(JNIEnv* env);
+
 // Classes and objects
 
 /// Deletes `reference` where both it and `env` are given.

@@ -2,7 +2,6 @@
 
 #include <jni.h>
 
-#include <concepts>
 #include <cstddef>
 #include <cstdint>
 #include <iterator>
@@ -25,7 +24,7 @@
 // What becomes of an argument follows from the function's parameter in its place:
 //
 //   const char (*)[N]   a String: null throws 258, else it is copied into a buffer of N bytes
-//   const Record*       an object: read into a new record; the reader's result is ignored
+//   const Record*       an object: read into a new record; the call goes on where that fails
 //   std::int32_t        an int, by value
 //
 // and the parameter behind the Java arguments is the function's output:
@@ -55,6 +54,23 @@ template <class Record>
 Record* allocate() {
   return static_cast<Record*>(allocateRecord(sizeof(Record)));
 }
+
+/// A new uninitialised record that is released at the end of its scope; null where there is no
+/// memory for it.
+template <class Record>
+class OwnRecord {
+ public:
+  OwnRecord() = default;
+  ~OwnRecord() { releaseRecord(record_); }
+  OwnRecord(const OwnRecord&) = delete;
+  OwnRecord& operator=(const OwnRecord&) = delete;
+  explicit operator bool() const { return record_ != nullptr; }
+  Record* get() const { return record_; }
+  Record& operator*() const { return *record_; }
+
+ private:
+  Record* record_ = allocate<Record>();
+};
 
 /// Copies a text argument, or throws 258 and returns false where it is null.
 bool copyRequiredText(JNIEnv* env, jstring text, char* buffer, std::size_t length);
@@ -101,7 +117,8 @@ jobjectArray finishPartialArrayQuery(JNIEnv* env, int result, const ClassMap& ma
                                      jsize length, std::size_t recordBytes);
 
 /// One parameter of a library function, made from the Java argument in its place. A Java argument
-/// that needs steps of its own is handed over as an object of a class that has these five.
+/// that needs other steps is wrapped in a class of its own, which names a class `Argument` with
+/// these five.
 template <class Parameter>
 class Argument;
 
@@ -111,7 +128,7 @@ class Argument<std::int32_t> {
   explicit Argument(jint value) : value_(value) {}
   bool accept(JNIEnv*) { return true; }
   bool allocate() { return true; }
-  void read(JNIEnv*) {}
+  int read(JNIEnv*) { return kOk; }
   void release() {}
   std::int32_t get() { return value_; }
 
@@ -126,7 +143,7 @@ class Argument<const char (*)[N]> {
   explicit Argument(jstring text) : text_(text) { buffer_[0] = '\0'; }
   bool accept(JNIEnv* env) { return copyRequiredText(env, text_, buffer_, N); }
   bool allocate() { return true; }
-  void read(JNIEnv*) {}
+  int read(JNIEnv*) { return kOk; }
   void release() {}
   const char (*get())[N] { return &buffer_; }
 
@@ -144,7 +161,7 @@ class Argument<const Record*> {
     record_ = quorvelj::allocate<Record>();
     return record_ != nullptr;
   }
-  void read(JNIEnv* env) { quorvelj::read(env, ClassOf<Record>::kMap, object_, record_); }
+  int read(JNIEnv* env) { return quorvelj::read(env, ClassOf<Record>::kMap, object_, record_); }
   void release() { releaseRecord(record_); }
   const Record* get() { return record_; }
 
@@ -153,17 +170,15 @@ class Argument<const Record*> {
   Record* record_ = nullptr;
 };
 
-/// What makes a parameter of a Java argument: the argument itself where it has the steps.
+/// What makes a parameter of a Java argument: `Argument`, or what the argument's class names so.
 template <class Parameter, class Java>
 struct ArgumentFor {
   using Type = Argument<Parameter>;
 };
 template <class Parameter, class Java>
-requires requires(Java argument) {
-  { argument.get() } -> std::same_as<Parameter>;
-}
+requires requires { typename Java::Argument; }
 struct ArgumentFor<Parameter, Java> {
-  using Type = Java;
+  using Type = typename Java::Argument;
 };
 
 /// One call of a library function. Its first parameters, the inputs, are made from the Java
@@ -202,8 +217,8 @@ class LibraryCall {
     if (!enter()) {
       return false;
     }
-    const bool all = each(
-        [this](auto&... input) { return ((input.allocate() && (input.read(env_), true)) && ...); });
+    const bool all =
+        each([this](auto&... input) { return ((input.allocate() && (read(input), true)) && ...); });
     if (!all) {
       throwArrayException(env_, kOutOfMemory);
     }
@@ -222,7 +237,7 @@ class LibraryCall {
     return each([](auto&... input) { return (input.allocate() && ...); });
   }
   void readInputs() {
-    each([this](auto&... input) { (input.read(env_), ...); });
+    each([this](auto&... input) { (read(input), ...); });
   }
   void releaseInputs() {
     each([](auto&... input) { (input.release(), ...); });
@@ -258,9 +273,18 @@ class LibraryCall {
     return std::apply(visit, inputs_);
   }
 
+  /// Reads an input. Behind one that left an exception pending no other is read: JNI forbids it.
+  template <class Input>
+  void read(Input& input) {
+    if (!stopped_) {
+      stopped_ = input.read(env_) != kOk && exceptionPending(env_);
+    }
+  }
+
   JNIEnv* env_;
   Function function_;
   typename Parameters::Inputs inputs_;
+  bool stopped_ = false;
 };
 
 /// A method that returns a new object or array. A record that was allocated before one that could

@@ -122,14 +122,19 @@ NATIVE_METHOD(jobjectArray, FibreInfoPermissionImport, jstring unit, jstring pat
   FilePath filePath;
   copyOptionalText(env, unit, unitName);
   copyOptionalText(env, path, filePath);
-  FibreInformationPermission permissions[128];
-  const int result = QV_FibreInfoPermissionImport(&unitName, &filePath, port, &permissions);
+  const OwnRecord<PermittedHosts> hosts;
+  if (!hosts) {
+    throwArrayException(env, kOutOfMemory);
+    return nullptr;
+  }
+  const int result = QV_FibreInfoPermissionImport(&unitName, &filePath, port, hosts.get());
   if (result != 0) {
     throwArrayException(env, result);
     return nullptr;
   }
-  const jobjectArray built = buildArray(env, ClassOf<FibreInformationPermission>::kMap, permissions,
-                                        128, sizeof permissions[0]);
+  const jobjectArray built =
+      buildArray(env, ClassOf<FibreInformationPermission>::kMap, hosts.get(),
+                 static_cast<jsize>(std::size(*hosts)), sizeof(FibreInformationPermission));
   if (built == nullptr) {
     throwArrayException(env, kFailed);
   }

@@ -85,59 +85,74 @@ QUORVELJ_MAP(kAfterinfo1, PerformanceAll, fieldOf<PerformanceAll>("afterinfo1", 
 namespace {
 
 /// A snapshot inside a request: read into a record of its own.
-class Snapshot {
- public:
-  Snapshot(jobject request, const ClassMap& field) : request_(request), field_(field) {}
-  bool accept(JNIEnv*) { return true; }
-  bool allocate() {
-    record_ = quorvelj::allocate<PerformanceAll>();
-    return record_ != nullptr;
-  }
-  void read(JNIEnv* env) { quorvelj::read(env, field_, request_, record_); }
-  void release() { releaseRecord(record_); }
-  const PerformanceAll* get() { return record_; }
+struct Snapshot {
+  jobject request;
+  const ClassMap& field;
 
- private:
-  jobject request_;
-  const ClassMap& field_;
-  PerformanceAll* record_ = nullptr;
+  class Argument {
+   public:
+    explicit Argument(Snapshot snapshot) : request_(snapshot.request), field_(snapshot.field) {}
+    bool accept(JNIEnv*) { return true; }
+    bool allocate() {
+      record_ = quorvelj::allocate<PerformanceAll>();
+      return record_ != nullptr;
+    }
+    int read(JNIEnv* env) { return quorvelj::read(env, field_, request_, record_); }
+    void release() { releaseRecord(record_); }
+    const PerformanceAll* get() { return record_; }
+
+   private:
+    jobject request_;
+    const ClassMap& field_;
+    PerformanceAll* record_ = nullptr;
+  };
 };
 
 /// The name of the file inside a request: copied like a text of its own, but not required.
-class OutputFile {
- public:
-  explicit OutputFile(jobject request) : request_(request) { file_.filename[0] = '\0'; }
-  bool accept(JNIEnv* env) {
-    quorvelj::read(env, ClassOf<PerformanceOutputFile>::kMap, request_, &file_);
-    return true;
-  }
-  bool allocate() { return true; }
-  void read(JNIEnv*) {}
-  void release() {}
-  const PerformanceOutputFile* get() { return &file_; }
+struct OutputFile {
+  jobject request;
 
- private:
-  jobject request_;
-  PerformanceOutputFile file_;
+  class Argument {
+   public:
+    explicit Argument(OutputFile file) : request_(file.request) { file_.filename[0] = '\0'; }
+    bool accept(JNIEnv* env) {
+      result_ = quorvelj::read(env, ClassOf<PerformanceOutputFile>::kMap, request_, &file_);
+      return true;
+    }
+    bool allocate() { return true; }
+    int read(JNIEnv*) { return result_; }
+    void release() {}
+    const PerformanceOutputFile* get() { return &file_; }
+
+   private:
+    jobject request_;
+    PerformanceOutputFile file_;
+    int result_ = kOk;
+  };
 };
 
 /// The bytes of an LU selection. A null array selects nothing.
-class SelectedLus {
- public:
-  explicit SelectedLus(jbyteArray array) : array_(array) {}
-  bool accept(JNIEnv*) { return true; }
-  bool allocate() { return true; }
-  void read(JNIEnv* env) {
-    if (array_ != nullptr) {
-      env->GetByteArrayRegion(array_, 0, sizeof selection_, reinterpret_cast<jbyte*>(&selection_));
-    }
-  }
-  void release() {}
-  const LuSelection* get() { return &selection_; }
+struct SelectedLus {
+  jbyteArray array;
 
- private:
-  jbyteArray array_;
-  LuSelection selection_{};
+  class Argument {
+   public:
+    explicit Argument(SelectedLus selected) : array_(selected.array) {}
+    bool accept(JNIEnv*) { return true; }
+    bool allocate() { return true; }
+    int read(JNIEnv* env) {
+      if (array_ != nullptr) {
+        env->GetByteArrayRegion(array_, 0, sizeof lus_, reinterpret_cast<jbyte*>(&lus_));
+      }
+      return kOk;
+    }
+    void release() {}
+    const LuSelection* get() { return &lus_; }
+
+   private:
+    jbyteArray array_;
+    LuSelection lus_{};
+  };
 };
 
 // The outputs depart from the update frame: where a record could not be had, the others are
@@ -180,19 +195,19 @@ NATIVE_METHOD(void, PerformanceOutputLU, jstring unit, jobject session, jstring 
               jobject preinfo0, jobject afterinfo0, jobject preinfo1, jobject afterinfo1,
               jbyteArray lu, jint option0, jint option1) {
   output(env, QV_PerformanceOutputLU, unit, session, path, preinfo0, afterinfo0, preinfo1,
-         afterinfo1, SelectedLus(lu), option0, option1);
+         afterinfo1, SelectedLus{lu}, option0, option1);
 }
 
 NATIVE_METHOD(void, PerformanceOutputAll, jstring unit, jobject request) {
-  output(env, QV_PerformanceOutputAll, unit, OutputFile(request), request,
-         Snapshot(request, kPreinfo0), Snapshot(request, kAfterinfo0), Snapshot(request, kPreinfo1),
-         Snapshot(request, kAfterinfo1));
+  output(env, QV_PerformanceOutputAll, unit, OutputFile{request}, request,
+         Snapshot{request, kPreinfo0}, Snapshot{request, kAfterinfo0}, Snapshot{request, kPreinfo1},
+         Snapshot{request, kAfterinfo1});
 }
 
 NATIVE_METHOD(void, PerformanceOutputAllEx, jstring unit, jobject session, jobject request) {
-  output(env, QV_PerformanceOutputAllEx, unit, session, OutputFile(request), request,
-         Snapshot(request, kPreinfo0), Snapshot(request, kAfterinfo0), Snapshot(request, kPreinfo1),
-         Snapshot(request, kAfterinfo1));
+  output(env, QV_PerformanceOutputAllEx, unit, session, OutputFile{request}, request,
+         Snapshot{request, kPreinfo0}, Snapshot{request, kAfterinfo0}, Snapshot{request, kPreinfo1},
+         Snapshot{request, kAfterinfo1});
 }
 
 NATIVE_METHOD(void, PerformanceOutputSkip, jstring unit, jstring path, jobject time, jint option) {
@@ -239,21 +254,26 @@ NATIVE_METHOD(void, SetThreshold, jstring unit, jobject session, jobject thresho
 }
 
 DEPARTS(GetPerformance,
-        "the session's record is never released, and the array is returned as far as it could be "
-        "built",
-        .neverReleased = 1);
+        "the session's record is never released, the counters' records are released also where one "
+        "could not be had, and the array is returned as far as it could be built",
+        .releasesOnRefusal = true, .neverReleased = 1);
 NATIVE_METHOD(jobjectArray, GetPerformance, jstring unit, jobject session) {
   LibraryCall library(env, QV_GetPerformance, unit, session);
   if (!library.begin()) {
     return nullptr;
   }
-  StatisticalCommand controllers[2];
-  const int result = library.callAndKeepInputs(&controllers[0], &controllers[1]);
+  const OwnRecord<StatisticalCommand> controller0;
+  const OwnRecord<StatisticalCommand> controller1;
+  if (!controller0 || !controller1) {
+    throwArrayException(env, kOutOfMemory);
+    return nullptr;
+  }
+  const int result = library.callAndKeepInputs(controller0.get(), controller1.get());
   if (result != 0) {
     throwArrayException(env, result);
     return nullptr;
   }
-  const jobjectArray array = buildPair(env, &controllers[0], &controllers[1]);
+  const jobjectArray array = buildPair(env, controller0.get(), controller1.get());
   if (array != nullptr) {
     flushOutput();
   }
@@ -292,8 +312,8 @@ DEPARTS(PerformanceOutputGraphInfo,
         .releasesOnRefusal = true);
 NATIVE_METHOD(jobject, PerformanceOutputGraphInfo, jstring unit, jobject session, jobject request) {
   LibraryCall library(env, QV_PerformanceOutputGraphInfo, unit, session,
-                      Snapshot(request, kPreinfo0), Snapshot(request, kAfterinfo0),
-                      Snapshot(request, kPreinfo1), Snapshot(request, kAfterinfo1));
+                      Snapshot{request, kPreinfo0}, Snapshot{request, kAfterinfo0},
+                      Snapshot{request, kPreinfo1}, Snapshot{request, kAfterinfo1});
   if (!library.enter()) {
     return nullptr;
   }

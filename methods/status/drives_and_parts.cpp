@@ -184,8 +184,12 @@ NATIVE_METHOD(jobjectArray, GetDriveStatus, jstring unit, jobject session) {
     return nullptr;
   }
   opened.read(env);
-  FlatDriveStatus drives;
-  const int result = QV_GetDriveStatus(&name, opened.get(), &drives);
+  const OwnRecord<FlatDriveStatus> drives;
+  if (!drives) {
+    throwArrayException(env, kOutOfMemory);
+    return nullptr;
+  }
+  const int result = QV_GetDriveStatus(&name, opened.get(), drives.get());
   if (result != 0) {
     throwArrayException(env, result);
     return nullptr;
@@ -196,7 +200,7 @@ NATIVE_METHOD(jobjectArray, GetDriveStatus, jstring unit, jobject session) {
     return nullptr;
   }
   for (jsize index = 0; index < kDrives; ++index) {
-    const jobject drive = build(env, ClassOf<DiskDrive>::kMap, &drives[index]);
+    const jobject drive = build(env, ClassOf<DiskDrive>::kMap, *drives + index);
     env->SetObjectArrayElement(array, index, drive);
     deleteLocalRef(env, drive);
   }
@@ -209,13 +213,17 @@ NATIVE_METHOD(jintArray, GetPinInfo2, jstring unit, jobject session) {
   if (!library.begin()) {
     return nullptr;
   }
-  PinTable table;
-  const int result = library.call(&table);
+  const OwnRecord<PinTable> table;
+  if (!table) {
+    throwArrayException(env, kOutOfMemory);
+    return nullptr;
+  }
+  const int result = library.call(table.get());
   if (result != 0) {
     throwArrayException(env, result);
     return nullptr;
   }
-  const jintArray array = newIntArray(env, table, static_cast<jsize>(std::size(table)));
+  const jintArray array = newIntArray(env, *table, static_cast<jsize>(std::size(*table)));
   if (array == nullptr) {
     throwArrayException(env, kFailed);
     return nullptr;

@@ -143,11 +143,15 @@ DEPARTS(
 NATIVE_METHOD(jobject, LogicalUnitFormatStatusList, jstring unit) {
   UnitName name;
   copyOptionalText(env, unit, name);
-  LuFormatStatusList list;
-  const int result = QV_LogicalUnitFormatStatusList(&name, &list);
+  const OwnRecord<LuFormatStatusList> list;
+  if (!list) {
+    throwArrayException(env, kOutOfMemory);
+    return nullptr;
+  }
+  const int result = QV_LogicalUnitFormatStatusList(&name, list.get());
   if (result != 0) {
     throwArrayException(env, result);
     return nullptr;
   }
-  return build(env, ClassOf<LuFormatStatusList>::kMap, &list);
+  return build(env, ClassOf<LuFormatStatusList>::kMap, list.get());
 }

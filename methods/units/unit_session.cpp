@@ -200,6 +200,8 @@ namespace {
 struct ClockInputs {
   UnitName unit;
   QVSessionInfo* session;
+  /// The session left an exception pending.
+  bool stopped;
 };
 
 /// Copies the name and reads the session, or throws 65535 and returns false.
@@ -210,7 +212,8 @@ bool accept(JNIEnv* env, jstring unit, jobject session, ClockInputs& inputs) {
     throwArrayException(env, kOutOfMemory);
     return false;
   }
-  read(env, ClassOf<QVSessionInfo>::kMap, session, inputs.session);
+  inputs.stopped = read(env, ClassOf<QVSessionInfo>::kMap, session, inputs.session) != kOk &&
+                   exceptionPending(env);
   return true;
 }
 
@@ -248,7 +251,7 @@ NATIVE_METHOD(void, SetUnitTime, jstring unit, jobject session, jobject time) {
     return;
   }
   QVTime record{};
-  int result = read(env, ClassOf<QVTime>::kMap, time, &record);
+  int result = inputs.stopped ? kFailed : read(env, ClassOf<QVTime>::kMap, time, &record);
   if (result == kOk) {
     result = QV_SetUnitTime(&inputs.unit, inputs.session, &record);
   }

@@ -36,8 +36,10 @@ public class DiskArrayUtilityJNI {
     public native int QV_GetUnitCount() throws DiskArrayException;
 
     /**
-     * Returns the first <code>count</code> registered units, or null where there is no memory for
-     * as many. The elements from one that could not be built on are null.
+     * Returns an array of <code>count</code> elements: the registered units, and behind them
+     * elements of empty texts and zeros. Time and memory follow from the count, whatever number of
+     * units is registered: hand over what {@link #QV_GetUnitCount} returned. Null where there is no
+     * native memory for as many. The elements from one that could not be built on are null.
      */
     public native QVUnitParam[] QV_GetUnitParamTable(int count) throws DiskArrayException;
 
