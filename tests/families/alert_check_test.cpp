@@ -16,8 +16,9 @@ TEST_F(AlertCheck, Records) {
               textAt(44, 100, "smtp"), textAt(144, 100, "from"), textAt(248, 100, "to[0]"),
               textAt(2148, 100, "to[19]")});
   expectBuilt("QV_GetEmailInfo", {}, 2248,
-              {int32At(0, "on_off"), textAt(4, 40, "domain"), textAt(44, 100, "smtp"),
-               textAt(144, 100, "from"), int32At(244, "tonum")});
+              Members{int32At(0, "on_off"), textAt(4, 40, "domain"), textAt(44, 100, "smtp"),
+                      textAt(144, 100, "from"), int32At(244, "tonum")} +
+                  visited("to"));
   const Members user{textAt(0, 257, "user_id"), textAt(257, 257, "passwd"),
                      int32At(516, "account_enable")};
   const jobject checker = create("AlertCheckUser");

@@ -1,5 +1,6 @@
 // The whole array in one call: every member where the record has it, and of the right class.
 #include <algorithm>
+#include <cstdint>
 #include <iterator>
 #include <string_view>
 
@@ -102,12 +103,19 @@ constexpr Ends kEnds[] = {
      textAt(606, 33, "arrayunit[7].path[1].secret")},
     {"luowner", int32At(0, "count"), int32At(229376, "lu[8191].cpucore_num")}};
 
+/// The offset of a member whose class has no known field: it is visited.
+constexpr std::size_t kNowhere = SIZE_MAX;
+
 class AllInformation : public RegisteredUnit {
  protected:
   /// The ends of members at their places in a bundle.
   static Members ends(std::initializer_list<Location> locations) {
     Members all;
     for (const auto& [offset, path] : locations) {
+      if (offset == kNowhere) {
+        all = all + visited(std::string(path));
+        continue;
+      }
       const std::string_view field = path.substr(0, path.find('['));
       const auto* const found = std::find_if(std::begin(kEnds), std::end(kEnds),
                                              [&](const Ends& row) { return row.field == field; });
@@ -130,13 +138,15 @@ TEST_F(AllInformation, Whole) {
                        {64520, "raid_info"},         {104524, "lu[0]"},
                        {497644, "lu[4095]"},         {497740, "lu_coup"},
                        {1939540, "integration_lu"},  {2996312, "integration_lu2"},
-                       {3258508, "dm_lu"},           {3258540, "target_id[0][0]"},
-                       {3283344, "target_id[1][1]"}, {3291612, "lan_info[0]"},
-                       {3291692, "lan_info[1]"},     {3291772, "qvuser_lan_info"},
-                       {3292784, "sync_ctrl[0]"},    {3292792, "sync_ctrl[1]"},
-                       {3292800, "rest_info"},       {3292860, "fibre_info[0]"},
-                       {3598116, "fibre_info[1]"},   {3903372, "user_reg_info"},
-                       {3907180, "comdev"},          {3909368, "rvrfsrc"},
+                       {kNowhere, "turbo_lu"},       {3258508, "dm_lu"},
+                       {3258540, "target_id[0][0]"}, {3283344, "target_id[1][1]"},
+                       {3291612, "lan_info[0]"},     {3291692, "lan_info[1]"},
+                       {3291772, "qvuser_lan_info"}, {3292784, "sync_ctrl[0]"},
+                       {3292792, "sync_ctrl[1]"},    {3292800, "rest_info"},
+                       {kNowhere, "prefetch_info"},  {kNowhere, "verify"},
+                       {3292860, "fibre_info[0]"},   {3598116, "fibre_info[1]"},
+                       {3903372, "user_reg_info"},   {3907180, "comdev"},
+                       {kNowhere, "on_opt"},         {3909368, "rvrfsrc"},
                        {3911128, "unit_info"}}) +
                      int32sAt(3911636, "alert[0] alert[1]") +
                      ends({{3911644, "hg"},
@@ -145,7 +155,12 @@ TEST_F(AllInformation, Whole) {
                            {4128484, "lumap"},
                            {37551984, "wwn"},
                            {37849044, "wwnhg"},
+                           {kNowhere, "boot_opt"},
+                           {kNowhere, "on_sysparam"},
                            {38004964, "port_num"},
+                           {kNowhere, "on_tuning"},
+                           {kNowhere, "tuning"},
+                           {kNowhere, "pre_tuning"},
                            {38236532, "pool_info"},
                            {38255820, "pair_info"},
                            {64589240, "luguard"},
@@ -159,9 +174,15 @@ TEST_F(AllInformation, Whole) {
                            {65659360, "farlink_info"},
                            {66806248, "flacopy_info"},
                            {68478832, "flaopt_info"},
+                           {kNowhere, "cache_prt"},
+                           {kNowhere, "timezonelist"},
+                           {kNowhere, "timeinfo"},
+                           {kNowhere, "systemluall"},
+                           {kNowhere, "userluall"},
                            {68529316, "maintelaninfo"},
                            {68530636, "mainte_avail"},
                            {68531188, "nnclaninfo"},
+                           {kNowhere, "nasosstatus"},
                            {68532012, "iscsi_port"},
                            {68534700, "iscsi_target"},
                            {70852400, "iscsi_initiator"},
@@ -251,6 +272,7 @@ TEST_F(AllInformation, Slices) {
         ends({{4, "hgparamid[0]"},
               {6744, "hgparamid[1]"},
               {13484, "hgparamlist2"},
+              {kNowhere, "cache_prt"},
               {33260, "ctlportkind"},
               {33268, "lumap_lun"}}));
   slice("HG", 225436, ends({{4, "hg"}, {69656, "wwnhg"}}));
@@ -275,17 +297,25 @@ TEST_F(AllInformation, Slices) {
               {611672, "port_num"},
               {611712, "maintelaninfo"},
               {613032, "mainte_avail"},
+              {kNowhere, "timezonelist"},
+              {kNowhere, "timeinfo"},
               {627448, "rest_info"},
+              {kNowhere, "verify"},
+              {kNowhere, "boot_opt"},
+              {kNowhere, "on_sysparam"},
               {627628, "quickfmtopt"}}));
   slice("PP", 699924,
-        ends({{48, "user_reg_info"},
+        ends({{kNowhere, "turbo_lu"},
+              {48, "user_reg_info"},
               {56, "luguard"},
+              {kNowhere, "cache_prt"},
               {396892, "auditlog_info"},
               {396996, "role"},
               {405224, "account"},
               {416652, "account_option"},
               {416668, "lu_migration"},
-              {596860, "spin_downup"}}));
+              {596860, "spin_downup"},
+              {kNowhere, "unit_powersaving"}}));
   slice("Replication", 30774116,
         ends({{4, "pool_info"},
               {19292, "rvrfsrc"},
@@ -297,7 +327,8 @@ TEST_F(AllInformation, Slices) {
               {27954004, "farlink_info"},
               {29100892, "flacopy_info"},
               {30773476, "iscsi_rmt"}}));
-  slice("Tuning", 460896, ends({{231516, "luowner"}}));
+  slice("Tuning", 460896,
+        ends({{kNowhere, "on_tuning"}, {kNowhere, "pre_tuning"}, {231516, "luowner"}}));
 }
 
 }  // namespace

@@ -31,23 +31,18 @@ const Members kMappingGuardList{bytesAt(0, 8192, "lumap_guard")};
 const Members kOption = int32sAt(0,
                                  "option option2 option3 platform_id alternate_path_id failover_id "
                                  "special_mode_id middleware_id");
-const Members kHGOption = Members{visited("support_index"), visited("valid_index")} +
-                          int32sAt(160, "HostGroupValid") +
+const Members kHGOption = visited("support_index valid_index") + int32sAt(160, "HostGroupValid") +
                           at({{164, "ctl[0].port[0].hg[0]."},
                               {9308, "ctl[0].port[0].hg[254]."},
                               {9344, "ctl[0].port[1].hg[0]."},
                               {147008, "ctl[1].port[7].hg[254]."}},
                              kOption);
-const Members kPortOption{visited("support_index"),
-                          visited("valid_index"),
-                          int32At(16, "ctl[0].lip_mode[0]"),
-                          int32At(44, "ctl[0].lip_mode[7]"),
-                          int32At(48, "ctl[0].port_common_opt[0]"),
-                          int32At(76, "ctl[0].port_common_opt[7]"),
-                          int32At(80, "ctl[1].lip_mode[0]"),
-                          int32At(108, "ctl[1].lip_mode[7]"),
-                          int32At(112, "ctl[1].port_common_opt[0]"),
-                          int32At(140, "ctl[1].port_common_opt[7]")};
+const Members kPortOption =
+    visited("support_index valid_index") +
+    Members{int32At(16, "ctl[0].lip_mode[0]"),         int32At(44, "ctl[0].lip_mode[7]"),
+            int32At(48, "ctl[0].port_common_opt[0]"),  int32At(76, "ctl[0].port_common_opt[7]"),
+            int32At(80, "ctl[1].lip_mode[0]"),         int32At(108, "ctl[1].lip_mode[7]"),
+            int32At(112, "ctl[1].port_common_opt[0]"), int32At(140, "ctl[1].port_common_opt[7]")};
 
 TEST_F(HostGroups, Groups) {
   expectFromUnit("QV_GetHGList", 69649, kHGList);
@@ -147,17 +142,21 @@ TEST_F(HostGroups, Options) {
   expectRequest("QV_SetHGOption", "HGOptionInfo", 36, kOption, {1, 7, 254});
 
   expectFromUnit("QV_GetHGParameterList", 324568,
-                 Members{int32At(0, "platform_count"), int32At(323764, "special_mode_count"),
-                         int32At(323768, "specialinfo[0].specialmode_id")} +
+                 int32sAt(0, "platform_count") + visited("platinfo") +
+                     Members{int32At(323764, "special_mode_count"),
+                             int32At(323768, "specialinfo[0].specialmode_id")} +
                      at(323772, "specialinfo[0].hgoptinfo.", kOption) +
                      Members{int32At(324528, "specialinfo[19].specialmode_id")} +
                      at(324532, "specialinfo[19].hgoptinfo.", kOption));
   expectFromUnit("QV_GetHGParameterList2", 16164,
-                 int32sAt(0, "platform_count") + at({{4, "platinfo[0]."}, {15356, "platinfo[19]."}},
-                                                    int32sAt(0, "platform_id middleware_count")));
+                 int32sAt(0, "platform_count") +
+                     at({{4, "platinfo[0]."}, {15356, "platinfo[19]."}},
+                        int32sAt(0, "platform_id middleware_count") + visited("middlewareinfo")));
   expectFromUnit("QV_GetHGParameterID", 6740,
-                 Members{int32At(0, "plat_id_count"), int32At(1348, "altpath_id_count"),
-                         int32At(2696, "fail_id_count"), int32At(4044, "special_id_count")} +
+                 int32sAt(0, "plat_id_count") + visited("platform") +
+                     int32sAt(1348, "altpath_id_count") + visited("alternatepath") +
+                     int32sAt(2696, "fail_id_count") + visited("failover") +
+                     int32sAt(4044, "special_id_count") + visited("specialmode") +
                      at({{5396, "middleware[0]."}, {6656, "middleware[15]."}},
                         {int32At(0, "middleware_id"), textAt(4, 40, "middleware_name"),
                          textAt(44, 40, "middleware_name_str")}),
@@ -171,8 +170,8 @@ TEST_F(HostGroups, Options) {
 }
 
 TEST_F(HostGroups, WorldWideNamesAndTargets) {
-  const Members wwn{int32At(0, "lun_security_opt")};
-  const Members wwnOfGroups{int32At(0, "lun_manage")};
+  const Members wwn = int32sAt(0, "lun_security_opt") + visited("ctl");
+  const Members wwnOfGroups = int32sAt(0, "lun_manage") + visited("ctl");
   expectBuilt("QV_GetWWNInformation", {unit_}, 297060, wwn);
   expectFromUnit("QV_GetWWNHGInformation", 155780, wwnOfGroups);
   const jobject names = create("WWNInformation");
@@ -182,13 +181,15 @@ TEST_F(HostGroups, WorldWideNamesAndTargets) {
   const Members target = int32sAt(0,
                                   "ctrl_flag target_id_mode target_config.single "
                                   "target_config.multi[0]") +
-                         Members{int32At(72, "target_config.multi[15]")};
+                         Members{int32At(72, "target_config.multi[15]")} +
+                         visited("target_config.mapping");
   const Members targets = at({{0, "[0]."}, {8268, "[1]."}}, target);
   expectBuilt("QV_GetTargetId", {unit_, number(1)}, 16536, targets);
   EXPECT_EQ(lastInt("QV_GetTargetId", 1), 1);
   expectBuilt("QV_TargetIdImport", {unit_, text("file")}, 16536, targets);
   expectBuilt("QV_WZTargetIdImport", {unit_, text("first"), text("second")}, 16536,
-              at({{0, "[0]."}, {8268, "[1]."}}, int32sAt(0, "ctrl_flag target_id_mode")));
+              at({{0, "[0]."}, {8268, "[1]."}},
+                 int32sAt(0, "ctrl_flag target_id_mode") + visited("target_config")));
   const jobject id = create("TargetId");
   expectRead("QV_SetTargetId", {unit_, number(1), id}, id, 2, 8268, target);
   EXPECT_EQ(lastInt("QV_SetTargetId", 1), 1);

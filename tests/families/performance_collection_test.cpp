@@ -125,6 +125,13 @@ TEST_F(PerformanceCollection, SnapshotsInRequests) {
                few);
     ++place;
   }
+  const Members snapshots = visited("preinfo0 afterinfo0 preinfo1 afterinfo1");
+  expectRead("QV_PerformanceOutputAll", {unit_, all}, all, 3, 3458208,
+             visited("filename port") + snapshots);
+  expectRead("QV_PerformanceOutputAllEx", {unit_, session_, allEx}, allEx, 4, 3458208,
+             visited("filename specifyinfo") + snapshots);
+  expectRead("QV_PerformanceOutputGraphInfo", {unit_, session_, graph}, graph, 2, 3458208,
+             snapshots);
 }
 
 TEST_F(PerformanceCollection, Requests) {
@@ -170,7 +177,7 @@ TEST_F(PerformanceCollection, Requests) {
     expectRead(method, {text("path"), csv}, csv, 1, 1336,
                Members{textAt(0, 1024, "dirname")} +
                    at({{1024, "fromtime."}, {1048, "totime."}}, day) +
-                   int32sAt(1072, {"fromDataNum", "toDataNum"}));
+                   int32sAt(1072, {"fromDataNum", "toDataNum"}) + visited("outputopt"));
     EXPECT_EQ(lastText(method, 0), "path");
   }
   const std::int32_t written = -5;
@@ -243,10 +250,15 @@ TEST_F(PerformanceCollection, SmallRecords) {
           Members{textAt(168, 16, "structver")} + at({{184, "fromtime."}, {208, "totime."}}, day));
   EXPECT_EQ(lastText("QV_PerformanceInputMngFile", 0), "path");
 
-  const Members times = at({{0, "graphinfo.mtime[0]."}, {36, "graphinfo.mtime[1]."}}, kTime);
+  const Members times = at({{0, "graphinfo.mtime[0]."}, {36, "graphinfo.mtime[1]."}}, kTime) +
+                        at(0, "graphinfo.",
+                           visited("port lu cache backend drive processor driveopr rg cache2 luex "
+                                   "cachepartition vu_port vu_lu"));
   expectBuilt("QV_PerformanceOutputGraphInfo",
               {unit_, session_, create("PerformanceOutputGraphInfoRequest")}, 1729120, times);
-  const jobject graph = create("PerformanceCollectGraphInfo");
+  quorvelSimForceResult("QV_PerformanceOutputGraphInfo", 0, 1);
+  const jobject graph =
+      information("QV_PerformanceOutputGraphInfo", create("PerformanceOutputGraphInfoRequest"));
   expectRead("QV_PerformanceDataOutput", {text("path"), graph}, graph, 1, 864560, times);
   expectPassed("QV_SetPfmStatisCfg", "usi");
   expectPassed("QV_GetPfmStatisCfg", "us", true);

@@ -18,25 +18,30 @@ TEST_F(StatisticalInformation, Record) {
                int32sAt(0, {"power_on", "reset", "total_time", "on_time", "total_time_rap_cnt",
                             "total_time_rap_cnt_work", "lu_change", "procnt_time[0]",
                             "procnt_time[1]", "procnt_time[2]", "procnt_time[3]"})) +
+          visited("h_command h_command_unite com_status com_status_unite") +
           both("cache", 720988, 528,
-               int32sAt(0, {"wrt_inhcnt", "wrt_outhcnt", "seqwr_bufcnt", "seg_lock_cnt"})) +
+               int32sAt(0, {"wrt_inhcnt", "wrt_outhcnt", "seqwr_bufcnt", "seg_lock_cnt"}) +
+                   visited("cachepartition")) +
           both("writeafter", 722044, 14408,
                int32sAt(0, {"raid0_stripe_cnt", "raid0_stripe_job[0]"}) +
                    int32sAt(1800,
                             {"raid0_stripe_job[449]", "raid5_stripe_cnt", "raid5_stripe_job[0]"}) +
                    int32sAt(3604, {"raid5_stripe_job[449]", "stripe_job_rmw[0]"}) +
                    int32sAt(5404, {"stripe_job_rmw[449]", "stripe_job_partial[0]"}) +
-                   Members{int32At(7204, "stripe_job_partial[449]")}) +
+                   Members{int32At(7204, "stripe_job_partial[449]")} + visited("pdev")) +
           both("drive_rest", 750860, 12, int32sAt(0, {"inter_cnt", "back_cnt", "system_cnt"})) +
           both("cache_mem", 750884, 312,
                int32sAt(0, {"battery", "threshold", "correct_err[0]"}) +
                    int32sAt(52, {"correct_err[11]", "segment[0]"}) +
                    Members{int32At(308, "segment[63]")}) +
-          both("drive", 751508, 34204, {int32At(0, "err_rtry"), visited("drive")}) +
+          both("drive", 751508, 34204, int32sAt(0, "err_rtry") + visited("drive")) +
+          visited("h_spc") +
           both("d_spc", 820012, 32,
                int32sAt(0, {"retry", "err_threshold", "err_count[0]"}) +
                    Members{int32At(28, "err_count[5]")}) +
-          both("d_dma", 820268, 108, int32sAt(0, {"dma_retry", "dma_path_retry", "drr_retry"})) +
+          visited("d_fpc") +
+          both("d_dma", 820268, 108,
+               int32sAt(0, {"dma_retry", "dma_path_retry", "drr_retry"}) + visited("error")) +
           both("h_dma", 820484, 16,
                int32sAt(0, {"err_rtry", "dma_errcnt", "bus_errcnt", "la_errcnt"})) +
           both("hontai", 820516, 52,
@@ -45,8 +50,10 @@ TEST_F(StatisticalInformation, Record) {
                                  "ectl_err"})) +
           both("shuuhen", 820620, 16, {int32At(0, "panel"), int32At(8, "rs232c")}) +
           both("dual", 820652, 12, int32sAt(0, {"other_correct", "other_dual", "self_dual"})) +
+          both("fibre", 0, 0, visited("Install Pson")) +
           both("unit", 825092, 20,
-               {int32At(0, "battery"), int32At(12, "upst"), int32At(16, "backup_power")}),
+               {int32At(0, "battery"), int32At(12, "upst"), int32At(16, "backup_power")}) +
+          both("drive_err", 0, 0, visited("limit drive")),
       {3});
 }
 

@@ -66,8 +66,9 @@ TEST_F(UnitSession, UnitRecords) {
                  Members{int32At(444, "reserved[0]"), int32At(504, "reserved[15]")}));
 
   // Of these two classes only some fields are known.
-  expectFromUnit("QV_GetUnitIdentifier", 40, {textAt(0, 5, "equipment_id")});
-  expectRequest("QV_SetUnitIdentifier", "UnitIdentifier", 40, {textAt(0, 5, "equipment_id")});
+  const Members identifier = textsAt(0, 5, "equipment_id") + visited("ctl");
+  expectFromUnit("QV_GetUnitIdentifier", 40, identifier);
+  expectRequest("QV_SetUnitIdentifier", information("QV_GetUnitIdentifier"), 40, identifier);
   expectFields(information("QV_GetUnitIdentifier"),
                {{"ctl", "ControllerInfo[2]"}, {"ctl[1]", "ControllerInfo"}});
   expectFields(information("QV_GetTimeInfo"), {{"", "TimeInfo"}});

@@ -254,6 +254,14 @@ Members int32sAt(std::size_t offset, const std::string& names) {
   return members;
 }
 
+Members visited(const std::string& names) {
+  Members members = textsAt(0, 0, names);
+  for (Member& member : members) {
+    member.kind = Kind::kVisited;
+  }
+  return members;
+}
+
 Members at(std::size_t offset, const std::string& path, const Members& members) {
   return at({{offset, path}}, members);
 }

@@ -37,19 +37,19 @@ constexpr Member textAt(std::size_t offset, std::size_t width, const char* path)
 constexpr Member bytesAt(std::size_t offset, std::size_t width, const char* path) {
   return {path, offset, Member::Kind::kBytes, width};
 }
-/// A field whose place among the visited ones is expected, and no value.
-constexpr Member visited(const char* path) { return {path, 0, Member::Kind::kVisited, 0}; }
-
 /// A path that is put together, for a member to have.
 const char* kept(const std::string& path);
 
 /// The members of two lists, one behind the other.
 Members operator+(Members left, const Members& right);
 
-/// Consecutive ints, and consecutive texts of one width; names are parted by spaces.
+/// Consecutive ints, and consecutive texts of one width, parted by spaces.
 Members int32sAt(std::size_t offset, std::initializer_list<const char*> paths);
 Members int32sAt(std::size_t offset, const std::string& names);
 Members textsAt(std::size_t offset, std::size_t width, const std::string& names);
+
+/// Fields that have a place among the visited ones and no value to compare, parted by spaces.
+Members visited(const std::string& names);
 
 /// The place of a record inside another, and in Java its path, "rg[199].".
 struct Location {
