@@ -124,6 +124,17 @@ TEST_F(ClassMapTest, BuildsEveryKindOfMember) {
   EXPECT_EQ(jvm_.elementsOf(jvm_.elementsOf(elements(object, "cube")[0])[0]).size(), 2U);
 }
 
+TEST_F(ClassMapTest, ATextEndsAtItsNulOrWhereItsMemberDoes) {
+  Sampler record = sample();
+  const std::string slots("a\0?bcd", sizeof record.texts);
+  slots.copy(&record.texts[0][0], sizeof record.texts);
+  const jobject object = build(jvm_.env(), ClassOf<Sampler>::kMap, &record);
+  JNIEnv* const env = jvm_.env();
+  const auto texts = elements(object, "texts");
+  EXPECT_STREQ(env->GetStringUTFChars(static_cast<jstring>(texts[0]), nullptr), "a");
+  EXPECT_STREQ(env->GetStringUTFChars(static_cast<jstring>(texts[1]), nullptr), "bcd");
+}
+
 TEST_F(ClassMapTest, ReadsBackWhatItBuilt) {
   const Sampler record = sample();
   const jobject object = build(jvm_.env(), ClassOf<Sampler>::kMap, &record);

@@ -1,6 +1,12 @@
 // The order of calls in the methods that depart from the frames, and what they make of a failure.
 #include <cstdint>
 
+#include "arraylib/firmware.h"
+#include "arraylib/hosts.h"
+#include "arraylib/performance.h"
+#include "arraylib/status.h"
+#include "arraylib/storage.h"
+#include "arraylib/units.h"
 #include "tests/support/traced_methods.h"
 
 namespace quorvelj::testing {
@@ -38,21 +44,23 @@ TEST_F(DepartureTrace, UnitCount) {
 }
 
 TEST_F(DepartureTrace, UnitTable) {
+  const std::string timesUnit = " x " + std::to_string(sizeof(QVUnitParam));
   jvalue count{};
   expectEvents(trace("QV_GetUnitParamTable", {count}),
-               Events{"calloc 0 x 612", "QV_GetUnitParamTable"} + newArray("QVUnitParam", 0) +
+               Events{"calloc 0" + timesUnit, "QV_GetUnitParamTable"} + newArray("QVUnitParam", 0) +
                    Events{"flush", "free"});
   jvm_.removeClass("tessaly/str/diskarray/QVUnitParam");
   invoke("QV_GetUnitParamTable", {count});
   EXPECT_EQ(thrown(), "DiskArrayException -1");
   count.i = -1;
   expectEvents(trace("QV_GetUnitParamTable", {count}),
-               {"calloc " + std::to_string(SIZE_MAX) + " x 612"});
+               {"calloc " + std::to_string(SIZE_MAX) + timesUnit});
 }
 
 TEST_F(DepartureTrace, DiscoveryReleasesItsRequestWithoutMemory) {
   resetTestRuntime(2);
-  expectEnd(trace("QV_DiscoverUnitInformation"), Events{"malloc 276", "free"} + kThrowOutOfMemory);
+  expectEnd(trace("QV_DiscoverUnitInformation"),
+            Events{mallocOf<DiscoverUnit>(), "free"} + kThrowOutOfMemory);
 }
 
 TEST_F(DepartureTrace, LoginUser) {
@@ -76,7 +84,7 @@ TEST_F(DepartureTrace, PasswordCheckKeepsTheCharacters) {
 }
 
 TEST_F(DepartureTrace, ClockKeepsTheSession) {
-  const Events head = kCopyName + Events{"malloc 32"} + kReadSession;
+  const Events head = kCopyName + Events{mallocOf<QVSessionInfo>()} + kReadSession;
   Events expected = head + Events{"QV_GetUnitTime", "flush"} + newObject("QVTime");
   for (const char* const field : {"tm_sec", "tm_min", "tm_hour", "tm_mday", "tm_mon", "tm_year",
                                   "tm_wday", "tm_yday", "tm_isdst"}) {
@@ -92,24 +100,27 @@ TEST_F(DepartureTrace, ClockKeepsTheSession) {
 
 TEST_F(DepartureTrace, FlatStatusKeepsTheSessionAndStoresEveryElement) {
   const Events events = trace("QV_GetDriveStatus");
-  expectStart(events, kCopyName + Events{"malloc 32"} + kReadSession + Events{"QV_GetDriveStatus"} +
-                          newArray("DiskDrive", 450) + Events{"flush"});
+  expectStart(events, kCopyName + Events{mallocOf<QVSessionInfo>()} + kReadSession +
+                          Events{"QV_GetDriveStatus"} + newArray("DiskDrive", 450) +
+                          Events{"flush"});
   expectEnd(events, {"SetObjectArrayElement", "DeleteLocalRef"});
   EXPECT_EQ(countOf(events, "free"), 0);
 
   // An element that cannot be built is stored like the others.
   jvm_.failCall(jvm_.fallibleCalls() + 500);
   EXPECT_EQ(countOf(trace("QV_GetDriveStatus"), "SetObjectArrayElement"), 450);
-  EXPECT_EQ(thrown(), "NoSuchFieldError");
+  EXPECT_EQ(thrown(), "NoSuchFieldError spare_of_disk_port");
   jvm_.removeClass("tessaly/str/diskarray/DiskDrive");
   EXPECT_EQ(invoke("QV_GetDriveStatus").l, nullptr);
-  EXPECT_EQ(thrown(), "ClassNotFoundException");
+  EXPECT_EQ(thrown(), "ClassNotFoundException tessaly/str/diskarray/DiskDrive");
 }
 
 TEST_F(DepartureTrace, FlatInformationIsPartialWithoutAnException) {
   const Events events = trace("QV_GetDriveInformationAll");
-  expectStart(events, kBegin + Events{"malloc 41400", "QV_GetDriveInformationAll", "free"} +
-                          newArray("DiskDriveInformation", 450) + Events{"flush"});
+  expectStart(
+      events,
+      kBegin + Events{mallocOf<DiskDriveInformation[450]>(), "QV_GetDriveInformationAll", "free"} +
+          newArray("DiskDriveInformation", 450) + Events{"flush"});
   expectEnd(events, {"SetObjectArrayElement", "DeleteLocalRef", "free", "flush"});
 
   jvm_.failCall(jvm_.fallibleCalls() + 500);
@@ -117,12 +128,12 @@ TEST_F(DepartureTrace, FlatInformationIsPartialWithoutAnException) {
   ASSERT_FALSE(nulls.empty());
   EXPECT_GT(nulls.front(), 0);
   EXPECT_EQ(nulls.size(), static_cast<std::size_t>(450 - nulls.front()));
-  EXPECT_EQ(thrown(), "NoSuchFieldError");
+  EXPECT_EQ(thrown(), "NoSuchFieldError add_info_index");
   jvm_.removeField("drive_rotation");
   EXPECT_EQ(nullsOf(invoke("QV_GetDriveInformationAll").l, 450).size(), 450U);
   jvm_.removeClass("tessaly/str/diskarray/DiskDriveInformation");
   EXPECT_EQ(invoke("QV_GetDriveInformationAll").l, nullptr);
-  EXPECT_EQ(thrown(), "ClassNotFoundException");
+  EXPECT_EQ(thrown(), "ClassNotFoundException tessaly/str/diskarray/DiskDriveInformation");
 }
 
 TEST_F(DepartureTrace, PinTable) {
@@ -135,9 +146,14 @@ TEST_F(DepartureTrace, PinTable) {
 }
 
 TEST_F(DepartureTrace, CrosscallAllocatesBothInputsBeforeItReadsThem) {
-  const Events head{
-      "flush",          "GetStringUTFChars",      "malloc 32", "malloc 8", "GetFieldID session_id",
-      "GetFieldID ctl", "GetFieldID forced_mode", "malloc 12"};
+  const Events head{"flush",
+                    "GetStringUTFChars",
+                    mallocOf<QVSessionInfo>(),
+                    mallocOf<MicroReplaceCrosscallRequest>(),
+                    "GetFieldID session_id",
+                    "GetFieldID ctl",
+                    "GetFieldID forced_mode",
+                    mallocOf<MicroReplaceInformation>()};
   expectEvents(
       story("QV_MicroReplaceCrosscall"),
       head + Events{"QV_MicroReplaceCrosscall", "free", "free", "flush", "GetFieldID valid",
@@ -149,10 +165,11 @@ TEST_F(DepartureTrace, CrosscallAllocatesBothInputsBeforeItReadsThem) {
 
 TEST_F(DepartureTrace, ReplacementThatGoesOnIsBuiltAndFlushed) {
   quorvelSimForceResult("*", 4109, 1);
-  expectEvents(story("QV_MicroReplaceEx"),
-               {"flush", "GetStringUTFChars", "malloc 32", "GetFieldID session_id", "malloc 12",
-                "QV_MicroReplaceEx", "free", "flush", "GetFieldID valid",
-                "GetFieldID WaitCancelreq", "GetFieldID ReplaceCTL", "free", "flush"});
+  expectEvents(
+      story("QV_MicroReplaceEx"),
+      {"flush", "GetStringUTFChars", mallocOf<QVSessionInfo>(), "GetFieldID session_id",
+       mallocOf<MicroReplaceInformation>(), "QV_MicroReplaceEx", "free", "flush",
+       "GetFieldID valid", "GetFieldID WaitCancelreq", "GetFieldID ReplaceCTL", "free", "flush"});
 }
 
 TEST_F(DepartureTrace, MailSettingsAreBuiltFromTheStackWithoutFlushesAround) {
@@ -164,14 +181,14 @@ TEST_F(DepartureTrace, MailSettingsAreBuiltFromTheStackWithoutFlushesAround) {
   jvm_.removeField("smtp");
   jvm_.removeField("tonum");
   EXPECT_EQ(invoke("QV_GetEmailInfo").l, nullptr);
-  EXPECT_EQ(thrown(), "NoSuchFieldError");
+  EXPECT_EQ(thrown(), "NoSuchFieldError tonum");
 }
 
 TEST_F(DepartureTrace, SessionStaysWithTheFilesOfSnmp) {
   quorvelSimForceResult("*", 7, 1);
   expectEvents(story("QV_SetSnmpConfig"),
-               {"flush", "GetStringUTFChars", "GetStringUTFChars", "GetStringUTFChars", "malloc 32",
-                "GetFieldID session_id", "QV_SetSnmpConfig", "Throw"});
+               {"flush", "GetStringUTFChars", "GetStringUTFChars", "GetStringUTFChars",
+                mallocOf<QVSessionInfo>(), "GetFieldID session_id", "QV_SetSnmpConfig", "Throw"});
 }
 
 TEST_F(DepartureTrace, FibrePermissionsFlushAndAllocateNothing) {
@@ -197,17 +214,17 @@ TEST_F(DepartureTrace, FibrePermissionsFlushAndAllocateNothing) {
 }
 
 TEST_F(DepartureTrace, MappingOfAGroup) {
-  expectEvents(
-      trace("QV_GetLuMappingList"),
-      kBegin +
-          Events{"malloc 8192", "QV_GetLuMappingList", "free", "FindClass java/lang/Object",
-                 "NewObjectArray 2", "DeleteLocalRef", "FindClass java/lang/Integer",
-                 "GetMethodID <init> (I)V", "NewObject", "DeleteLocalRef"} +
-          kStore + Events{"flush"} + newObject("LuMappingHGInfo") +
-          Events{"NewIntArray 2048", "SetIntArrayRegion 2048", "ExceptionOccurred",
-                 "GetObjectClass", "GetFieldID lu [I", "SetObjectField", "ExceptionOccurred",
-                 "DeleteLocalRef", "DeleteLocalRef"} +
-          kStore + Events{"free", "flush"});
+  expectEvents(trace("QV_GetLuMappingList"),
+               kBegin +
+                   Events{mallocOf<LuMappingHGInfo>(), "QV_GetLuMappingList", "free",
+                          "FindClass java/lang/Object", "NewObjectArray 2", "DeleteLocalRef",
+                          "FindClass java/lang/Integer", "GetMethodID <init> (I)V", "NewObject",
+                          "DeleteLocalRef"} +
+                   kStore + Events{"flush"} + newObject("LuMappingHGInfo") +
+                   Events{"NewIntArray 2048", "SetIntArrayRegion 2048", "ExceptionOccurred",
+                          "GetObjectClass", "GetFieldID lu [I", "SetObjectField",
+                          "ExceptionOccurred", "DeleteLocalRef", "DeleteLocalRef"} +
+                   kStore + Events{"free", "flush"});
 }
 
 TEST_F(DepartureTrace, WholeMappingIsOneRecord) {
@@ -215,7 +232,7 @@ TEST_F(DepartureTrace, WholeMappingIsOneRecord) {
        {"QV_GetLuMappingListAll", "QV_GetLuMappingListAllLite", "QV_SetLuMappingListAll"}) {
     SCOPED_TRACE(method);
     expectEvents(only(trace(method), {"malloc", "calloc", "free"}),
-                 {"malloc 32", "malloc 33423500", "free", "free"});
+                 {mallocOf<QVSessionInfo>(), mallocOf<LuMapping>(), "free", "free"});
   }
 }
 
@@ -252,7 +269,8 @@ TEST_F(DepartureTrace, LogicalUnitsEndAtWhatCannotBeBuilt) {
 TEST_F(DepartureTrace, ArrayOfRaidGroups) {
   const Events events = trace("QV_GetRaidGroups");
   EXPECT_EQ(events.size(), 11U + 90 * (1 + 4 + 14 * 5 + 2));
-  expectStart(events, Events{"flush"} + kCopyName + Events{"malloc 5040", "QV_GetRaidGroups"} +
+  expectStart(events, Events{"flush"} + kCopyName +
+                          Events{mallocOf<RaidGroup[90]>(), "QV_GetRaidGroups"} +
                           newArray("RaidGroup", 90) + Events{"flush"});
   expectEnd(events, {"SetObjectArrayElement", "DeleteLocalRef", "free", "flush"});
   // The name, the array, an element and its class.
@@ -270,23 +288,27 @@ TEST_F(DepartureTrace, FormatStatusListInItsOwnFrame) {
 
   jvm_.removeField("percent");
   EXPECT_EQ(invoke("QV_LogicalUnitFormatStatusList").l, nullptr);
-  EXPECT_EQ(thrown(), "NoSuchFieldError");
+  EXPECT_EQ(thrown(), "NoSuchFieldError percent");
 }
 
 TEST_F(DepartureTrace, SnapshotsWithoutMemoryAreLeftNull) {
   resetTestRuntime(2);
-  expectEvents(trace("QV_GetPerformanceAll"),
-               kBegin + Events{"malloc 3458208", "malloc 3458208", "QV_GetPerformanceAll"} +
-                   newArray("PerformanceAll", 2) + Events{"flush", "free null", "free", "flush"});
+  expectEvents(
+      trace("QV_GetPerformanceAll"),
+      kBegin +
+          Events{mallocOf<PerformanceAll>(), mallocOf<PerformanceAll>(), "QV_GetPerformanceAll"} +
+          newArray("PerformanceAll", 2) + Events{"flush", "free null", "free", "flush"});
   EXPECT_EQ(nullsOf(result_.l, 2).size(), 2U);
   EXPECT_EQ(thrown(), "");
 }
 
 TEST_F(DepartureTrace, SnapshotsThatTheLibraryRefuses) {
   quorvelSimForceResult("*", 7, 2);
-  expectEvents(trace("QV_GetPerformanceAll"),
-               kBegin + Events{"malloc 3458208", "malloc 3458208", "QV_GetPerformanceAll"} +
-                   kThrow + Events{"free", "free"});
+  expectEvents(
+      trace("QV_GetPerformanceAll"),
+      kBegin +
+          Events{mallocOf<PerformanceAll>(), mallocOf<PerformanceAll>(), "QV_GetPerformanceAll"} +
+          kThrow + Events{"free", "free"});
   jvm_.clearPending();
   expectEvents(trace("QV_GetPerformance"), kBegin + Events{"QV_GetPerformance"} + kThrow);
 }
@@ -308,10 +330,12 @@ TEST_F(DepartureTrace, OutputsReleaseBeforeTheyThrow) {
     jvm_.clearPending();
   }
   resetTestRuntime(7);
-  expectEnd(trace("QV_PerformanceOutputGraphInfo"),
-            Events{"malloc 32", "malloc 3458208", "malloc 3458208", "malloc 3458208",
-                   "malloc 3458208", "malloc 864560", "malloc 864560"} +
-                Events(6, "free") + Events{"free null"} + kThrowOutOfMemory);
+  expectEnd(
+      trace("QV_PerformanceOutputGraphInfo"),
+      Events{mallocOf<QVSessionInfo>(), mallocOf<PerformanceAll>(), mallocOf<PerformanceAll>(),
+             mallocOf<PerformanceAll>(), mallocOf<PerformanceAll>(),
+             mallocOf<PerformanceCollectGraphInfo>(), mallocOf<PerformanceCollectGraphInfo>()} +
+          Events(6, "free") + Events{"free null"} + kThrowOutOfMemory);
 }
 
 }  // namespace

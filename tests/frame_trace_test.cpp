@@ -3,6 +3,9 @@
 #include <cstring>
 
 #include "arraylib/accounts.h"
+#include "arraylib/all_information.h"
+#include "arraylib/hosts.h"
+#include "arraylib/units.h"
 #include "bridge/native_frame.h"
 #include "tests/support/traced_methods.h"
 
@@ -19,12 +22,12 @@ Events setText(const std::string& name, const std::string& text) {
 
 TEST_F(FrameTrace, Query) {
   const char* const method = "QV_GetAccountBannerAuth";
-  const Events called = kBegin + Events{"malloc 6004", method, "free"};
+  const Events called = kBegin + Events{mallocOf<AccountBanner>(), method, "free"};
   const Events begun = called + Events{"flush"} + newObject("AccountBanner");
   expectEvents(trace(method), begun + setInt("warning_banner_display") +
                                   setText("warning_banner", "") + Events{"free", "flush"});
   resetTestRuntime(2);
-  expectEvents(trace(method), kBegin + Events{"malloc 6004"} + kThrowOutOfMemory);
+  expectEvents(trace(method), kBegin + Events{mallocOf<AccountBanner>()} + kThrowOutOfMemory);
   resetTestRuntime();
   jvm_.clearPending();
   jvm_.removeField("warning_banner_display");
@@ -36,9 +39,18 @@ TEST_F(FrameTrace, Query) {
   expectEvents(trace(method), called + Events{"free"} + kThrow);
 }
 
+TEST_F(FrameTrace, QueryReadsEachInputBeforeItAllocatesTheNext) {
+  const Events events =
+      only(trace("QV_GetAllInfo_HG"), {"malloc", "GetFieldID session_id", "GetFieldID request"});
+  expectEvents(
+      events, {mallocOf<QVSessionInfo>(), "GetFieldID session_id [B", mallocOf<ControllerRequest>(),
+               "GetFieldID requestCTL I", mallocOf<ArrayAllInfo_HG>()});
+}
+
 TEST_F(FrameTrace, NestedObjectsAndArrays) {
   Events expected = kBegin +
-                    Events{"malloc 8228", "QV_GetQVAccountRoleInformation", "free", "flush"} +
+                    Events{mallocOf<QVAccountRoleInformation>(), "QV_GetQVAccountRoleInformation",
+                           "free", "flush"} +
                     newObject("QVAccountRoleInformation") + setInt("role_valid_index") +
                     newArray("QVAccountRole", 32);
   for (int role = 0; role < 32; ++role) {
@@ -53,7 +65,8 @@ TEST_F(FrameTrace, NestedObjectsAndArrays) {
 }
 
 TEST_F(FrameTrace, Update) {
-  const Events head = Events{"flush"} + kCopyName + Events{"malloc 32", "malloc 4"};
+  const Events head = Events{"flush"} + kCopyName +
+                      Events{mallocOf<QVSessionInfo>(), mallocOf<AdditionalUnitRequest>()};
   expectEvents(trace("QV_AddAdditionalUnit"),
                head + kReadSession +
                    Events{"GetObjectClass", "GetFieldID mode I", "GetIntField", "DeleteLocalRef",
@@ -103,7 +116,7 @@ TEST_F(FrameTrace, ArrayResult) {
   const jstring name = jvm_.newText("unit");
   jobjectArray result = nullptr;
   expectEvents(traceOf([&] { result = query(jvm_.env(), listAccounts, name); }),
-               Events{"flush"} + kCopyName + Events{"malloc 514", "library"} +
+               Events{"flush"} + kCopyName + Events{mallocOf<AccountIdentifier[2]>(), "library"} +
                    newArray("AccountIdentifier", 2) + Events{"flush"} +
                    newObject("AccountIdentifier") + setText("user_id", "a") + kStore +
                    Events{"flush"} + newObject("AccountIdentifier") + setText("user_id", "b") +

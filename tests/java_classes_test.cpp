@@ -1,29 +1,26 @@
 // Every map against the Java class of its name: the same fields, of the same types.
 #include <gtest/gtest.h>
 
-#include <fstream>
 #include <map>
 #include <set>
 #include <string>
 
 #include "bridge/class_map.h"
 #include "record_headers.inc"
+#include "tests/support/java_fields.h"
 
 namespace quorvelj::testing {
 namespace {
+
+const std::string kPackage = "tessaly/str/diskarray/";
 
 using Fields = std::set<std::string>;  // "session_id [B"
 
 /// The fields of Java's classes that have any, by class.
 std::map<std::string, Fields> javaClasses() {
-  std::ifstream list(QUORVELJ_CLASSES);
-  EXPECT_TRUE(list) << "no list of classes";
   std::map<std::string, Fields> classes;
-  std::string className;
-  std::string name;
-  std::string signature;
-  for (int length = 0; list >> className >> name >> signature >> length;) {
-    classes[className].insert(name + ' ' + signature);
+  for (const JavaField& field : javaFields()) {
+    classes[field.className].insert(field.name + ' ' + field.signature);
   }
   return classes;
 }
@@ -51,22 +48,22 @@ const std::map<std::string, Fields>& fieldsReadApart() {
     return fields;
   }();
   static const std::map<std::string, Fields> apart{
-      {"PerformanceOutputAllRequest", withFile},
-      {"PerformanceOutputAllExRequest", withFile},
-      {"PerformanceOutputGraphInfoRequest", snapshots},
+      {kPackage + "PerformanceOutputAllRequest", withFile},
+      {kPackage + "PerformanceOutputAllExRequest", withFile},
+      {kPackage + "PerformanceOutputGraphInfoRequest", snapshots},
   };
   return apart;
 }
 
 TEST(JavaClasses, HaveTheFieldsOfTheirMaps) {
   std::map<std::string, Fields> mapped = fieldsReadApart();
-  const auto enter = [&](const std::string& record, const ClassMap& map) {
+  const auto enter = [&](const char* record, const ClassMap& map) {
     if (*map.className == '\0') {
       return;  // The fields of a part are looked at where it is a member.
     }
-    EXPECT_EQ(map.className, "tessaly/str/diskarray/" + record);
+    EXPECT_EQ(map.className, kPackage + record);
     if (!map.fields.empty()) {
-      add(mapped[record], map);
+      add(mapped[map.className], map);
     }
   };
 #define RECORD_ENTRY(header, Record) enter(#Record, ClassOf<Record>::kMap);

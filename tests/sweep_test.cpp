@@ -26,6 +26,7 @@ constexpr std::size_t kCostOfAll = 1'500'000;
 constexpr std::size_t kBytesOfACall = 64;
 constexpr int kOrdinaryCode = 1234;
 constexpr char kText[] = "Ljava/lang/String;";
+constexpr char kSession[] = "Ltessaly/str/diskarray/QVSessionInfo;";
 
 int injectedFaults = 0;
 
@@ -34,6 +35,7 @@ struct Fault {
   int allocation = 0;
   int libraryResult = 0;
   int nullArgument = -1;
+  bool staleStack = false;
   InputProfile inputs{};
   std::vector<unsigned char> output{};
 };
@@ -46,28 +48,38 @@ struct Outcome {
   int allocations = 0;
   int leakedRecords = 0;
   int libraryCalls = 0;
+  std::string libraryFunction{};
   int newReferences = 0;
 };
+
+/// Leaves bytes where the next function has its buffers.
+[[gnu::noinline]] void dirtyStack() {
+  volatile char stale[64 * 1024];
+  std::fill(std::begin(stale), std::end(stale), '?');
+}
+
+std::string lastFunction;
 
 Outcome play(const NativeMethod& method, const Fault& fault) {
   const Departure& departure = departureOf(method);
   const auto output = fault.output.empty() ? outputFor(method) : fault.output;
   quorvelSimReset();
+  quorvelSimObserve([](const char* function) { lastFunction = function; });
   quorvelSimForceResult("*", fault.libraryResult, 1);
   quorvelSimPrepareOutput("*", output.data(), output.size());
   resetTestRuntime(fault.allocation);
   MiniJvm jvm;
   jvm.profile = fault.inputs;
-  std::vector<jvalue> arguments;
-  for (const std::string& type : method.argumentTypes()) {
-    arguments.push_back(jvm.newArgument(type));
-  }
+  std::vector<jvalue> arguments = jvm.newArguments(method);
   if (fault.nullArgument >= 0) {
     arguments[static_cast<std::size_t>(fault.nullArgument)].l = nullptr;
   }
   const int references = jvm.liveReferences();
   jvm.failCall(fault.jniCall);
 
+  if (fault.staleStack) {
+    dirtyStack();
+  }
   Outcome outcome;
   outcome.result = method.invoke(jvm.env(), arguments);
   outcome.pending = jvm.pending();
@@ -76,6 +88,7 @@ Outcome play(const NativeMethod& method, const Fault& fault) {
   outcome.allocations = testRuntime().allocations;
   outcome.leakedRecords = testRuntime().liveRecords;
   outcome.libraryCalls = quorvelSimCallCount("*");
+  outcome.libraryFunction = lastFunction;
   outcome.newReferences = jvm.liveReferences() - references;
 
   ++injectedFaults;
@@ -178,6 +191,31 @@ TEST_P(Sweep, EachJniCallFails) {
         EXPECT_TRUE(outcome.pending);
       }
     }
+  }
+}
+
+TEST_P(Sweep, TextsThatCannotBeHadAreEmpty) {
+  const std::vector<std::string> types = GetParam().argumentTypes();
+  const auto session =
+      static_cast<std::size_t>(std::find(types.begin(), types.end(), kSession) - types.begin());
+  int texts = 0;
+  for (std::size_t index = 0; index < types.size(); ++index) {
+    if (types[index] != kText) {
+      continue;
+    }
+    SCOPED_TRACE("argument " + std::to_string(index));
+    // The texts are the first that a method asks the JVM for.
+    const Outcome outcome = play(GetParam(), {.jniCall = ++texts, .staleStack = true});
+    if (outcome.libraryCalls == 0) {
+      EXPECT_TRUE(departureOf(GetParam()).stopsUnread);
+      continue;
+    }
+    // The library takes the session before a path, wherever Java has it.
+    const bool behindSession = index != 0 && session != types.size() && session > index;
+    char first = '?';
+    quorvelSimLastInput(outcome.libraryFunction.c_str(),
+                        static_cast<int>(index) + (behindSession ? 1 : 0), &first, 1);
+    EXPECT_EQ(first, '\0');
   }
 }
 

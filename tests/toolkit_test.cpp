@@ -100,7 +100,9 @@ TEST_F(Toolkit, NewIntegerAndScaledShorts) {
 
 TEST_F(Toolkit, ShiftJisTextEndsAtItsNul) {
   const char bytes[16] = "ABC";
+  const int references = jvm_.liveReferences();
   EXPECT_EQ(setSjisStringField(env_, object_, "name", bytes, 16), 0);
+  EXPECT_EQ(jvm_.liveReferences(), references);
   EXPECT_EQ(jvm_.textOf(object_, "name"), "ABC");
   EXPECT_EQ(setSjisStringField(env_, object_, "name", bytes, 3), 2817);
   EXPECT_EQ(jvm_.pending()->className, "java/lang/StringIndexOutOfBoundsException");

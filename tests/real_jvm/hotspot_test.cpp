@@ -5,17 +5,17 @@
 
 #include "bridge/jni_toolkit.h"
 #include "simulator/control.h"
-#include "tests/support/real_jvm.h"
+#include "tests/support/caller.h"
 
 namespace quorvelj::testing {
 namespace {
 
 class HotSpot : public ::testing::Test {
  protected:
-  HotSpot() { realJvm()->PushLocalFrame(64); }
+  HotSpot() { javaEnv()->PushLocalFrame(64); }
   ~HotSpot() override {
-    realJvm()->ExceptionClear();
-    realJvm()->PopLocalFrame(nullptr);
+    javaEnv()->ExceptionClear();
+    javaEnv()->PopLocalFrame(nullptr);
   }
 
   /// The pending exception as Java shows it; it is cleared.
@@ -39,7 +39,7 @@ class HotSpot : public ::testing::Test {
     env_->CallVoidMethod(array, env_->GetMethodID(type, method, signature), argument);
   }
 
-  JNIEnv* env_ = realJvm();
+  JNIEnv* env_ = javaEnv();
 };
 
 TEST_F(HotSpot, MissingClassIsReportedByName) {

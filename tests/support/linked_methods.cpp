@@ -16,33 +16,40 @@ Value unpack(const jvalue& argument) {
   }
 }
 
-template <auto Function>
-struct Invoker;
+template <class Result, class... Argument>
+using Function = Result(JNICALL*)(JNIEnv*, jobject, Argument...);
 
-template <class Result, class... Argument, Result(JNICALL* Function)(JNIEnv*, jobject, Argument...)>
-struct Invoker<Function> {
-  static jvalue invoke(JNIEnv* env, const std::vector<jvalue>& arguments) {
-    return [&]<std::size_t... Index>(std::index_sequence<Index...>) {
-      jvalue result{};
-      if constexpr (std::is_same_v<Result, void>) {
-        Function(env, nullptr, unpack<Argument>(arguments[Index])...);
-      } else if constexpr (std::is_same_v<Result, jint>) {
-        result.i = Function(env, nullptr, unpack<Argument>(arguments[Index])...);
-      } else {
-        result.l = Function(env, nullptr, unpack<Argument>(arguments[Index])...);
-      }
-      return result;
+/// Calls a method of this C++ signature.
+template <class Result, class... Argument>
+jvalue callAs(const NativeMethod& method, JNIEnv* env, const std::vector<jvalue>& arguments) {
+  const auto function = reinterpret_cast<Function<Result, Argument...>>(method.function);
+  return [&]<std::size_t... Index>(std::index_sequence<Index...>) {
+    jvalue result{};
+    if constexpr (std::is_same_v<Result, void>) {
+      function(env, nullptr, unpack<Argument>(arguments[Index])...);
+    } else if constexpr (std::is_same_v<Result, jint>) {
+      result.i = function(env, nullptr, unpack<Argument>(arguments[Index])...);
+    } else {
+      result.l = function(env, nullptr, unpack<Argument>(arguments[Index])...);
     }
-    (std::index_sequence_for<Argument...>{});
+    return result;
   }
-};
+  (std::index_sequence_for<Argument...>{});
+}
+
+template <class Result, class... Argument>
+NativeMethod linked(const char* name, const char* signature,
+                    Function<Result, Argument...> function) {
+  return {name, signature, reinterpret_cast<NativeMethod::AnyFunction>(function),
+          &callAs<Result, Argument...>};
+}
 
 }  // namespace
 
 std::span<const NativeMethod> nativeMethods() {
 #define NATIVE_METHOD_ENTRY(name, escaped, signature) \
-  {#name, signature, Invoker<&Java_tessaly_str_diskarray_DiskArrayUtilityJNI_##escaped>::invoke},
-  static const std::vector<NativeMethod> methods{
+  linked(#name, signature, &Java_tessaly_str_diskarray_DiskArrayUtilityJNI_##escaped),
+  static const NativeMethod methods[] = {
 #include "native_methods.inc"
   };
 #undef NATIVE_METHOD_ENTRY

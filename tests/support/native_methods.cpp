@@ -2,24 +2,30 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <ostream>
+#include <string_view>
 
 namespace quorvelj::testing {
 
 std::vector<std::string> NativeMethod::argumentTypes() const {
+  const std::string_view whole = signature;
   std::vector<std::string> types;
-  for (std::size_t at = 1; signature[at] != ')';) {
-    std::size_t end = signature.find_first_not_of('[', at);
-    end = signature[end] == 'L' ? signature.find(';', end) : end;
-    types.push_back(signature.substr(at, end + 1 - at));
+  for (std::size_t at = 1; whole[at] != ')';) {
+    std::size_t end = whole.find_first_not_of('[', at);
+    end = whole[end] == 'L' ? whole.find(';', end) : end;
+    types.emplace_back(whole.substr(at, end + 1 - at));
     at = end + 1;
   }
   return types;
 }
 
 char NativeMethod::resultKind() const {
-  const char kind = signature[signature.find(')') + 1];
+  const std::string_view whole = signature;
+  const char kind = whole[whole.find(')') + 1];
   return kind == '[' ? 'L' : kind;
 }
+
+void PrintTo(const NativeMethod& method, std::ostream* out) { *out << method.name; }
 
 const NativeMethod& nativeMethod(const std::string& name) {
   for (const NativeMethod& method : nativeMethods()) {

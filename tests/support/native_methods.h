@@ -2,8 +2,7 @@
 
 #include <jni.h>
 
-#include <functional>
-#include <ostream>
+#include <iosfwd>
 #include <span>
 #include <string>
 #include <vector>
@@ -12,20 +11,29 @@ namespace quorvelj::testing {
 
 /// One native method of the Java class, as the header that javac generates lists it.
 struct NativeMethod {
-  std::string name;       // "QV_GetUnitParam"
-  std::string signature;  // "(Ljava/lang/String;)Ltessaly/str/diskarray/QVUnitParam;"
-  std::function<jvalue(JNIEnv* env, const std::vector<jvalue>& arguments)> invoke;
+  using AnyFunction = void (*)();
+
+  const char* name;       // "QV_GetUnitParam"
+  const char* signature;  // "(Ljava/lang/String;)Ltessaly/str/diskarray/QVUnitParam;"
+  /// The method itself; null where it is called by way of Java.
+  AnyFunction function;
+  jvalue (*call)(const NativeMethod& method, JNIEnv* env, const std::vector<jvalue>& arguments);
+
+  jvalue invoke(JNIEnv* env, const std::vector<jvalue>& arguments) const {
+    return call(*this, env, arguments);
+  }
 
   /// The JNI types of the arguments: "I", "Ljava/lang/String;".
-  std::vector<std::string> argumentTypes() const;
+  [[nodiscard]] std::vector<std::string> argumentTypes() const;
   /// 'V', 'I', or 'L' for an object or an array.
-  char resultKind() const;
-
-  friend void PrintTo(const NativeMethod& method, std::ostream* out) { *out << method.name; }
+  [[nodiscard]] char resultKind() const;
 };
 
-/// All of them: those linked into this program, or those of the DLL that it loads. There is no list
-/// to keep: a method is here by being declared in Java.
+/// How GoogleTest shows a method.
+void PrintTo(const NativeMethod& method, std::ostream* out);
+
+/// All native methods: those linked into this program, those of the DLL that it loads, or those of
+/// the Java class in its JVM. The list is made from the Java class.
 std::span<const NativeMethod> nativeMethods();
 
 const NativeMethod& nativeMethod(const std::string& name);

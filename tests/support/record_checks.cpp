@@ -1,12 +1,15 @@
+#include "tests/support/record_checks.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cstdint>
 #include <cstdio>
-#include <cstring>
+#include <map>
+#include <unordered_set>
 
 #include "simulator/control.h"
-#include "tests/support/real_jvm.h"
+#include "tests/support/field_log.h"
 
 namespace quorvelj::testing {
 namespace {
@@ -27,75 +30,83 @@ Compared& compared() {
 
 const auto* const kCompared = ::testing::AddGlobalTestEnvironment(&compared());
 
-/// The fields that native code looked up during a call, in order; their names are the bridge's own
-/// constants. The look-up is swapped in the thread's JNI function table for as long.
-class FieldLog {
- public:
-  FieldLog() : own_(*realJvm()->functions), original_(realJvm()->functions) {
-    names().clear();
-    lookUp() = own_.GetFieldID;
-    own_.GetFieldID = &logged;
-    realJvm()->functions = &own_;
-  }
-  ~FieldLog() { realJvm()->functions = original_; }
-  FieldLog(const FieldLog&) = delete;
-  FieldLog& operator=(const FieldLog&) = delete;
-
-  static std::vector<const char*>& names() {
-    static std::vector<const char*> looked;
-    return looked;
-  }
-
- private:
-  using LookUp = decltype(JNINativeInterface_::GetFieldID);
-  static LookUp& lookUp() {
-    static LookUp original = nullptr;
-    return original;
-  }
-  static jfieldID JNICALL logged(JNIEnv* env, jclass type, const char* name,
-                                 const char* signature) {
-    names().emplace_back(name);
-    return lookUp()(env, type, name, signature);
-  }
-
-  JNINativeInterface_ own_;
-  const JNINativeInterface_* original_;
+/// A field that a list of members expects to be visited.
+struct Expected {
+  std::string name;
+  /// Is visited directly behind the field before it.
+  bool adjacent;
 };
 
-/// "server[1].", the path of the object that holds a member.
-std::string holderOf(const Member& member) {
-  return member.path.substr(0, member.path.rfind('.') + 1);
-}
+/// The fields that a list of members expects in each object, by the object's path: "", "server[1]".
+using ExpectedByHolder = std::map<std::string, std::vector<Expected>>;
 
-/// Whether nothing comes between two members: ints that follow one another in an object.
+/// Whether a member follows another in their object: ints that lie side by side.
 bool adjacent(const Member& left, const Member& right) {
+  const std::string_view leftPath = left.path;
+  const std::string_view rightPath = right.path;
+  const auto holderOf = [](std::string_view path) { return path.substr(0, path.rfind('.') + 1); };
   return left.kind == Kind::kInt32 && right.kind == Kind::kInt32 &&
-         left.offset + 4 == right.offset && holderOf(left) == holderOf(right) &&
-         left.path.back() != ']' && right.path.back() != ']';
+         left.offset + 4 == right.offset && holderOf(leftPath) == holderOf(rightPath) &&
+         leftPath.back() != ']' && rightPath.back() != ']';
 }
 
-/// Expects the members' fields in the order of their list: adjacent ones without a gap, others with
-/// other fields between them or not.
-void expectOrder(const std::vector<Member>& members) {
-  auto at = FieldLog::names().begin();
-  for (std::size_t first = 0, end = 0; first < members.size(); first = end) {
-    std::vector<std::string> run;
-    do {
-      const std::string name = members[end].path.substr(holderOf(members[end]).size());
-      run.push_back(name.substr(0, name.find('[')));
-    } while (++end < members.size() && adjacent(members[end - 1], members[end]));
-    // Elements of one array are looked up once, as their array.
-    if (at != FieldLog::names().begin() && *(at - 1) == run[0] &&
-        members[first].path.back() == ']') {
+ExpectedByHolder expectedFields(const Members& members) {
+  ExpectedByHolder expected;
+  for (std::size_t index = 0; index < members.size(); ++index) {
+    const std::string path = members[index].path;
+    std::string holder;
+    for (std::size_t start = 0; start <= path.size();) {
+      const std::size_t dot = std::min(path.find('.', start), path.size());
+      const std::string name = path.substr(start, std::min(path.find('[', start), dot) - start);
+      auto& names = expected[holder];
+      const bool listed = std::any_of(names.begin(), names.end(),
+                                      [&](const Expected& field) { return field.name == name; });
+      if (!name.empty() && !listed) {
+        const bool isLast = dot == path.size();
+        names.push_back(
+            {name, isLast && index > 0 && adjacent(members[index - 1], members[index])});
+      }
+      holder = path.substr(0, dot);
+      start = dot + 1;
+    }
+  }
+  return expected;
+}
+
+/// Whether a visit has the expected fields in their order, as far as it has them; counts those that
+/// it has.
+bool inOrder(const Visit& visit, const std::vector<Expected>& expected, std::size_t& found) {
+  auto last = visit.begin();
+  found = 0;
+  for (const Expected& field : expected) {
+    const auto at = std::find(visit.begin(), visit.end(), field.name);
+    if (at == visit.end()) {
       continue;
     }
-    at = std::search(at, FieldLog::names().end(), run.begin(), run.end());
-    if (at == FieldLog::names().end()) {
-      ADD_FAILURE() << ::testing::PrintToString(run) << " of " << members[first].path
-                    << " are not visited in this order";
-      return;
+    if (found != 0 && (field.adjacent ? at != last + 1 : at <= last)) {
+      return false;
     }
-    at += static_cast<std::ptrdiff_t>(run.size());
+    last = at;
+    ++found;
+  }
+  return true;
+}
+
+/// Expects every object below `root` to be visited in the order of its members in the list.
+void expectOrder(FieldLog& log, jobject root, const Members& members) {
+  for (const auto& [holder, expected] : expectedFields(members)) {
+    if (expected.empty()) {
+      continue;
+    }
+    bool complete = false;
+    for (const Visit& visit : log.visitsTo(get(root, holder))) {
+      std::size_t found = 0;
+      EXPECT_TRUE(inOrder(visit, expected, found))
+          << "in \"" << holder << "\" the fields are visited in the order "
+          << ::testing::PrintToString(visit);
+      complete = complete || found == expected.size();
+    }
+    EXPECT_TRUE(complete) << "no object is visited in all fields of \"" << holder << '"';
   }
 }
 
@@ -108,7 +119,7 @@ std::string sampleText(std::size_t seed, std::size_t length) {
   return sample;
 }
 
-/// The value of a member in one round; bytes are at 0x80 in the first and at 0xFF in the second.
+/// The value of a number in one round; bytes are at 0x80 in the first and at 0xFF in the second.
 std::int32_t sampleNumber(const Member& member, int round) {
   const auto offset = static_cast<std::int32_t>(member.offset);
   switch (member.kind) {
@@ -121,48 +132,103 @@ std::int32_t sampleNumber(const Member& member, int round) {
   }
 }
 
-/// Raw bytes of a member and the text that Java shows of them.
-std::vector<unsigned char> sampleBytes(const Member& member, int round) {
-  std::vector<unsigned char> bytes(member.width);
-  for (std::size_t index = 0; index < bytes.size(); ++index) {
-    bytes[index] =
-        static_cast<unsigned char>((round == 0 ? 0x80 : 0x01) + member.offset % 64 + index);
+/// The raw bytes of a member in one round.
+std::string sampleBytes(const Member& member, int round) {
+  std::string bytes;
+  for (std::size_t index = 0; index < member.width; ++index) {
+    bytes += static_cast<char>((round == 0 ? 0x80 : 0x01) + member.offset % 64 + index);
   }
   return bytes;
 }
 
-std::string shown(const std::vector<unsigned char>& bytes) {
-  std::string list;
-  for (const unsigned char byte : bytes) {
-    list += (list.empty() ? "" : ", ") + std::to_string(static_cast<signed char>(byte));
+/// A member's value, as bytes of the record and as text in Java.
+struct Sample {
+  std::string bytes;
+  std::string java;
+};
+
+Sample sampleOf(const Member& member, int round) {
+  if (member.kind == Kind::kBytes) {
+    Sample sample{sampleBytes(member, round), ""};
+    for (const char byte : sample.bytes) {
+      sample.java += (sample.java.empty() ? "" : ", ") + std::to_string(int{byte});
+    }
+    sample.java = '[' + sample.java + ']';
+    return sample;
   }
-  return '[' + list + ']';
+  const std::int32_t value = sampleNumber(member, round);
+  return {{reinterpret_cast<const char*>(&value), member.width}, std::to_string(value)};
 }
 
-void plant(std::vector<unsigned char>& record, const Member& member, std::int32_t value) {
-  std::memcpy(record.data() + member.offset, &value, member.kind == Kind::kInt32 ? 4 : 1);
+/// What the library returns. The second round's texts are without a NUL: each ends where its member
+/// does.
+Sample builtSample(const Member& member, int round) {
+  if (member.kind != Kind::kText) {
+    return sampleOf(member, round);
+  }
+  const std::string letters = sampleText(member.offset, member.width - (round == 0 ? 1 : 0));
+  return {letters + std::string(round == 0 ? 1 : 0, '\0'), letters};
 }
 
-/// Calls a method and logs the fields that it looks up.
-Called callLogged(const char* method, const std::vector<jobject>& arguments) {
-  const FieldLog log;
-  return call(method, arguments);
+/// What Java hands over. The second round's texts are longer than their members: each is cut to end
+/// in a NUL.
+Sample readSample(const Member& member, int round) {
+  if (member.kind != Kind::kText) {
+    return sampleOf(member, round);
+  }
+  const std::string letters = sampleText(member.offset, member.width - 1);
+  return {letters + '\0', round == 0 ? letters : letters + "too long"};
+}
+
+/// Sets the field of a member; raw bytes from the last one on, which makes the whole array.
+void setSample(jobject object, const Member& member, const Sample& sample) {
+  if (member.kind != Kind::kBytes) {
+    set(object, member.path, sample.java);
+    return;
+  }
+  for (std::size_t index = member.width; index-- > 0;) {
+    set(object, std::string(member.path) + '[' + std::to_string(index) + ']',
+        std::to_string(int{static_cast<signed char>(sample.bytes[index])}));
+  }
+}
+
+/// The members that have a value to compare.
+Members withValues(Members members) {
+  members.erase(std::remove_if(members.begin(), members.end(),
+                               [](const Member& member) { return member.kind == Kind::kVisited; }),
+                members.end());
+  return members;
+}
+
+/// Takes back the local references that were made in it.
+struct LocalFrame {
+  LocalFrame() { javaEnv()->PushLocalFrame(64); }
+  ~LocalFrame() { javaEnv()->PopLocalFrame(nullptr); }
+  LocalFrame(const LocalFrame&) = delete;
+  LocalFrame& operator=(const LocalFrame&) = delete;
+};
+
+Called callLogged(FieldLog& log, const char* method, const std::vector<jobject>& arguments) {
+  log.start();
+  const Called called = call(method, arguments);
+  log.stop();
+  return called;
 }
 
 }  // namespace
 
-Member int32At(std::size_t offset, const char* path) { return {path, offset, Kind::kInt32}; }
-Member int8At(std::size_t offset, const char* path) { return {path, offset, Kind::kInt8}; }
-Member uint8At(std::size_t offset, const char* path) { return {path, offset, Kind::kUInt8}; }
-Member textAt(std::size_t offset, std::size_t width, const char* path) {
-  return {path, offset, Kind::kText, width};
-}
-Member bytesAt(std::size_t offset, std::size_t width, const char* path) {
-  return {path, offset, Kind::kBytes, width};
+const char* kept(const std::string& path) {
+  static std::unordered_set<std::string> paths;
+  return paths.insert(path).first->c_str();
 }
 
-std::vector<Member> int32sAt(std::size_t offset, const std::vector<const char*>& paths) {
-  std::vector<Member> members;
+Members operator+(Members left, const Members& right) {
+  left.insert(left.end(), right.begin(), right.end());
+  return left;
+}
+
+Members int32sAt(std::size_t offset, std::initializer_list<const char*> paths) {
+  Members members;
   for (const char* const path : paths) {
     members.push_back(int32At(offset, path));
     offset += 4;
@@ -170,85 +236,99 @@ std::vector<Member> int32sAt(std::size_t offset, const std::vector<const char*>&
   return members;
 }
 
+Members textsAt(std::size_t offset, std::size_t width, const std::string& names) {
+  Members members;
+  for (std::size_t start = 0; start < names.size(); offset += width) {
+    const std::size_t end = std::min(names.find(' ', start), names.size());
+    members.push_back(textAt(offset, width, kept(names.substr(start, end - start))));
+    start = end + 1;
+  }
+  return members;
+}
+
+Members int32sAt(std::size_t offset, const std::string& names) {
+  Members members = textsAt(offset, 4, names);
+  for (Member& member : members) {
+    member.kind = Kind::kInt32;
+  }
+  return members;
+}
+
+Members visited(const std::string& names) {
+  Members members = textsAt(0, 0, names);
+  for (Member& member : members) {
+    member.kind = Kind::kVisited;
+  }
+  return members;
+}
+
+Members at(std::size_t offset, const std::string& path, const Members& members) {
+  return at({{offset, path}}, members);
+}
+
+Members at(std::initializer_list<Location> locations, const Members& members) {
+  Members all;
+  for (const Location& location : locations) {
+    for (const Member& member : members) {
+      Member& moved = all.emplace_back(member);
+      moved.offset += location.offset;
+      moved.path = kept(std::string(location.path) + member.path);
+    }
+  }
+  return all;
+}
+
+void expectFields(jobject object, Fields fields) {
+  for (const auto& [path, value] : fields) {
+    EXPECT_EQ(get(object, std::string(path)), value) << path;
+  }
+}
+
 void expectBuilt(const char* method, const std::vector<jobject>& arguments, std::size_t size,
-                 const std::vector<Member>& members, const char* function) {
+                 const Members& members, const char* function) {
   function = function == nullptr ? method : function;
+  const Members valued = withValues(members);
   for (const int round : {0, 1}) {
     SCOPED_TRACE(std::string(method) + ", round " + std::to_string(round));
-    realJvm()->PushLocalFrame(64);
-    std::vector<unsigned char> record(size, 0xEE);
-    std::vector<std::string> expected;
-    for (const Member& member : members) {
-      ASSERT_LE(member.offset + (member.kind == Kind::kInt32 ? 4 : 1), size) << member.path;
-      if (member.kind == Kind::kText) {
-        // The second round leaves the text without a NUL: it ends where its member does.
-        const std::string sample = sampleText(member.offset, member.width - (round == 0 ? 1 : 0));
-        std::memcpy(record.data() + member.offset, sample.c_str(), member.width);
-        expected.push_back(sample);
-      } else if (member.kind == Kind::kBytes) {
-        const auto sample = sampleBytes(member, round);
-        std::memcpy(record.data() + member.offset, sample.data(), sample.size());
-        expected.push_back(shown(sample));
-      } else {
-        plant(record, member, sampleNumber(member, round));
-        expected.push_back(std::to_string(sampleNumber(member, round)));
-      }
+    const LocalFrame frame;
+    std::string record(size, '\xEE');
+    for (const Member& member : valued) {
+      ASSERT_LE(member.offset + member.width, size) << member.path;
+      record.replace(member.offset, member.width, builtSample(member, round).bytes);
     }
     quorvelSimPrepareOutput(function, record.data(), record.size());
-    const Called called = callLogged(method, arguments);
+    FieldLog log;
+    const Called called = callLogged(log, method, arguments);
     quorvelSimPrepareOutput(function, nullptr, 0);
     ASSERT_EQ(called.failure, "");
-    expectOrder(members);
-    for (std::size_t index = 0; index < members.size(); ++index) {
-      EXPECT_EQ(get(called.result, members[index].path), expected[index]) << members[index].path;
+    expectOrder(log, called.result, members);
+    for (const Member& member : valued) {
+      EXPECT_EQ(get(called.result, member.path), builtSample(member, round).java) << member.path;
       ++compared().values;
     }
-    realJvm()->PopLocalFrame(nullptr);
   }
 }
 
 void expectRead(const char* method, const std::vector<jobject>& arguments, jobject object,
-                int parameter, std::size_t size, const std::vector<Member>& members) {
+                int parameter, std::size_t size, const Members& members) {
+  const Members valued = withValues(members);
   for (const int round : {0, 1}) {
     SCOPED_TRACE(std::string(method) + ", round " + std::to_string(round));
-    realJvm()->PushLocalFrame(64);
-    std::vector<unsigned char> expected(size, 0);
-    std::vector<unsigned char> known(size, 0);
-    for (const Member& member : members) {
-      std::size_t width = member.width;
-      if (member.kind == Kind::kText) {
-        // The second round's text is longer than its member and is cut to end in a NUL.
-        const std::string sample = sampleText(member.offset, width - 1);
-        set(object, member.path, round == 0 ? sample : sample + "too long");
-        std::memcpy(expected.data() + member.offset, sample.c_str(), width);
-      } else if (member.kind == Kind::kBytes) {
-        const auto sample = sampleBytes(member, round);
-        for (std::size_t index = 0; index < width; ++index) {
-          set(object, member.path + '[' + std::to_string(index) + ']',
-              std::to_string(static_cast<signed char>(sample[index])));
-        }
-        std::memcpy(expected.data() + member.offset, sample.data(), width);
-      } else {
-        width = member.kind == Kind::kInt32 ? 4 : 1;
-        set(object, member.path, std::to_string(sampleNumber(member, round)));
-        plant(expected, member, sampleNumber(member, round));
-      }
-      std::memset(known.data() + member.offset, 1, width);
-      ++compared().values;
+    const LocalFrame frame;
+    for (const Member& member : valued) {
+      setSample(object, member, readSample(member, round));
     }
     quorvelSimForceResult(method, 0, 1);
-    EXPECT_EQ(callLogged(method, arguments).failure, "");
-    expectOrder(members);
-    std::vector<unsigned char> record(size);
+    FieldLog log;
+    EXPECT_EQ(callLogged(log, method, arguments).failure, "");
+    expectOrder(log, object, members);
+    std::string record(size, '\0');
     ASSERT_EQ(quorvelSimLastInput(method, parameter, record.data(), size), size);
-    for (std::size_t index = 0; index < size; ++index) {
-      if (known[index] != 0 && record[index] != expected[index]) {
-        ADD_FAILURE() << "byte " << index << " is " << int{record[index]} << ", expected "
-                      << int{expected[index]};
-        break;
-      }
+    for (const Member& member : valued) {
+      EXPECT_EQ(record.substr(member.offset, member.width), readSample(member, round).bytes)
+          << member.path;
+      ++compared().values;
     }
-    realJvm()->PopLocalFrame(nullptr);
   }
 }
 

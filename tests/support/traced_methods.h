@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "arraylib/accounts.h"
 #include "simulator/control.h"
 #include "tests/support/mini_jvm.h"
 #include "tests/support/native_methods.h"
@@ -23,12 +24,19 @@ inline Events operator+(Events left, const Events& right) {
   return left;
 }
 
+/// The allocation of a record, or of an array of them.
+template <class Record>
+std::string mallocOf() {
+  return "malloc " + std::to_string(sizeof(Record));
+}
+
 inline const Events kCopyName{"GetStringUTFLength", "GetStringUTFChars", "ReleaseStringUTFChars"};
 inline const Events kReadSession{"GetObjectClass", "GetFieldID session_id [B", "GetObjectField",
                                  "DeleteLocalRef", "GetByteArrayRegion 32",    "ExceptionOccurred",
                                  "DeleteLocalRef"};
 /// What comes first in a frame with a unit and a session.
-inline const Events kBegin = Events{"flush"} + kCopyName + Events{"malloc 32"} + kReadSession;
+inline const Events kBegin =
+    Events{"flush"} + kCopyName + Events{mallocOf<QVSessionInfo>()} + kReadSession;
 inline const Events kStore{"SetObjectArrayElement", "ExceptionOccurred", "DeleteLocalRef"};
 inline const Events kThrow{"FindClass tessaly/str/diskarray/DiskArrayException",
                            "GetMethodID <init> (I)V", "NewObject", "Throw"};
@@ -89,11 +97,7 @@ class TracedMethods : public ::testing::Test {
 
   /// Texts, inputs, and ints of 3.
   std::vector<jvalue> argumentsOf(const char* method) {
-    std::vector<jvalue> arguments;
-    for (const std::string& type : nativeMethod(method).argumentTypes()) {
-      arguments.push_back(jvm_.newArgument(type));
-    }
-    return arguments;
+    return jvm_.newArguments(nativeMethod(method));
   }
   jvalue invoke(const char* method, const std::vector<jvalue>& arguments) {
     return result_ = nativeMethod(method).invoke(jvm_.env(), arguments);
@@ -112,13 +116,11 @@ class TracedMethods : public ::testing::Test {
   }
   Events trace(const char* method) { return trace(method, argumentsOf(method)); }
 
-  /// Takes the pending exception: "DiskArrayException 258", "OutOfMemoryError" or "".
+  /// Takes the pending exception: "DiskArrayException 258", "NoSuchFieldError percent" or "".
   std::string thrown() {
     const auto pending = jvm_.pending();
     jvm_.clearPending();
-    const std::string name =
-        pending ? pending->className.substr(pending->className.rfind('/') + 1) : "";
-    return name == "DiskArrayException" ? name + ' ' + std::to_string(pending->code) : name;
+    return pending ? pending->shown() : "";
   }
 
   MiniJvm jvm_;

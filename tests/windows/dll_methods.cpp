@@ -13,18 +13,6 @@
 namespace quorvelj::testing {
 namespace {
 
-struct Entry {
-  const char* name;
-  const char* escaped;
-  const char* signature;
-};
-
-constexpr Entry kEntries[] = {
-#define NATIVE_METHOD_ENTRY(name, escaped, signature) {#name, #escaped, signature},
-#include "native_methods.inc"
-#undef NATIVE_METHOD_ENTRY
-};
-
 HMODULE dll() {
   static const HMODULE module = LoadLibraryA("quorvelj.dll");
   if (module == nullptr) {
@@ -36,7 +24,7 @@ HMODULE dll() {
 
 /// One stdcall call by hand: what is pushed, what comes back, and how much the callee popped.
 struct StdcallFrame {
-  FARPROC function;
+  NativeMethod::AnyFunction function;
   const std::uint32_t* words;
   std::uint32_t count;
   std::uint32_t padding;  // bytes left free below the words, to try other stack alignments
@@ -71,14 +59,13 @@ void callStdcall(StdcallFrame& frame) {
 
 DllCalls counted;
 
-jvalue invoke(FARPROC function, const NativeMethod& method, JNIEnv* env,
-              const std::vector<jvalue>& arguments) {
+jvalue callExported(const NativeMethod& method, JNIEnv* env, const std::vector<jvalue>& arguments) {
   std::vector<std::uint32_t> words{reinterpret_cast<std::uint32_t>(env), 0};
   for (const jvalue& argument : arguments) {
     words.push_back(static_cast<std::uint32_t>(argument.i));
   }
   StdcallFrame frame{};
-  frame.function = function;
+  frame.function = method.function;
   frame.words = words.data();
   frame.count = static_cast<std::uint32_t>(words.size());
   frame.padding = 4 * (static_cast<std::uint32_t>(counted.calls) % 4);
@@ -93,30 +80,27 @@ jvalue invoke(FARPROC function, const NativeMethod& method, JNIEnv* env,
   return result;
 }
 
-std::vector<NativeMethod> load() {
-  std::vector<NativeMethod> methods;
-  for (const Entry& entry : kEntries) {
-    NativeMethod method{entry.name, entry.signature, nullptr};
-    const std::string symbol = std::string("_Java_tessaly_str_diskarray_DiskArrayUtilityJNI_") +
-                               entry.escaped + '@' +
-                               std::to_string(8 + 4 * method.argumentTypes().size());
-    const FARPROC function = GetProcAddress(dll(), symbol.c_str());
-    if (function == nullptr) {
-      std::fprintf(stderr, "not exported: %s\n", symbol.c_str());
-      std::abort();
-    }
-    method.invoke = [function, method](JNIEnv* env, const std::vector<jvalue>& arguments) {
-      return invoke(function, method, env, arguments);
-    };
-    methods.push_back(method);
+NativeMethod exported(const char* name, const char* escaped, const char* signature) {
+  NativeMethod method{name, signature, nullptr, &callExported};
+  const std::string symbol = std::string("_Java_tessaly_str_diskarray_DiskArrayUtilityJNI_") +
+                             escaped + '@' + std::to_string(8 + 4 * method.argumentTypes().size());
+  method.function =
+      reinterpret_cast<NativeMethod::AnyFunction>(GetProcAddress(dll(), symbol.c_str()));
+  if (method.function == nullptr) {
+    std::fprintf(stderr, "not exported: %s\n", symbol.c_str());
+    std::abort();
   }
-  return methods;
+  return method;
 }
 
 }  // namespace
 
 std::span<const NativeMethod> nativeMethods() {
-  static const std::vector<NativeMethod> methods = load();
+#define NATIVE_METHOD_ENTRY(name, escaped, signature) exported(#name, #escaped, signature),
+  static const NativeMethod methods[] = {
+#include "native_methods.inc"
+  };
+#undef NATIVE_METHOD_ENTRY
   return methods;
 }
 

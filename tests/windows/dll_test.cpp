@@ -29,10 +29,7 @@ class Dll : public ::testing::TestWithParam<NativeMethod> {
     const auto output = outputFor(GetParam());
     quorvelSimPrepareOutput("*", output.data(), output.size());
     MiniJvm jvm;
-    std::vector<jvalue> arguments;
-    for (const std::string& type : GetParam().argumentTypes()) {
-      arguments.push_back(jvm.newArgument(type));
-    }
+    std::vector<jvalue> arguments = jvm.newArguments(GetParam());
     if (nullArgument >= 0) {
       arguments[static_cast<std::size_t>(nullArgument)].l = nullptr;
     }

@@ -1,0 +1,100 @@
+// Alerts and their mail in a real Java process.
+#include "tests/families/registered_unit.h"
+
+namespace quorvelj::testing {
+namespace {
+
+using AlertCheck = RegisteredUnit;
+
+TEST_F(AlertCheck, Records) {
+  const jobject mail = create("EmailInfo");
+  for (int recipient = 0; recipient < 20; ++recipient) {
+    set(mail, "to[" + std::to_string(recipient) + ']', "");
+  }
+  expectRead("QV_SetEmailInfo", {mail}, mail, 0, 2248,
+             {int32At(0, "on_off"), int32At(244, "tonum"), textAt(4, 40, "domain"),
+              textAt(44, 100, "smtp"), textAt(144, 100, "from"), textAt(248, 100, "to[0]"),
+              textAt(2148, 100, "to[19]")});
+  expectBuilt("QV_GetEmailInfo", {}, 2248,
+              Members{int32At(0, "on_off"), textAt(4, 40, "domain"), textAt(44, 100, "smtp"),
+                      textAt(144, 100, "from"), int32At(244, "tonum")} +
+                  visited("to"));
+  const Members user{textAt(0, 257, "user_id"), textAt(257, 257, "passwd"),
+                     int32At(516, "account_enable")};
+  const jobject checker = create("AlertCheckUser");
+  expectRead("QV_SetAlertCheckUser", {checker}, checker, 0, 520, user);
+  expectBuilt("QV_GetAlertCheckUser", {}, 520, user);
+
+  const Members alertMail{textAt(0, 64, "smtp"),
+                          textAt(64, 256, "domain"),
+                          textAt(320, 64, "from_address"),
+                          textAt(384, 64, "to_address[0]"),
+                          textAt(576, 64, "to_address[3]"),
+                          textAt(640, 64, "reply_address"),
+                          textAt(704, 64, "additional_info"),
+                          int32At(768, "send_type[0]"),
+                          int32At(780, "send_type[3]")};
+  expectFromUnit("QV_GetEmailAlertInformation", 804,
+                 int32sAt(0, "send_mode ctl_flag[0] ctl_flag[1] exec_flag exec_result") +
+                     at(20, "mail.", alertMail));
+  const jobject alert = create(
+      "EmailAlertInfo",
+      {{"to_address[0]", ""}, {"to_address[1]", ""}, {"to_address[2]", ""}, {"to_address[3]", ""}});
+  expectRequest("QV_SetEmailAlertInfo", alert, 784, alertMail);
+  expectRequest("QV_TestEmailAlert", "EmailAlertTest", 4, {int32At(0, "ctl")});
+  expectFromUnit("QV_AlertCheckEx", 12, int32sAt(0, "valid_index alert alert_sa"), {-1});
+}
+
+TEST_F(AlertCheck, Arguments) {
+  expectPassed("QV_AlertCheck", "usi", true);
+  expectPassed("QV_GetAlertInterval", "", true);
+  expectPassed("QV_SetAlertInterval", "i");
+  expectPassed("QV_ClearEmailAlertInfo", "us");
+  expectPassed("QV_ChangeEmailAlertMode", "usi");
+
+  EXPECT_EQ(get(information("QV_AlertCheck", 0), ""), "5");
+  EXPECT_EQ(run("QV_ChangeEmailAlertMode", 2), "");
+  EXPECT_EQ(get(information("QV_GetEmailAlertInformation"), "send_mode"), "2");
+}
+
+TEST_F(AlertCheck, RecipientsAreAsManyAsTheirNumberAndNeverMoreThanTheRecordHas) {
+  // No text in the record ends in a NUL.
+  const auto expectRecipients = [](const std::string& number, const char* bytes,
+                                   const char* shown) {
+    const std::string record =
+        std::string(244, 'm') + std::string(bytes, 4) + std::string(2000, 'm');
+    quorvelSimPrepareOutput("QV_GetEmailInfo", record.data(), record.size());
+    const jobject mail = call("QV_GetEmailInfo", {}).result;
+    expectFields(mail, {{"tonum", number}, {"to", shown}});
+    return mail;
+  };
+  expectRecipients("0", "\0\0\0\0", "String[0]");
+  expectRecipients("2", "\2\0\0\0", "String[2]");
+  EXPECT_EQ(get(expectRecipients("20", "\x14\0\0\0", "String[20]"), "to[19]"),
+            std::string(100, 'm'));
+  expectRecipients("21", "\x15\0\0\0", "String[20]");
+  expectRecipients("2147483647", "\xFF\xFF\xFF\x7F", "String[20]");
+  expectRecipients("-1", "\xFF\xFF\xFF\xFF", "String[0]");
+}
+
+TEST_F(AlertCheck, RecipientsThatAreSet) {
+  const jobject mail = create("EmailInfo", {{"tonum", "5"}});
+  for (const std::string field : {"domain", "smtp", "from", "to[0]", "to[1]", "to[2]"}) {
+    set(mail, field, "the " + field);
+  }
+  EXPECT_EQ(call("QV_SetEmailInfo", {mail}).failure, "");
+  EXPECT_EQ(lastInt("QV_SetEmailInfo", 0, 244), 5);
+  EXPECT_STREQ(lastInput("QV_SetEmailInfo", 0).c_str() + 448, "the to[2]");
+  expectFields(call("QV_GetEmailInfo", {}).result, {{"to", "String[5]"}, {"to[1]", "the to[1]"}});
+
+  // Elements beyond the record's are left where they are.
+  set(mail, "to[24]", "far");
+  for (int recipient = 3; recipient < 24; ++recipient) {
+    set(mail, "to[" + std::to_string(recipient) + ']', "near");
+  }
+  EXPECT_EQ(call("QV_SetEmailInfo", {mail}).failure, "");
+  EXPECT_STREQ(lastInput("QV_SetEmailInfo", 0).c_str() + 2148, "near");
+}
+
+}  // namespace
+}  // namespace quorvelj::testing

@@ -1,0 +1,41 @@
+import java.io.IOException;
+import java.lang.reflect.Array;
+import java.lang.reflect.Field;
+import java.util.Collections;
+import java.util.jar.JarEntry;
+import java.util.jar.JarFile;
+
+/**
+ * Prints the fields of every class of a jar: "tessaly/str/diskarray/QVSessionInfo session_id [B 32",
+ * with the length of the array that the constructor makes, or -1.
+ */
+public final class FieldLister {
+    private FieldLister() {}
+
+    public static void main(String[] arguments) throws ReflectiveOperationException, IOException {
+        try (JarFile jar = new JarFile(arguments[0])) {
+            for (JarEntry entry : Collections.list(jar.entries())) {
+                String name = entry.getName().replace(".class", "");
+                if (entry.getName().endsWith(".class") && !name.matches(".*(JNI|Exception|package-info)")) {
+                    list(name);
+                }
+            }
+        }
+    }
+
+    private static void list(String className) throws ReflectiveOperationException {
+        Object object = Class.forName(className.replace('/', '.')).getConstructor().newInstance();
+        for (Field field : object.getClass().getFields()) {
+            Object value = field.get(object);
+            boolean made = value != null && value.getClass().isArray();
+            System.out.println(className + " " + field.getName() + " " + signature(field.getType())
+                    + " " + (made ? Array.getLength(value) : -1));
+        }
+    }
+
+    private static String signature(Class<?> type) {
+        return type == int.class
+                ? "I"
+                : Array.newInstance(type, 0).getClass().getName().replace('.', '/').substring(1);
+    }
+}

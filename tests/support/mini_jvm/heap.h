@@ -1,0 +1,139 @@
+#pragma once
+
+#include <jni.h>
+
+#include <deque>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <variant>
+#include <vector>
+
+// The objects and classes of the mini JVM, and the local references to them.
+namespace quorvelj::testing::mini {
+
+struct Class;
+struct Object;
+
+/// A field or a method.
+struct Member {
+  std::string name;
+  std::string signature;
+  /// The place of a field's value in the slots of an object.
+  std::size_t index;
+  /// The length of the array that the constructor makes, or -1.
+  int madeLength;
+
+  [[nodiscard]] bool holdsObject() const { return signature[0] == 'L' || signature[0] == '['; }
+};
+
+struct Class {
+  std::string name;  // slash form
+  std::map<std::string, std::unique_ptr<Member>> members;
+  std::unordered_map<const void*, Member*> recentMembers;
+  /// The fields whose arrays the constructor makes.
+  std::vector<Member*> made;
+  /// Has the fields that it was declared with and no others.
+  bool declared = false;
+  Object* mirror = nullptr;
+};
+
+/// The value of a field.
+struct Slot {
+  bool set = false;
+  jint number = 0;
+  Object* object = nullptr;
+};
+
+struct Object {
+  Class* type = nullptr;
+  /// The class whose java.lang.Class object this is, or null.
+  Class* mirrored = nullptr;
+  /// Fields that were never set hold what the input profile says.
+  bool input = false;
+  std::vector<Slot> slots;
+  std::variant<std::monostate, std::string, std::vector<jint>, std::vector<jbyte>,
+               std::vector<jshort>, std::vector<Object*>>
+      payload;
+
+  /// What a string or an array holds; null in an object of another kind.
+  template <class Payload>
+  Payload* get() {
+    return std::get_if<Payload>(&payload);
+  }
+  std::string* text() { return get<std::string>(); }
+  std::vector<Object*>* elements() { return get<std::vector<Object*>>(); }
+  [[nodiscard]] std::size_t length() const;
+
+  Slot& slot(const Member& field) {
+    if (slots.size() <= field.index) {
+      slots.resize(type->members.size());
+    }
+    return slots[field.index];
+  }
+  /// The field of this name that was set, or null.
+  Slot* findSet(std::string_view name);
+};
+
+class Heap {
+ public:
+  /// The class of a name in slash form; made at the first request.
+  Class* findClass(const char* name);
+  /// The member of a class; made at the first request, but for the fields of a declared class:
+  /// null where it has none.
+  Member* findMember(Class* type, const char* name, const char* signature);
+  /// Adds a field to a declared class.
+  void declareField(const std::string& className, const std::string& name,
+                    const std::string& signature, int madeLength);
+  /// Makes a class or every member of a name impossible to find.
+  void remove(const std::string& name) { removed_.push_back(name); }
+  [[nodiscard]] bool isRemoved(std::string_view name) const;
+
+  Object* make(Class* type);
+  template <class Payload>
+  Object* make(const char* className, Payload payload) {
+    Object* const object = make(findClass(className));
+    object->payload = std::move(payload);
+    return object;
+  }
+  /// The int that java/lang/Integer and DiskArrayException are made with.
+  Slot& codeOf(Object* object) { return object->slot(*findMember(object->type, "code", "I")); }
+
+  /// A new local reference; null for null.
+  jobject refer(Object* object);
+  /// The object of a live reference. Any other reference is a misuse, and null.
+  Object* resolve(jobject reference) {
+    const auto* const known = reinterpret_cast<Reference*>(reference);
+    if (known == nullptr || !known->live) {
+      ++misuses_;
+      return nullptr;
+    }
+    return known->object;
+  }
+  void deleteReference(jobject reference);
+
+  void countMisuse() { ++misuses_; }
+  [[nodiscard]] int misuses() const { return misuses_; }
+  [[nodiscard]] int liveReferences() const { return liveReferences_; }
+  [[nodiscard]] int mostReferences() const { return mostReferences_; }
+
+ private:
+  struct Reference {
+    Object* object;
+    bool live;
+  };
+
+  std::map<std::string, std::unique_ptr<Class>> classes_;
+  std::unordered_map<const void*, Class*> recentClasses_;
+  std::vector<std::string> removed_;
+  std::deque<Object> objects_;
+  std::deque<Reference> references_;
+  std::deque<Reference*> deleted_;
+  int liveReferences_ = 0;
+  int mostReferences_ = 0;
+  int misuses_ = 0;
+};
+
+}  // namespace quorvelj::testing::mini

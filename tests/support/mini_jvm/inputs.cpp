@@ -1,0 +1,45 @@
+#include "tests/support/mini_jvm/inputs.h"
+
+#include <algorithm>
+
+namespace quorvelj::testing::mini {
+namespace {
+
+/// A table has fewer rows than a list has elements: its cells are the product of both. No
+/// fixed-length copy takes more rows than these.
+constexpr std::size_t kMostRows = 100;
+
+std::size_t lengthOf(const InputProfile& profile, const std::string& signature) {
+  const bool isTable = signature[1] == '[';
+  const bool holdsObjects = signature.back() == ';';
+  return isTable ? std::min(holdsObjects ? profile.objects : profile.primitives, kMostRows)
+                 : profile.objects;
+}
+
+}  // namespace
+
+Object* makeInput(Heap& heap, const InputProfile& profile, const std::string& signature) {
+  if (signature == "Ljava/lang/String;") {
+    return heap.make("java/lang/String", profile.text);
+  }
+  if (signature == "[I") {
+    return heap.make("[I", std::vector<jint>(profile.primitives, 0x01020381));
+  }
+  if (signature == "[B") {
+    return heap.make("[B", std::vector<jbyte>(profile.primitives, jbyte{0x42}));
+  }
+  if (signature == "[S") {
+    return heap.make("[S", std::vector<jshort>(profile.primitives, jshort{1234}));
+  }
+  if (signature[0] == '[') {
+    std::vector<Object*> elements(lengthOf(profile, signature));
+    std::generate(elements.begin(), elements.end(),
+                  [&] { return makeInput(heap, profile, signature.substr(1)); });
+    return heap.make(signature.c_str(), std::move(elements));
+  }
+  Object* const object = heap.make(heap.findClass("Input"));
+  object->input = true;
+  return object;
+}
+
+}  // namespace quorvelj::testing::mini

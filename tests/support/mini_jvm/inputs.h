@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+
+#include "tests/support/mini_jvm.h"
+#include "tests/support/mini_jvm/heap.h"
+
+// What native code is given: texts, arrays and objects after an input profile.
+namespace quorvelj::testing::mini {
+
+/// A new value of a field or an argument of this JNI type, which is an object or an array.
+Object* makeInput(Heap& heap, const InputProfile& profile, const std::string& signature);
+
+/// The value of an int field that a test did not set: another one for each field.
+inline jint inputNumber(const Member& field) { return static_cast<jint>(0x01020304 + field.index); }
+
+}  // namespace quorvelj::testing::mini

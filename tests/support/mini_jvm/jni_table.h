@@ -1,0 +1,47 @@
+#pragma once
+
+#include <jni.h>
+
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "tests/support/mini_jvm.h"
+#include "tests/support/mini_jvm/heap.h"
+
+// The JNI functions that the bridge may use, over a heap.
+namespace quorvelj::testing::mini {
+
+/// What native code sees of the mini JVM, and what it did there.
+struct JniTable {
+  /// Inputs follow `profile`, which must outlive the table.
+  explicit JniTable(const InputProfile& profile);
+  JniTable(const JniTable&) = delete;
+  JniTable& operator=(const JniTable&) = delete;
+
+  /// Enters a JNI call: counts and traces it. True where the call must fail.
+  template <class... Detail>
+  bool enter(bool fallible, const char* call, const Detail&... detail);
+  void throwNew(const std::string& className, const std::string& message = "");
+
+  struct Env {
+    JNIEnv env;
+    JniTable* table;
+  };
+
+  const InputProfile& profile;
+  Env env{};
+  std::unique_ptr<JNINativeInterface_> functions;
+  Heap heap;
+  Object* pending = nullptr;
+  /// Characters that native code holds.
+  std::map<const char*, std::vector<char>> characters;
+  /// Characters and elements that native code holds.
+  int unreleased = 0;
+  int failingCall = 0;
+  int fallibleCalls = 0;
+  int calls = 0;
+};
+
+}  // namespace quorvelj::testing::mini
