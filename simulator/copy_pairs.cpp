@@ -1,6 +1,6 @@
 // Copy pairs inside an array and their consistency groups. Remote pairs are only kept.
+#include <initializer_list>
 #include <map>
-#include <set>
 #include <vector>
 
 #include "arraylib/replication.h"
@@ -81,20 +81,18 @@ int add(CopyPairs& all, const PairTarget& target, Pair pair) {
   pair.name = textOf(target.pair_info.pair_name);
   pair.primary = target.pair_info.pvol_lun;
   pair.secondary = target.pair_info.pair_lun;
-  std::set<std::int32_t> mirrors;
+  bool taken[kMirrors]{};
   for (const Pair& other : all.pairs) {
     if (other.secondary == pair.secondary || (!pair.name.empty() && other.name == pair.name)) {
       return kPairExists;
     }
     if (other.primary == pair.primary) {
-      mirrors.insert(other.mirrorNo);
+      taken[other.mirrorNo] = true;
     }
   }
-  if (all.pairs.size() == kPairs || mirrors.size() == kMirrors) {
+  pair.mirrorNo = static_cast<std::int32_t>(std::find(taken, taken + kMirrors, false) - taken);
+  if (all.pairs.size() == kPairs || pair.mirrorNo == kMirrors) {
     return kTooManyPairs;
-  }
-  while (mirrors.contains(pair.mirrorNo)) {
-    ++pair.mirrorNo;
   }
   const int result = joinGroup(all, pair, target);
   if (result == 0) {
@@ -105,14 +103,14 @@ int add(CopyPairs& all, const PairTarget& target, Pair pair) {
 }
 
 /// The pairs that an operation names. All of them must be in one of the states `from`.
-int choose(CopyPairs& all, Kind kind, const PairTarget& target, std::set<Status> from,
+int choose(CopyPairs& all, Kind kind, const PairTarget& target, std::initializer_list<Status> from,
            std::vector<Pair*>& chosen) {
   for (Pair& pair : all.pairs) {
     const bool isTarget = target.set_division == kByGroup
                               ? pair.group != kNone && pair.group == target.ctg_info.ctg_no
                               : isNamed(pair, target.pair_info);
     if (pair.kind == kind && isTarget) {
-      if (!from.contains(pair.status)) {
+      if (std::find(from.begin(), from.end(), pair.status) == from.end()) {
         return kWrongPairState;
       }
       chosen.push_back(&pair);

@@ -3,7 +3,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <map>
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -22,6 +21,21 @@ inline constexpr char kFirstPassword[] = "quorvel";
 template <class Part>
 inline constexpr char kKeyOf = 0;
 
+/// An object of any type.
+struct Held {
+  Held() = default;
+  Held(const Held&) = delete;
+  Held& operator=(const Held&) = delete;
+  ~Held() {
+    if (destroy != nullptr) {
+      destroy(object);
+    }
+  }
+
+  void* object = nullptr;
+  void (*destroy)(void*) = nullptr;
+};
+
 struct Unit {
   QVUnitParam param{};
   std::map<std::string, Account> accounts;
@@ -32,16 +46,17 @@ struct Unit {
   /// What Set functions were given, by the name behind `QV_Set` and the ints of the call.
   std::map<std::string, std::vector<std::byte>> kept;
   /// What the sources keep in types of their own.
-  std::map<const void*, std::shared_ptr<void>> parts;
+  std::map<const void*, Held> parts;
 
   /// The unit's `Part`, which is made on first use.
   template <class Part>
   Part& part() {
-    std::shared_ptr<void>& held = parts[&kKeyOf<Part>];
-    if (!held) {
-      held = std::make_shared<Part>();
+    Held& held = parts[&kKeyOf<Part>];
+    if (held.object == nullptr) {
+      held.object = new Part();
+      held.destroy = [](void* object) { delete static_cast<Part*>(object); };
     }
-    return *static_cast<Part*>(held.get());
+    return *static_cast<Part*>(held.object);
   }
 };
 

@@ -234,6 +234,7 @@ TEST_F(OneArray, BundlesTellWhatThePagesTell) {
   const jobject base = slice("Base");
   const jobject groups = information("QV_GetRaidGroupInformation");
   const jobject list = information("QV_GetLogicalUnit");
+  const jobject replication = slice("Replication");
   const jobject alert = information("QV_AlertCheck", 0);
   const std::string group = "ctl[1].port[3].hg[9].hgname";
   const std::string mapped = "ctl[1].port[3].hg[9].lu[2047]";
@@ -266,9 +267,8 @@ TEST_F(OneArray, BundlesTellWhatThePagesTell) {
        {slice("iSCSI"), "iscsi_target.ctl[1].port[1].target_count", all,
         "iscsi_target.ctl[1].port[1].target_count"},
        {slice("Mapping"), "lumap." + mapped, all, "lumap." + mapped},
-       {slice("Replication"), "pair_info.pair_count", all, "lu_coup.coupling_num"},
-       {slice("Replication"), "pool_info.sys.pool_enable_count", all,
-        "pool_info.sys.pool_enable_count"},
+       {replication, "pair_info.pair_count", all, "lu_coup.coupling_num"},
+       {replication, "pool_info.sys.pool_enable_count", all, "pool_info.sys.pool_enable_count"},
        {slice("Tuning"), "luowner.count", condition(), "lu_count"}});
 }
 
