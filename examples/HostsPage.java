@@ -13,12 +13,14 @@ import tessaly.str.diskarray.MappingGuardList;
 final class HostsPage {
     private static final int LUS = 8192;
     private static final int GUARDED_LU = 12;
+    /** A Fibre Channel port of the simulator. */
+    private static final int PORT = 2;
 
     private HostsPage() {}
 
     static void show(Visit visit) {
         int[] group = new int[1];
-        Visit.step("A host group on the first port", () -> group[0] = create(visit));
+        Visit.step("A host group on a port", () -> group[0] = create(visit));
         if (group[0] == 0) {
             return;
         }
@@ -30,25 +32,25 @@ final class HostsPage {
 
     /** Takes the first number that is free and maps three LUs to it. */
     private static int create(Visit visit) throws DiskArrayException {
-        HGInfo[] groups = Visit.ARRAY.QV_GetHGList(visit.unit, visit.session).ctl[0].port[0].hg;
+        HGInfo[] groups = Visit.ARRAY.QV_GetHGList(visit.unit, visit.session).ctl[0].port[PORT].hg;
         int number = 1;
         while (groups[number].valid != 0) {
             number++;
         }
         HGInfo group = new HGInfo();
         group.hgname = "tour-hosts";
-        Visit.ARRAY.QV_CreateHG(visit.unit, visit.session, 0, 0, number, group);
+        Visit.ARRAY.QV_CreateHG(visit.unit, visit.session, 0, PORT, number, group);
         map(visit, number, 10, 11, 4095);
         System.out.println("  group " + number + " has three LUs\n");
         return number;
     }
 
-    /** Maps LUs under the numbers 0, 1, ... to a group of the first port. */
+    /** Maps LUs under the numbers 0, 1, ... to a group of the port. */
     private static void map(Visit visit, int group, int... lus) throws DiskArrayException {
-        Object[] known = Visit.ARRAY.QV_GetLuMappingList(visit.unit, visit.session, 0, 0, group);
+        Object[] known = Visit.ARRAY.QV_GetLuMappingList(visit.unit, visit.session, 0, PORT, group);
         LuMappingHGInfo mapping = (LuMappingHGInfo) known[1];
         System.arraycopy(lus, 0, mapping.lu, 0, lus.length);
-        Visit.ARRAY.QV_SetLuMappingList(visit.unit, visit.session, 0, 0, group, mapping);
+        Visit.ARRAY.QV_SetLuMappingList(visit.unit, visit.session, 0, PORT, group, mapping);
     }
 
     private static void list(Visit visit) throws DiskArrayException {
@@ -118,9 +120,9 @@ final class HostsPage {
         DeleteHGPortList list = new DeleteHGPortList();
         list.hg = new byte[64];
         list.hg[group / 8] = (byte) (1 << group % 8);
-        Visit.ARRAY.QV_DeleteHGPortList(visit.unit, visit.session, 0, 0, list);
+        Visit.ARRAY.QV_DeleteHGPortList(visit.unit, visit.session, 0, PORT, list);
         HGInfo deleted =
-                Visit.ARRAY.QV_GetHGList(visit.unit, visit.session).ctl[0].port[0].hg[group];
+                Visit.ARRAY.QV_GetHGList(visit.unit, visit.session).ctl[0].port[PORT].hg[group];
         System.out.println("  group " + group + " is " + (deleted.valid == 0 ? "free" : "in use") + "\n");
     }
 }

@@ -54,13 +54,15 @@ final class PerformancePage {
                 load.writes = between(then.write_count, now.write_count);
                 load.time = time(after[controller].lu_ex[lun].read_hit)
                         - time(before[controller].lu_ex[lun].read_hit);
-                loads.add(load);
+                if (load.reads != 0 || load.writes != 0) {
+                    loads.add(load);
+                }
             }
         }
         loads.sort((one, other) ->
                 Long.compare(other.reads + other.writes, one.reads + one.writes));
         Table table = new Table("Controller", "LU", "Reads", "Writes", "Time of read hits");
-        for (Load load : loads.subList(0, BUSIEST)) {
+        for (Load load : loads.subList(0, Math.min(BUSIEST, loads.size()))) {
             table.row(load.controller, load.lun, load.reads, load.writes, load.time);
         }
         table.print();

@@ -36,12 +36,8 @@ final class StatusPage {
                 .row("login result", condition.login_result)
                 .row("logical units", condition.lu_count)
                 .row("drives", condition.drive_count)
-                .row("capacity", joined(condition.all_drive_capa_h, condition.all_drive_capa_l))
+                .row("capacity", Capacity.of(condition.all_drive_capa_h, condition.all_drive_capa_l))
                 .print();
-    }
-
-    private static long joined(int high, int low) {
-        return ((long) high << 32) + (low & 0xFFFFFFFFL);
     }
 
     private static void condition(Visit visit) throws DiskArrayException {

@@ -1,23 +1,23 @@
 // Accounts and the sessions that they open.
 #include "arraylib/accounts.h"
 
-#include <algorithm>
 #include <cstring>
-#include <iterator>
 
-#include "simulator/simulator.h"
+#include "simulator/simulate.h"
 
 using namespace quorvelsim;
 
 namespace {
 
-constexpr const char* kRoles[] = {"", "Account Administrator", "Storage Administrator", "Viewer"};
-/// The user of the sessions that the alert check opens, which no account has.
+constexpr const char* kRoleNames[] = {"", "Account Administrator", "Storage Administrator",
+                                      "Viewer"};
+static_assert(std::size(kRoleNames) == kRoles + 1);
+/// The user of the sessions that the alert check opens. No account has this name.
 constexpr char kAlertCheckUser[] = "";
 
 /// The account of a session's user, or null.
 Account* ownAccount(const UnitName* unit, const QVSessionInfo* session) {
-  Unit& known = *findUnit(textOf(*unit));
+  Unit& known = unitOf(unit);
   const auto found = known.accounts.find(known.sessions[identifierOf(*session)]);
   return found == known.accounts.end() ? nullptr : &found->second;
 }
@@ -26,15 +26,11 @@ void open(const UnitName* unit, const std::string& user, QVSessionInfo* session)
   const std::int32_t number = ++state().sessionsOpened;
   std::memset(session, 0x5A, sizeof *session);
   std::memcpy(session->session_id, &number, sizeof number);
-  findUnit(textOf(*unit))->sessions[identifierOf(*session)] = user;
-}
-
-void closeAllOf(Unit& unit, const std::string& user) {
-  std::erase_if(unit.sessions, [&](const auto& session) { return session.second == user; });
+  unitOf(unit).sessions[identifierOf(*session)] = user;
 }
 
 int login(const UnitName* unit, const LoginRequest* request, QVSessionInfo* session) {
-  const auto& accounts = findUnit(textOf(*unit))->accounts;
+  const auto& accounts = unitOf(unit).accounts;
   const auto found = accounts.find(textOf(request->user_id));
   if (found == accounts.end() || found->second.account_enable == 0 ||
       textOf(found->second.passwd) != textOf(request->passwd)) {
@@ -50,41 +46,41 @@ int loginForAlertCheck(const UnitName* unit, std::int32_t, QVSessionInfo* sessio
 }
 
 int logout(const UnitName* unit, const QVSessionInfo* session, const LogoutOption*) {
-  findUnit(textOf(*unit))->sessions.erase(identifierOf(*session));
+  unitOf(unit).sessions.erase(identifierOf(*session));
   return 0;
 }
 
 int forceLogout(const UnitName* unit, const QVSessionInfo*, const AccountIdentifier* account) {
-  Unit& known = *findUnit(textOf(*unit));
+  Unit& known = unitOf(unit);
   const std::string user = textOf(account->user_id);
   if (!known.accounts.contains(user)) {
     return kUnknownAccount;
   }
-  closeAllOf(known, user);
+  std::erase_if(known.sessions, [&](const auto& session) { return session.second == user; });
   return 0;
 }
 
 int deleteAccount(const UnitName* unit, const QVSessionInfo* session,
                   const AccountIdentifier* account) {
   const int result = forceLogout(unit, session, account);
-  findUnit(textOf(*unit))->accounts.erase(textOf(account->user_id));
+  unitOf(unit).accounts.erase(textOf(account->user_id));
   return result;
 }
 
 int createAccount(const UnitName* unit, const QVSessionInfo*, const Account* account) {
-  auto& accounts = findUnit(textOf(*unit))->accounts;
+  auto& accounts = unitOf(unit).accounts;
   const std::string user = textOf(account->user_id);
   if (user.empty()) {
     return kInvalidName;
   }
-  if (accounts.size() == std::size(QVAccountInfoList{}.account_info)) {
+  if (accounts.size() == kAccounts) {
     return kTooManyAccounts;
   }
   return accounts.emplace(user, *account).second ? 0 : kAccountExists;
 }
 
 int changeAccount(const UnitName* unit, const QVSessionInfo*, const Account* account) {
-  auto& accounts = findUnit(textOf(*unit))->accounts;
+  auto& accounts = unitOf(unit).accounts;
   const auto found = accounts.find(textOf(account->user_id));
   if (found == accounts.end()) {
     return kUnknownAccount;
@@ -110,18 +106,18 @@ int changeOwnPassword(const UnitName* unit, const QVSessionInfo* session,
 }
 
 int getRoles(const UnitName*, const QVSessionInfo*, QVAccountRoleInformation* roles) {
-  *roles = {};
-  for (std::size_t index = 1; index < std::size(kRoles); ++index) {
+  clear(roles);
+  for (std::size_t index = 1; index < std::size(kRoleNames); ++index) {
     roles->role_valid_index |= 1 << index;
-    setText(roles->role_info[index].role_name, kRoles[index]);
+    setText(roles->role_info[index].role_name, kRoleNames[index]);
   }
   return 0;
 }
 
 int getAccounts(const UnitName* unit, const QVSessionInfo*, QVAccountInfoList* list) {
-  *list = {};
+  clear(list);
   auto* next = std::begin(list->account_info);
-  for (const auto& [user, account] : findUnit(textOf(*unit))->accounts) {
+  for (const auto& [user, account] : unitOf(unit).accounts) {
     setText(next->user_id, user);
     next->account_type = account.account_type;
     next->role = account.role;
@@ -145,13 +141,9 @@ int getOwnPermission(const UnitName* unit, const QVSessionInfo* session,
   return 0;
 }
 
-// One banner, which is read with a session and without.
-constexpr char kBanner[] = "banner";
-
+/// The banner, with a session and without.
 int getBanner(const UnitName* unit, AccountBanner* banner) {
-  const Bytes& kept = findUnit(textOf(*unit))->kept[kBanner];
-  *banner = {};
-  std::copy_n(kept.data(), kept.size(), reinterpret_cast<std::byte*>(banner));
+  *banner = partOf<AccountBanner>(unit);
   return 0;
 }
 
@@ -160,8 +152,7 @@ int getBannerInSession(const UnitName* unit, const QVSessionInfo*, AccountBanner
 }
 
 int setBanner(const UnitName* unit, const QVSessionInfo*, const AccountBanner* banner) {
-  const auto* const first = reinterpret_cast<const std::byte*>(banner);
-  findUnit(textOf(*unit))->kept[kBanner].assign(first, first + sizeof *banner);
+  partOf<AccountBanner>(unit) = *banner;
   return 0;
 }
 

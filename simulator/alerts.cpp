@@ -4,13 +4,13 @@
 #include <fstream>
 #include <iterator>
 
-#include "simulator/simulator.h"
+#include "simulator/simulate.h"
 
 using namespace quorvelsim;
 
 namespace {
 
-/// The result of a test mail that had no mail server.
+/// The result of a test mail without a mail server.
 constexpr std::int32_t kNoMailServer = 1;
 
 /// How often this host checks, in seconds.
@@ -18,16 +18,10 @@ struct AlertInterval {
   std::int32_t seconds = 60;
 };
 
-AlertInterval& interval() { return state().units[std::string()].part<AlertInterval>(); }
-
-EmailAlertInformation& emailAlertOf(const UnitName* unit) {
-  return findUnit(textOf(*unit))->part<EmailAlertInformation>();
-}
-
-// A unit has the alert that it was registered with.
+// A unit has the alert with which it was registered.
 
 int checkAlert(const UnitName* unit, const QVSessionInfo*, std::int32_t, std::int32_t* alert) {
-  *alert = std::int32_t{findUnit(textOf(*unit))->param.alert};
+  *alert = unitOf(unit).param.alert;
   return 0;
 }
 
@@ -38,48 +32,42 @@ int checkAlertEx(const UnitName* unit, const QVSessionInfo* session, std::int32_
 }
 
 int getInterval(std::int32_t* seconds) {
-  *seconds = interval().seconds;
+  *seconds = state().host.part<AlertInterval>().seconds;
   return 0;
 }
 
 int setInterval(std::int32_t seconds) {
-  interval().seconds = seconds;
+  state().host.part<AlertInterval>().seconds = seconds;
   return 0;
 }
 
 int getEmailAlert(const UnitName* unit, const QVSessionInfo*, EmailAlertInformation* information) {
-  *information = emailAlertOf(unit);
+  *information = partOf<EmailAlertInformation>(unit);
   return 0;
 }
 
 int setEmailAlert(const UnitName* unit, const QVSessionInfo*, const EmailAlertInfo* info) {
-  emailAlertOf(unit).mail = *info;
-  return 0;
-}
-
-int clearEmailAlert(const UnitName* unit, const QVSessionInfo*) {
-  emailAlertOf(unit) = {};
+  partOf<EmailAlertInformation>(unit).mail = *info;
   return 0;
 }
 
 int changeEmailAlertMode(const UnitName* unit, const QVSessionInfo*, std::int32_t mode) {
-  emailAlertOf(unit).send_mode = mode;
+  partOf<EmailAlertInformation>(unit).send_mode = mode;
   return 0;
 }
 
 int testEmailAlert(const UnitName* unit, const QVSessionInfo*, const EmailAlertTest* test) {
-  EmailAlertInformation& alert = emailAlertOf(unit);
-  const std::int32_t controller = test->ctl;
-  if (controller < 0 || static_cast<std::size_t>(controller) >= std::size(alert.ctl_flag)) {
+  EmailAlertInformation& alert = partOf<EmailAlertInformation>(unit);
+  if (!isController(test->ctl)) {
     return kNothingFound;
   }
-  alert.ctl_flag[controller] = 1;
+  alert.ctl_flag[test->ctl] = 1;
   alert.exec_flag = 1;
   alert.exec_result = textOf(alert.mail.smtp).empty() ? kNoMailServer : 0;
   return 0;
 }
 
-// A configuration in files is its text in the first and its name in the second.
+// In files, the first holds the text of a configuration and the second its name.
 
 int loadFiles(const FilePath* textPath, const FilePath* namePath, SnmpConfigInformation& config) {
   std::ifstream text(textOf(*textPath), std::ios::binary);
@@ -104,10 +92,6 @@ int saveFiles(const FilePath* textPath, const FilePath* namePath,
   return text.flush() && name.flush() ? 0 : kFileFailed;
 }
 
-SnmpConfigInformation& snmpOf(const UnitName* unit) {
-  return findUnit(textOf(*unit))->part<SnmpConfigInformation>();
-}
-
 int loadSnmp(const FilePath* pathA, const FilePath* pathB, SnmpConfigInformation* config) {
   return loadFiles(pathA, pathB, *config);
 }
@@ -117,18 +101,18 @@ int saveSnmp(const FilePath* pathA, const FilePath* pathB, const SnmpConfigInfor
 }
 
 int setSnmp(const UnitName* unit, const QVSessionInfo*, const SnmpConfigInformation* config) {
-  snmpOf(unit) = *config;
+  partOf<SnmpConfigInformation>(unit) = *config;
   return 0;
 }
 
 int setSnmpFromFiles(const UnitName* unit, const QVSessionInfo*, const FilePath* first,
                      const FilePath* second) {
-  return loadFiles(first, second, snmpOf(unit));
+  return loadFiles(first, second, partOf<SnmpConfigInformation>(unit));
 }
 
 int outputSnmp(const UnitName* unit, const QVSessionInfo*, const FilePath* first,
                const FilePath* second) {
-  return saveFiles(first, second, snmpOf(unit));
+  return saveFiles(first, second, partOf<SnmpConfigInformation>(unit));
 }
 
 }  // namespace
@@ -143,7 +127,7 @@ SIMULATE(1, QV_GetAlertCheckUser)
 SIMULATE(1, QV_SetAlertCheckUser)
 SIMULATE(3, QV_GetEmailAlertInformation, getEmailAlert)
 SIMULATE(3, QV_SetEmailAlertInfo, setEmailAlert)
-SIMULATE(2, QV_ClearEmailAlertInfo, clearEmailAlert)
+SIMULATE(2, QV_ClearEmailAlertInfo)
 SIMULATE(3, QV_ChangeEmailAlertMode, changeEmailAlertMode)
 SIMULATE(3, QV_TestEmailAlert, testEmailAlert)
 SIMULATE(3, QV_LoadSnmpConfig, loadSnmp)

@@ -1,38 +1,45 @@
-// The whole array in one record, and slices of it: put together from what the other functions tell.
+// The whole array in one record, and slices of it. Each member is what the function answers that
+// returns it alone.
 #include "arraylib/all_information.h"
 
-#include <algorithm>
-#include <cstring>
-#include <iterator>
 #include <memory>
-#include <tuple>
-#include <type_traits>
 
-#include "simulator/simulator.h"
+#include "arraylib/alerts.h"
+#include "simulator/simulate.h"
 
 using namespace quorvelsim;
 
 namespace {
 
-/// Whose session asks.
-struct Asker {
-  const UnitName* unit;
-  const QVSessionInfo* session;
+/// The function that returns a record by unit and session.
+template <class Record>
+struct Answer {
+  int (*ask)(const UnitName*, const QVSessionInfo*, Record*);
 };
 
-/// The functions that return a record by unit and session, of which a bundle has a member.
-constexpr auto kGetters = std::make_tuple(
+/// Such functions, found by the type of the record.
+template <class... Record>
+struct Answers : Answer<Record>... {};
+
+template <class... Record>
+constexpr Answers<Record...> answers(int (*... ask)(const UnitName*, const QVSessionInfo*,
+                                                    Record*)) {
+  return {Answer<Record>{ask}...};
+}
+
+constexpr auto kAnswers = answers(
     QV_GetUnitInformation, QV_GetDiskDriveStatusAll, QV_GetDiskDriveInformationAll,
-    QV_GetDiskDriveRestoration, QV_GetDriveResponseDiag, QV_GetSpinDownUpInformation,
-    QV_GetBatteryConfig, QV_GetLocateLEDInformation, QV_GetUnitCTLPortKind, QV_GetUnitIdentifier,
-    QV_GetTimeInfo, QV_GetRaidGroupInformation, QV_GetQuickFormatOption,
+    QV_GetDriveStatus, QV_GetDriveInformationAll, QV_GetDiskDriveRestoration,
+    QV_GetDriveResponseDiag, QV_GetSpinDownUpInformation, QV_GetBatteryConfig,
+    QV_GetLocateLEDInformation, QV_GetUnitCTLPortKind, QV_GetUnitIdentifier, QV_GetTimeInfo,
+    QV_GetRaidGroupInformation, QV_GetLogicalUnit, QV_GetQuickFormatOption,
     QV_GetQuickFormatStatusList, QV_GetParityCorrectionStatusList, QV_GetLuOwnership,
     QV_IntegrationLUInfo2, QV_GetDMLU, QV_GetPoolInformation, QV_GetVVOLInformation,
     QV_GetLuGuardInformation, QV_GetHGList, QV_GetHGOptionAll, QV_GetPortOption,
     QV_GetLuMappingListAll, QV_GetMappingGuardList, QV_GetWWNHGInformation, QV_GetHGParameterList,
     QV_GetHGParameterList2, QV_GetLANPortNumber, QV_GetQVUserLANInformation, QV_GetMainteLanInfo,
-    QV_GetMainteLanAvailableList, QV_GetNNCLANInformation, QV_GetiSCSIPortInformation,
-    QV_GetiSCSITargetInformationAll, QV_GetiSCSIInitiatorInformationAll,
+    QV_GetMainteLanAvailableList, QV_GetNNCLANInformation, QV_GetFibreInformation,
+    QV_GetiSCSIPortInformation, QV_GetiSCSITargetInformationAll, QV_GetiSCSIInitiatorInformationAll,
     QV_GetiSCSILoginInitiatorInformationAll, QV_GetiSCSICHAPUserInformationAll,
     QV_GetiSNSInformation, QV_GetiSCSIRemotePath, QV_GetPairInformation,
     QV_GetFarlinkPairInformation, QV_GetFarlinkAsyncPairInformation, QV_GetFarlinkAsyncOption,
@@ -40,73 +47,115 @@ constexpr auto kGetters = std::make_tuple(
     QV_GetLuMigrationInformation, QV_GetQVAuditLogInformation, QV_GetQVAccountRoleInformation,
     QV_GetAccountInformation, QV_GetAccountOption);
 
-template <class Getter, class Record>
-void ask(const Asker& asker, Getter get, Record& member) {
-  if constexpr (std::is_invocable_v<Getter, const UnitName*, const QVSessionInfo*, Record*>) {
-    get(asker.unit, asker.session, &member);
+/// Fills members of one bundle. What no function returns stays zero.
+class Filler {
+ public:
+  template <class Bundle>
+  Filler(const UnitName* unit, const QVSessionInfo* session, Bundle* bundle)
+      : unit_(unit), session_(session) {
+    clear(bundle);
   }
-}
 
-/// Fills members from the functions that return their records; what no function returns stays zero.
-template <class... Record>
-void fill(const Asker& asker, Record&... members) {
-  const auto one = [&asker](auto& member) {
-    std::apply([&](auto... get) { (ask(asker, get, member), ...); }, kGetters);
-  };
-  (one(members), ...);
-}
-
-/// Members that are returned a controller at a time, or in another shape.
-template <class Bundle>
-void fillConditions(const Asker& asker, Bundle& bundle) {
-  for (std::int32_t controller = 0; controller < 2; ++controller) {
-    QV_GetUnitCondition(asker.unit, asker.session, controller, &bundle.unit_conditions[controller]);
-    bundle.ctrl_condition[controller] = 1;
+  template <class... Record>
+  void fill(Record&... members) const {
+    (static_cast<const Answer<Record>&>(kAnswers).ask(unit_, session_, &members), ...);
   }
-}
+  void fillConditions(UnitCondition (&conditions)[kControllers],
+                      std::int32_t (&states)[kControllers],
+                      std::int32_t (&alerts)[kControllers]) const {
+    for (std::int32_t controller = 0; controller < kControllers; ++controller) {
+      QV_GetUnitCondition(unit_, session_, controller, &conditions[controller]);
+      QV_AlertCheck(unit_, session_, 0, &alerts[controller]);
+      states[controller] = 1;
+    }
+  }
+  void fillParameters(HGParameterID (&identifiers)[kControllers]) const {
+    for (std::int32_t controller = 0; controller < kControllers; ++controller) {
+      QV_GetHGParameterID(unit_, session_, controller, &identifiers[controller]);
+    }
+  }
+  void fillUsers(QVUserRegist& users) const {
+    LongUnitName name{};
+    setText(name, textOf(*unit_));
+    QV_GetUserInformation(&name, 0, &users);
+  }
+
+ private:
+  const UnitName* unit_;
+  const QVSessionInfo* session_;
+};
 
 int getAll(const UnitName* unit, const QVSessionInfo* session, ArrayAllInformation* all) {
-  const Asker asker{unit, session};
-  std::memset(static_cast<void*>(all), 0, sizeof *all);
-  fillConditions(asker, *all);
-  QV_GetDriveStatus(unit, session, &all->drive_status);
-  QV_GetDriveInformationAll(unit, session, &all->drive_info);
+  const Filler filler(unit, session, all);
+  filler.fillConditions(all->unit_conditions, all->ctrl_condition, all->alert);
+  filler.fillUsers(all->user_reg_info);
   QV_GetRaidGroups(unit, &all->raid);
-  const auto units = std::make_unique<LogicalUnit[]>(8192);
-  QV_GetLogicalUnit(unit, session, reinterpret_cast<LogicalUnit(*)[8192]>(units.get()));
-  std::copy_n(units.get(), std::size(all->lu), all->lu);
+  const auto lus = std::make_unique<LogicalUnit[]>(kLogicalUnits);
+  QV_GetLogicalUnit(unit, session, reinterpret_cast<LogicalUnit(*)[kLogicalUnits]>(lus.get()));
+  std::copy_n(lus.get(), std::size(all->lu), all->lu);
   QV_GetLastLogicalUnit(unit, &all->last_lu);
   QV_IntegrationLUInfo(unit, &all->integration_lu);
-  QV_GetFibreInformation(unit, session, &all->fibre_info);
   QV_GetZencopyInformation(unit, &all->zencopy);
   QV_GetWWNInformation(unit, &all->wwn);
-  for (std::int32_t controller = 0; controller < 2; ++controller) {
+  for (std::int32_t controller = 0; controller < kControllers; ++controller) {
     QV_GetLANInformation(unit, session, controller, &all->lan_info[controller]);
     QV_GetSyncControl(unit, controller, &all->sync_ctrl[controller]);
+    QV_GetTargetId(unit, controller, &all->target_id[controller]);
   }
-  fill(asker, all->raid_info, all->lu_coup, all->integration_lu2, all->dm_lu, all->qvuser_lan_info,
-       all->rest_info, all->comdev, all->rvrfsrc, all->unit_info, all->hg, all->hgopt, all->portopt,
-       all->lumap, all->wwnhg, all->port_num, all->pool_info, all->pair_info, all->luguard,
-       all->quickfmtopt, all->quickfmtstatus, all->hgparamlist, all->correctstatus, all->mapguard,
-       all->unit_identifier, all->farlink_info, all->flacopy_info, all->flaopt_info, all->timeinfo,
-       all->maintelaninfo, all->mainte_avail, all->nnclaninfo, all->iscsi_port, all->iscsi_target,
-       all->iscsi_initiator, all->iscsi_logininitiator, all->chap_user, all->isns,
-       all->drive_response_diag, all->auditlog_info, all->lu_migration, all->role, all->account,
-       all->account_option, all->spin_downup);
+  filler.fill(all->drive_status, all->drive_info, all->raid_info, all->lu_coup,
+              all->integration_lu2, all->dm_lu, all->qvuser_lan_info, all->rest_info,
+              all->fibre_info, all->comdev, all->rvrfsrc, all->unit_info, all->hg, all->hgopt,
+              all->portopt, all->lumap, all->wwnhg, all->port_num, all->pool_info, all->pair_info,
+              all->luguard, all->quickfmtopt, all->quickfmtstatus, all->hgparamlist,
+              all->correctstatus, all->mapguard, all->unit_identifier, all->farlink_info,
+              all->flacopy_info, all->flaopt_info, all->timeinfo, all->maintelaninfo,
+              all->mainte_avail, all->nnclaninfo, all->iscsi_port, all->iscsi_target,
+              all->iscsi_initiator, all->iscsi_logininitiator, all->chap_user, all->isns,
+              all->drive_response_diag, all->auditlog_info, all->lu_migration, all->role,
+              all->account, all->account_option, all->spin_downup);
   return 0;
 }
 
 int getBase(const UnitName* unit, const QVSessionInfo* session, const ControllerRequest* request,
             ArrayAllInfo_Base* base) {
-  const Asker asker{unit, session};
-  std::memset(static_cast<void*>(base), 0, sizeof *base);
+  const Filler filler(unit, session, base);
   base->valid_index = 1;
   base->connectedCTL = request->requestCTL;
-  fillConditions(asker, *base);
-  QV_GetLogicalUnit(unit, session, &base->lu);
-  fill(asker, base->unit_info, base->diskdrive_status, base->diskdrive_info, base->raid_info,
-       base->comdev, base->dm_lu, base->quickfmtstatus, base->correctstatus, base->integration_lu2,
-       base->battery_config, base->localled_info);
+  filler.fillConditions(base->unit_conditions, base->ctrl_condition, base->alert);
+  LuMappingHGInfo first{};
+  QV_GetLuMappingList(unit, session, 0, 0, 0, &base->mapping_mode, &first);
+  filler.fill(base->lu, base->unit_info, base->diskdrive_status, base->diskdrive_info,
+              base->raid_info, base->comdev, base->dm_lu, base->quickfmtstatus, base->correctstatus,
+              base->integration_lu2, base->battery_config, base->localled_info);
+  return 0;
+}
+
+int getBaseAdditional(const UnitName* unit, const QVSessionInfo* session,
+                      const ControllerRequest* request, ArrayAllInfo_BaseAdditional* base) {
+  const Filler filler(unit, session, base);
+  base->valid_index = 1;
+  filler.fillParameters(base->hgparamid);
+  QV_GetLuMappingPortAssignInfo(unit, session, request, &base->lumap_lun);
+  filler.fill(base->hgparamlist2, base->ctlportkind);
+  return 0;
+}
+
+int getHost(const UnitName* unit, const QVSessionInfo* session, const ControllerRequest*,
+            ArrayAllInfo_Host* host) {
+  const Filler filler(unit, session, host);
+  host->valid_index = 1;
+  filler.fillParameters(host->hgparamid);
+  filler.fill(host->hgopt, host->hgparamlist2);
+  return 0;
+}
+
+int getProgramProducts(const UnitName* unit, const QVSessionInfo* session, const ControllerRequest*,
+                       ArrayAllInfo_PP* products) {
+  const Filler filler(unit, session, products);
+  products->valid_index = 1;
+  filler.fillUsers(products->user_reg_info);
+  filler.fill(products->luguard, products->auditlog_info, products->role, products->account,
+              products->account_option, products->lu_migration, products->spin_downup);
   return 0;
 }
 
@@ -114,15 +163,12 @@ int getBase(const UnitName* unit, const QVSessionInfo* session, const Controller
 template <class Slice, auto... Member>
 int getSlice(const UnitName* unit, const QVSessionInfo* session, const ControllerRequest*,
              Slice* slice) {
-  std::memset(static_cast<void*>(slice), 0, sizeof *slice);
+  const Filler filler(unit, session, slice);
   slice->valid_index = 1;
-  fill({unit, session}, slice->*Member...);
+  filler.fill(slice->*Member...);
   return 0;
 }
 
-constexpr auto getBaseAdditional =
-    getSlice<ArrayAllInfo_BaseAdditional, &ArrayAllInfo_BaseAdditional::hgparamlist2,
-             &ArrayAllInfo_BaseAdditional::ctlportkind>;
 constexpr auto getHg = getSlice<ArrayAllInfo_HG, &ArrayAllInfo_HG::hg, &ArrayAllInfo_HG::wwnhg>;
 constexpr auto getIscsi =
     getSlice<ArrayAllInfo_iSCSI, &ArrayAllInfo_iSCSI::iscsi_port, &ArrayAllInfo_iSCSI::iscsi_target,
@@ -130,18 +176,12 @@ constexpr auto getIscsi =
              &ArrayAllInfo_iSCSI::chap_user, &ArrayAllInfo_iSCSI::isns>;
 constexpr auto getMapping =
     getSlice<ArrayAllInfo_Mapping, &ArrayAllInfo_Mapping::mapguard, &ArrayAllInfo_Mapping::lumap>;
-constexpr auto getHost =
-    getSlice<ArrayAllInfo_Host, &ArrayAllInfo_Host::hgopt, &ArrayAllInfo_Host::hgparamlist2>;
 constexpr auto getConfig =
-    getSlice<ArrayAllInfo_Config, &ArrayAllInfo_Config::portopt,
+    getSlice<ArrayAllInfo_Config, &ArrayAllInfo_Config::fibre_info, &ArrayAllInfo_Config::portopt,
              &ArrayAllInfo_Config::qvuser_lan_info, &ArrayAllInfo_Config::port_num,
              &ArrayAllInfo_Config::maintelaninfo, &ArrayAllInfo_Config::mainte_avail,
              &ArrayAllInfo_Config::timeinfo, &ArrayAllInfo_Config::rest_info,
              &ArrayAllInfo_Config::quickfmtopt>;
-constexpr auto getProgramProducts =
-    getSlice<ArrayAllInfo_PP, &ArrayAllInfo_PP::luguard, &ArrayAllInfo_PP::auditlog_info,
-             &ArrayAllInfo_PP::role, &ArrayAllInfo_PP::account, &ArrayAllInfo_PP::account_option,
-             &ArrayAllInfo_PP::lu_migration, &ArrayAllInfo_PP::spin_downup>;
 constexpr auto getReplication =
     getSlice<ArrayAllInfo_Replication, &ArrayAllInfo_Replication::pool_info,
              &ArrayAllInfo_Replication::rvrfsrc, &ArrayAllInfo_Replication::flaopt_info,

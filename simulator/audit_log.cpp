@@ -2,7 +2,7 @@
 #include <fstream>
 
 #include "arraylib/accounts.h"
-#include "simulator/simulator.h"
+#include "simulator/simulate.h"
 
 using namespace quorvelsim;
 
@@ -15,31 +15,29 @@ struct AuditLog {
   std::vector<std::string> entries;
 };
 
-AuditLog& logOf(const UnitName* unit) { return findUnit(textOf(*unit))->part<AuditLog>(); }
-
 /// Notes what the session's user did, unless the array keeps no log of its own.
 void note(const UnitName* unit, const QVSessionInfo* session, const std::string& deed) {
-  AuditLog& log = logOf(unit);
+  AuditLog& log = partOf<AuditLog>(unit);
   if (log.settings.auditlog_internallog.internallog_used != 0) {
-    log.entries.push_back(findUnit(textOf(*unit))->sessions[identifierOf(*session)] + ": " + deed);
+    log.entries.push_back(unitOf(unit).sessions[identifierOf(*session)] + ": " + deed);
   }
 }
 
 int getSettings(const UnitName* unit, const QVSessionInfo*, QVAuditLogInformation* information) {
-  *information = logOf(unit).settings;
+  *information = partOf<AuditLog>(unit).settings;
   return 0;
 }
 
 int setSettings(const UnitName* unit, const QVSessionInfo* session,
                 const QVAuditLogInformation* information) {
-  logOf(unit).settings = *information;
+  partOf<AuditLog>(unit).settings = *information;
   note(unit, session, "settings changed");
   return 0;
 }
 
 int exportLog(const UnitName* unit, const QVSessionInfo* session, const FilePath* path) {
   std::ofstream file(textOf(*path), std::ios::binary);
-  for (const std::string& entry : logOf(unit).entries) {
+  for (const std::string& entry : partOf<AuditLog>(unit).entries) {
     file << entry << '\n';
   }
   if (!file.flush()) {
@@ -50,7 +48,7 @@ int exportLog(const UnitName* unit, const QVSessionInfo* session, const FilePath
 }
 
 int initialise(const UnitName* unit, const QVSessionInfo* session, const AuditLogInitRequest*) {
-  logOf(unit).entries.clear();
+  partOf<AuditLog>(unit).entries.clear();
   note(unit, session, "log initialised");
   return 0;
 }

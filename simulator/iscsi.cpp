@@ -1,381 +1,233 @@
 // iSCSI ports with their targets, initiators and CHAP users, iSNS servers, ping and remote paths.
-#include <algorithm>
-#include <cstring>
-#include <iterator>
-#include <utility>
-
 #include "arraylib/hosts.h"
-#include "simulator/simulator.h"
+#include "simulator/simulate.h"
 
 using namespace quorvelsim;
 
 namespace {
 
-constexpr std::int32_t kControllers = 2;
-/// The first ports of each controller are iSCSI ports.
-constexpr std::int32_t kPortsInstalled = 2;
-constexpr std::int32_t kTargets = 255;
-constexpr std::int32_t kInitiators = 256;
-constexpr std::int32_t kUsers = 512;
-constexpr std::int32_t kPingRunning = 1;
-constexpr std::int32_t kPingDone = 2;
-/// Hosts whose addresses begin so answer to a ping.
-constexpr char kReachable[] = "192.0.2.";
+enum PingStatus : std::int32_t { kPingRunning = 1, kPingDone = 2 };
 
-/// A controller and its port.
-using Port = std::pair<std::int32_t, std::int32_t>;
-
-/// Entries of a fixed list that are in use, by their place.
-template <class Info>
-using Entries = std::map<std::size_t, Info>;
-
-QViSCSITargetInfo firstTarget(const Port& port) {
-  QViSCSITargetInfo target{};
-  const std::string place = std::to_string(port.first) + std::to_string(port.second);
-  target.target_valid = 1;
-  setText(target.target_name, "T000");
-  setText(target.iscsi_name, "iqn.2004-01.example.array:t." + place + ".000");
-  return target;
+/// Does `visit` to the iSCSI ports of records that are nested by controllers and ports.
+template <class Visit, class... All>
+void eachPort(Visit visit, All&... all) {
+  for (auto controller = 0; controller < kControllers; ++controller) {
+    for (auto port = 0; port < kIscsiPorts; ++port) {
+      visit(all.ctl[controller].port[port]...);
+    }
+  }
 }
 
 struct Iscsi {
   Iscsi() {
-    for (std::int32_t controller = 0; controller < kControllers; ++controller) {
-      for (std::int32_t number = 0; number < kPortsInstalled; ++number) {
-        QViSCSIPortPortInfo& port = addresses.ctl[controller].port[number];
-        const std::string place = std::to_string(10 * controller + number);
-        port.port_valid = 1;
-        setText(port.ip_address, "192.0.2." + std::to_string(100 + 10 * controller + number));
-        setText(port.subnet, "255.255.255.0");
-        setText(port.gateway, "192.0.2.1");
-        setText(port.ether, "02:00:00:00:00:" + std::string(2 - place.size(), '0') + place);
-        port.port_num = 3260;
-        port.keep_alive_timer = 60;
-        port.mtu = 1500;
-        const Port key{controller, number};
-        targets[key][0] = firstTarget(key);
-      }
-    }
+    std::int32_t number = 0;
+    eachPort(
+        [&](QViSCSIPortPortInfo& port, QViSCSITargetPortInfo& targetsOfPort,
+            QViSCSIInitiatorPortInfo& initiatorsOfPort, QViSCSICHAPUserPortInfo& usersOfPort) {
+          const std::string place = std::to_string(number++);
+          port.port_valid = 1;
+          setText(port.ip_address, "192.0.2.10" + place);
+          setText(port.subnet, "255.255.255.0");
+          setText(port.gateway, "192.0.2.1");
+          setText(port.ether, "02:00:00:00:00:0" + place);
+          port.port_num = 3260;
+          port.keep_alive_timer = 60;
+          port.mtu = 1500;
+          targetsOfPort.port_valid = 1;
+          targetsOfPort.target_max_count = kTargets;
+          targetsOfPort.target_count = 1;
+          QViSCSITargetInfo& first = targetsOfPort.target[0];
+          first.target_valid = 1;
+          setText(first.target_name, "T000");
+          setText(first.iscsi_name, "iqn.2004-01.example.array:t." + place + ".000");
+          initiatorsOfPort.port_valid = 1;
+          initiatorsOfPort.initiator_max_count = kInitiators;
+          usersOfPort.port_valid = 1;
+          usersOfPort.user_max_count = kChapUsers;
+        },
+        ports, targets, initiators, users);
   }
 
-  QViSCSIPortInformation addresses{};
-  std::map<Port, Entries<QViSCSITargetInfo>> targets;
-  std::map<Port, std::int32_t> security;
-  std::map<Port, Entries<QViSCSIInitiatorInfo>> initiators;
-  std::map<Port, Entries<QViSCSICHAPUserInfo>> users;
+  QViSCSIPortInformation ports{};
+  QViSCSITargetInformationAll targets{};
+  QViSCSIInitiatorInformationAll initiators{};
+  QViSCSICHAPUserInformationAll users{};
   QViSCSIPing ping{};
-  QViSCSIRemotePathInfo paths{};
 };
 
-Iscsi& iscsiOf(const UnitName* unit) { return findUnit(textOf(*unit))->part<Iscsi>(); }
-
-bool installed(const Port& port) {
-  return port.first >= 0 && port.first < kControllers && port.second >= 0 &&
-         port.second < kPortsInstalled;
-}
-
-/// Zeros, without a copy of the record on the stack.
-template <class Record>
-void clear(Record* record) {
-  std::memset(record, 0, sizeof *record);
-}
-
-template <class Info, std::size_t N>
-std::int32_t fill(Info (&list)[N], const Entries<Info>& entries) {
-  for (const auto& [place, info] : entries) {
-    list[place] = info;
-  }
-  return static_cast<std::int32_t>(entries.size());
-}
-
-/// The entries whose first member, an int, says that they are in use.
-template <class Info, std::size_t N>
-Entries<Info> inUse(const Info (&list)[N], std::int32_t Info::*valid) {
-  Entries<Info> entries;
-  for (std::size_t place = 0; place < N; ++place) {
-    if (list[place].*valid != 0) {
-      entries[place] = list[place];
-    }
-  }
-  return entries;
-}
-
-/// Visits the installed ports of a record that is nested by controllers and ports.
-template <class All, class Visit>
-void eachPort(All& all, Visit visit) {
-  for (std::int32_t controller = 0; controller < kControllers; ++controller) {
-    for (std::int32_t port = 0; port < kPortsInstalled; ++port) {
-      visit(Port{controller, port}, all.ctl[controller].port[port]);
-    }
-  }
-}
-
 int getPorts(const UnitName* unit, const QVSessionInfo*, QViSCSIPortInformation* ports) {
-  Iscsi& iscsi = iscsiOf(unit);
-  *ports = iscsi.addresses;
-  eachPort(*ports, [&](const Port& place, QViSCSIPortPortInfo& port) {
-    port.host_count = static_cast<std::int32_t>(iscsi.initiators[place].size());
-  });
+  const Iscsi& iscsi = partOf<Iscsi>(unit);
+  *ports = iscsi.ports;
+  eachPort([](QViSCSIPortPortInfo& port,
+              const QViSCSIInitiatorPortInfo& hosts) { port.host_count = hosts.initiator_count; },
+           *ports, iscsi.initiators);
   return 0;
 }
 
-int setPorts(const UnitName* unit, const QVSessionInfo*, const QViSCSIPortInformation* ports) {
-  Iscsi& iscsi = iscsiOf(unit);
-  eachPort(*ports, [&](const Port& place, const QViSCSIPortPortInfo& given) {
-    if (given.set_valid != 0) {
-      QViSCSIPortPortInfo& port = iscsi.addresses.ctl[place.first].port[place.second];
-      const std::string ether = textOf(port.ether);
-      port = given;
-      port.port_valid = 1;
-      port.set_valid = 0;
-      setText(port.ether, ether);
-    }
-  });
+int setPorts(const UnitName* unit, const QVSessionInfo*, const QViSCSIPortInformation* given) {
+  eachPort(
+      [](QViSCSIPortPortInfo& port, const QViSCSIPortPortInfo& from) {
+        if (from.set_valid != 0) {
+          const std::string ether = textOf(port.ether);
+          port = from;
+          port.port_valid = 1;
+          port.set_valid = 0;
+          setText(port.ether, ether);
+        }
+      },
+      partOf<Iscsi>(unit).ports, *given);
   return 0;
 }
 
 int getTargets(const UnitName* unit, const QVSessionInfo*, QViSCSITargetInformationAll* all) {
-  Iscsi& iscsi = iscsiOf(unit);
-  clear(all);
-  eachPort(*all, [&](const Port& place, QViSCSITargetPortInfo& port) {
-    port.port_valid = 1;
-    port.security = iscsi.security[place];
-    port.target_max_count = kTargets;
-    port.target_count = fill(port.target, iscsi.targets[place]);
-  });
-  return 0;
-}
-
-int putTarget(const UnitName* unit, const Port& place, std::int32_t number, bool exists,
-              const QViSCSITargetInfo& target) {
-  if (!installed(place) || number < 0 || number >= kTargets) {
-    return kNothingFound;
-  }
-  auto& targets = iscsiOf(unit).targets[place];
-  const auto slot = static_cast<std::size_t>(number);
-  if (targets.contains(slot) != exists) {
-    return exists ? kNothingFound : kTargetExists;
-  }
-  if (textOf(target.target_name).empty()) {
-    return kInvalidName;
-  }
-  targets[slot] = target;
-  targets[slot].target_valid = 1;
+  *all = partOf<Iscsi>(unit).targets;
   return 0;
 }
 
 int createTarget(const UnitName* unit, const QVSessionInfo*, std::int32_t controller,
-                 std::int32_t port, std::int32_t number, const QViSCSITargetInfo* target) {
-  return putTarget(unit, {controller, port}, number, false, *target);
-}
-
-int changeTarget(const UnitName* unit, const QVSessionInfo*, std::int32_t controller,
-                 std::int32_t port, std::int32_t number, const QViSCSITargetInfo* target) {
-  return putTarget(unit, {controller, port}, number, true, *target);
+                 std::int32_t number, std::int32_t target, const QViSCSITargetInfo* given) {
+  if (!isIscsiPort(controller, number) || target < 0 || target >= kTargets) {
+    return kNothingFound;
+  }
+  QViSCSITargetPortInfo& port = partOf<Iscsi>(unit).targets.ctl[controller].port[number];
+  if (port.target[target].target_valid != 0) {
+    return kTargetExists;
+  }
+  if (textOf(given->target_name).empty()) {
+    return kInvalidName;
+  }
+  port.target[target] = *given;
+  port.target[target].target_valid = 1;
+  ++port.target_count;
+  return 0;
 }
 
 int deleteTargets(const UnitName* unit, const QVSessionInfo*, std::int32_t controller,
-                  std::int32_t port, const DeleteTargetList* list) {
-  const Port place{controller, port};
-  if (!installed(place)) {
+                  std::int32_t number, const DeleteTargetList* list) {
+  if (!isIscsiPort(controller, number)) {
     return kNothingFound;
   }
-  std::erase_if(iscsiOf(unit).targets[place],
-                [&](const auto& target) { return list->target[target.first] != 0; });
-  return 0;
-}
-
-int initialiseTargets(const UnitName* unit, const QVSessionInfo*, std::int32_t controller,
-                      std::int32_t port) {
-  const Port place{controller, port};
-  if (!installed(place)) {
-    return kNothingFound;
+  QViSCSITargetPortInfo& port = partOf<Iscsi>(unit).targets.ctl[controller].port[number];
+  for (std::int32_t target = 0; target < kTargets; ++target) {
+    if (list->target[target] != 0) {
+      port.target_count -= port.target[target].target_valid;
+      port.target[target] = {};
+    }
   }
-  iscsiOf(unit).targets[place] = {{0, firstTarget(place)}};
   return 0;
-}
-
-int changeSecurity(const UnitName* unit, const QVSessionInfo*, std::int32_t controller,
-                   std::int32_t port, std::int32_t security) {
-  const Port place{controller, port};
-  if (!installed(place)) {
-    return kNothingFound;
-  }
-  iscsiOf(unit).security[place] = security;
-  return 0;
-}
-
-void fillInitiators(Iscsi& iscsi, const Port& place, QViSCSIInitiatorPortInfo& port) {
-  port.port_valid = 1;
-  port.security = iscsi.security[place];
-  port.initiator_max_count = kInitiators;
-  port.initiator_count = fill(port.initiator, iscsi.initiators[place]);
 }
 
 int getAllInitiators(const UnitName* unit, const QVSessionInfo*,
                      QViSCSIInitiatorInformationAll* all) {
-  Iscsi& iscsi = iscsiOf(unit);
-  clear(all);
-  eachPort(*all, [&](const Port& place, auto& port) { fillInitiators(iscsi, place, port); });
+  *all = partOf<Iscsi>(unit).initiators;
   return 0;
 }
 
 int getInitiators(const UnitName* unit, const QVSessionInfo*, std::int32_t controller,
                   std::int32_t port, QViSCSIInitiatorPortInformation* initiators) {
-  if (!installed({controller, port})) {
+  if (!isIscsiPort(controller, port)) {
     return kNothingFound;
   }
-  clear(initiators);
-  fillInitiators(iscsiOf(unit), {controller, port}, initiators->port);
+  initiators->option = 0;
+  initiators->port = partOf<Iscsi>(unit).initiators.ctl[controller].port[port];
   return 0;
 }
 
 int setInitiators(const UnitName* unit, const QVSessionInfo*, std::int32_t controller,
-                  std::int32_t port, const QViSCSIInitiatorPortInfo* given) {
-  if (!installed({controller, port})) {
+                  std::int32_t number, const QViSCSIInitiatorPortInfo* given) {
+  if (!isIscsiPort(controller, number)) {
     return kNothingFound;
   }
-  iscsiOf(unit).initiators[{controller, port}] =
-      inUse(given->initiator, &QViSCSIInitiatorInfo::initiator_valid);
+  QViSCSIInitiatorPortInfo& port = partOf<Iscsi>(unit).initiators.ctl[controller].port[number];
+  port.initiator_count = 0;
+  for (std::int32_t place = 0; place < kInitiators; ++place) {
+    port.initiator[place] = given->initiator[place];
+    port.initiator_count += given->initiator[place].initiator_valid != 0 ? 1 : 0;
+  }
   return 0;
 }
 
 /// Every registered initiator is logged in.
 int getLogins(const UnitName* unit, const QVSessionInfo*,
               QViSCSILoginInitiatorInformationAll* all) {
-  Iscsi& iscsi = iscsiOf(unit);
   clear(all);
-  eachPort(*all, [&](const Port& place, QViSCSILoginInitiatorPortInfo& port) {
-    port.port_valid = 1;
-    port.initiator_max_count = kInitiators;
-    for (const auto& [slot, registered] : iscsi.initiators[place]) {
-      QViSCSILoginInitiatorInfo& login = port.initiator[port.initiator_count++];
-      login.initiator_valid = 1;
-      setText(login.iscsi_name, textOf(registered.iscsi_name));
-    }
-  });
+  eachPort(
+      [](QViSCSILoginInitiatorPortInfo& port, const QViSCSIInitiatorPortInfo& registered) {
+        port.port_valid = 1;
+        port.initiator_max_count = kInitiators;
+        for (const QViSCSIInitiatorInfo& initiator : registered.initiator) {
+          if (initiator.initiator_valid != 0) {
+            QViSCSILoginInitiatorInfo& login = port.initiator[port.initiator_count++];
+            login.initiator_valid = 1;
+            setText(login.iscsi_name, textOf(initiator.iscsi_name));
+          }
+        }
+      },
+      *all, partOf<Iscsi>(unit).initiators);
   return 0;
 }
 
-void fillUsers(Iscsi& iscsi, const Port& place, QViSCSICHAPUserPortInfo& port) {
-  port.port_valid = 1;
-  port.security = iscsi.security[place];
-  port.user_max_count = kUsers;
-  port.user_count = fill(port.user, iscsi.users[place]);
-}
-
 int getAllUsers(const UnitName* unit, const QVSessionInfo*, QViSCSICHAPUserInformationAll* all) {
-  Iscsi& iscsi = iscsiOf(unit);
-  clear(all);
-  eachPort(*all, [&](const Port& place, auto& port) { fillUsers(iscsi, place, port); });
+  *all = partOf<Iscsi>(unit).users;
   return 0;
 }
 
 int getUsers(const UnitName* unit, const QVSessionInfo*, std::int32_t controller, std::int32_t port,
              QViSCSICHAPUserPortInformation* users) {
-  if (!installed({controller, port})) {
+  if (!isIscsiPort(controller, port)) {
     return kNothingFound;
   }
-  clear(users);
-  fillUsers(iscsiOf(unit), {controller, port}, users->port);
+  users->option = 0;
+  users->port = partOf<Iscsi>(unit).users.ctl[controller].port[port];
   return 0;
 }
 
-int setUsers(const UnitName* unit, const QVSessionInfo*, std::int32_t controller, std::int32_t port,
-             const QViSCSICHAPUserPortInfo* given) {
-  if (!installed({controller, port})) {
+int setUsers(const UnitName* unit, const QVSessionInfo*, std::int32_t controller,
+             std::int32_t number, const QViSCSICHAPUserPortInfo* given) {
+  if (!isIscsiPort(controller, number)) {
     return kNothingFound;
   }
-  iscsiOf(unit).users[{controller, port}] = inUse(given->user, &QViSCSICHAPUserInfo::user_valid);
-  return 0;
-}
-
-/// No file is opened: the one user on it has the file's name.
-int importUsers(const UnitName* unit, const QVSessionInfo*, const FilePath* path) {
-  const std::string file = textOf(*path);
-  if (file.empty()) {
-    return kNothingFound;
-  }
-  auto& users = iscsiOf(unit).users[Port{0, 0}];
-  std::size_t slot = 0;
-  while (users.contains(slot)) {
-    ++slot;
-  }
-  if (slot < kUsers) {
-    users[slot].user_valid = 1;
-    setText(users[slot].user_name, file.substr(file.find_last_of("/\\") + 1));
+  QViSCSICHAPUserPortInfo& port = partOf<Iscsi>(unit).users.ctl[controller].port[number];
+  port.user_count = 0;
+  for (std::int32_t place = 0; place < kChapUsers; ++place) {
+    port.user[place] = given->user[place];
+    port.user_count += given->user[place].user_valid != 0 ? 1 : 0;
   }
   return 0;
 }
 
 int requestPing(const UnitName* unit, const QVSessionInfo*, const QViSCSIPing* request) {
-  QViSCSIPing& ping = iscsiOf(unit).ping;
+  QViSCSIPing& ping = partOf<Iscsi>(unit).ping;
   ping = {};
-  eachPort(*request, [&](const Port& place, const QViSCSIPingPort& given) {
-    if (given.request_valid != 0) {
-      QViSCSIPingPort& port = ping.ctl[place.first].port[place.second];
-      port = given;
-      port.status = kPingRunning;
-      port.execute_count = 0;
-      port.success_count = 0;
-    }
-  });
+  eachPort(
+      [](QViSCSIPingPort& port, const QViSCSIPingPort& given) {
+        if (given.request_valid != 0) {
+          port = given;
+          port.status = kPingRunning;
+          port.execute_count = 0;
+          port.success_count = 0;
+        }
+      },
+      ping, *request);
   return 0;
 }
 
-/// Each look at the status is one ping further.
+/// Each question sends one ping more. The hosts of the array's own network answer.
 int getPing(const UnitName* unit, const QVSessionInfo*, QViSCSIPing* status) {
-  QViSCSIPing& ping = iscsiOf(unit).ping;
-  eachPort(ping, [](const Port&, QViSCSIPingPort& port) {
-    port.port_valid = 1;
-    if (port.status == kPingRunning && port.execute_count < port.schedule_count) {
-      ++port.execute_count;
-      port.success_count += textOf(port.ip_address).starts_with(kReachable) ? 1 : 0;
-    }
-    if (port.status == kPingRunning && port.execute_count >= port.schedule_count) {
-      port.status = kPingDone;
-    }
-  });
+  QViSCSIPing& ping = partOf<Iscsi>(unit).ping;
+  eachPort(
+      [](QViSCSIPingPort& port) {
+        port.port_valid = 1;
+        if (port.status == kPingRunning && port.execute_count < port.schedule_count) {
+          ++port.execute_count;
+          port.success_count += textOf(port.ip_address).starts_with("192.0.2.") ? 1 : 0;
+        }
+        if (port.status == kPingRunning && port.execute_count >= port.schedule_count) {
+          port.status = kPingDone;
+        }
+      },
+      ping);
   *status = ping;
-  return 0;
-}
-
-/// The paths to the array of that serial number, or those not in use where it is empty; else null.
-QViSCSIRemotePath* findPath(QViSCSIRemotePathInfo& paths, const std::string& serial) {
-  auto* const found =
-      std::find_if(std::begin(paths.arrayunit), std::end(paths.arrayunit),
-                   [&](const auto& path) { return textOf(path.other_serial_no) == serial; });
-  return found == std::end(paths.arrayunit) ? nullptr : found;
-}
-
-int getPaths(const UnitName* unit, const QVSessionInfo*, QViSCSIRemotePathInfo* paths) {
-  *paths = iscsiOf(unit).paths;
-  return 0;
-}
-
-int setPath(const UnitName* unit, const QVSessionInfo*, const QViSCSIRemotePath* path) {
-  QViSCSIRemotePathInfo& paths = iscsiOf(unit).paths;
-  const std::string serial = textOf(path->other_serial_no);
-  if (serial.empty()) {
-    return kInvalidName;
-  }
-  QViSCSIRemotePath* slot = findPath(paths, serial);
-  slot = slot == nullptr ? findPath(paths, "") : slot;
-  if (slot == nullptr) {
-    return kTooManyPaths;
-  }
-  *slot = *path;
-  slot->path_valid = 1;
-  return 0;
-}
-
-int deletePath(const UnitName* unit, const QVSessionInfo*, const QViSCSIRemotePath* path) {
-  const std::string serial = textOf(path->other_serial_no);
-  QViSCSIRemotePath* const slot = serial.empty() ? nullptr : findPath(iscsiOf(unit).paths, serial);
-  if (slot == nullptr) {
-    return kNothingFound;
-  }
-  *slot = {};
   return 0;
 }
 
@@ -385,10 +237,10 @@ SIMULATE(3, QV_GetiSCSIPortInformation, getPorts)
 SIMULATE(3, QV_SetiSCSIPortInformation, setPorts)
 SIMULATE(3, QV_GetiSCSITargetInformationAll, getTargets)
 SIMULATE(6, QV_CreateiSCSITarget, createTarget)
-SIMULATE(6, QV_ChangeiSCSITarget, changeTarget)
+SIMULATE(6, QV_ChangeiSCSITarget)
 SIMULATE(5, QV_DeleteiSCSITarget, deleteTargets)
-SIMULATE(4, QV_InitiSCSITarget, initialiseTargets)
-SIMULATE(5, QV_ChangeiSCSITargetSecurity, changeSecurity)
+SIMULATE(4, QV_InitiSCSITarget)
+SIMULATE(5, QV_ChangeiSCSITargetSecurity)
 SIMULATE(3, QV_GetiSCSIInitiatorInformationAll, getAllInitiators)
 SIMULATE(5, QV_GetiSCSIInitiatorInformation, getInitiators)
 SIMULATE(5, QV_SetiSCSIInitiatortInformation, setInitiators)
@@ -396,11 +248,11 @@ SIMULATE(3, QV_GetiSCSILoginInitiatorInformationAll, getLogins)
 SIMULATE(3, QV_GetiSCSICHAPUserInformationAll, getAllUsers)
 SIMULATE(5, QV_GetiSCSICHAPUserInformation, getUsers)
 SIMULATE(5, QV_SetiSCSICHAPUserInformation, setUsers)
-SIMULATE(3, QV_iSCSICHAPUserImport, importUsers)
+SIMULATE(3, QV_iSCSICHAPUserImport)
 SIMULATE(3, QV_GetiSNSInformation)
 SIMULATE(3, QV_SetiSNSInformation)
 SIMULATE(3, QV_RequestiSCSIPing, requestPing)
 SIMULATE(3, QV_GetiSCSIPingStatus, getPing)
-SIMULATE(3, QV_GetiSCSIRemotePath, getPaths)
-SIMULATE(3, QV_SetiSCSIRemotePath, setPath)
-SIMULATE(3, QV_DeliSCSIRemotePath, deletePath)
+SIMULATE(3, QV_GetiSCSIRemotePath)
+SIMULATE(3, QV_SetiSCSIRemotePath)
+SIMULATE(3, QV_DeliSCSIRemotePath)

@@ -1,13 +1,14 @@
-// RAID groups on the drives of a simulated unit.
+// RAID groups on the mounted drives of a unit.
 #include <numeric>
 
+#include "simulator/simulate.h"
 #include "simulator/storage.h"
 
 namespace quorvelsim {
 
 namespace {
 
-/// Drives' worth of data in a parity group, 0 where the level has no such group.
+/// The drives' worth of data in a parity group, 0 where a level cannot have such a group.
 std::int32_t dataDrives(std::int32_t level, std::int32_t drives) {
   switch (level) {
     case 0:
@@ -24,11 +25,22 @@ std::int32_t dataDrives(std::int32_t level, std::int32_t drives) {
   }
 }
 
+bool same(const CreateRgDrive& left, const CreateRgDrive& right) {
+  return left.unit_no == right.unit_no && left.hdu_no == right.hdu_no;
+}
+
+bool contains(const std::vector<CreateRgDrive>& drives, const CreateRgDrive& drive) {
+  return std::any_of(drives.begin(), drives.end(),
+                     [&](const CreateRgDrive& other) { return same(other, drive); });
+}
+
 }  // namespace
+
+Blocks Group::driveBlocks() const { return kMounted[drives.front().unit_no].blocks; }
 
 Blocks Group::total() const {
   return static_cast<Blocks>(dataDrives(level, parityDrives)) * static_cast<Blocks>(parityGroups) *
-         kDriveBlocks;
+         driveBlocks();
 }
 
 Blocks Group::rest() const {
@@ -38,63 +50,28 @@ Blocks Group::rest() const {
 }
 
 Blocks Group::largestRest() const {
-  Blocks largest = 0;
-  for (const Area& area : areas) {
-    if (area.lun == kNone) {
-      largest = std::max(largest, area.blocks);
-    }
-  }
-  return largest;
+  return std::accumulate(areas.begin(), areas.end(), Blocks{0}, [](Blocks most, const Area& area) {
+    return area.lun == kNone ? std::max(most, area.blocks) : most;
+  });
 }
 
 std::int32_t Group::luCount() const {
-  std::vector<std::int32_t> luns;
-  for (const Area& area : areas) {
-    if (area.lun != kNone && std::find(luns.begin(), luns.end(), area.lun) == luns.end()) {
-      luns.push_back(area.lun);
-    }
-  }
-  return static_cast<std::int32_t>(luns.size());
+  return static_cast<std::int32_t>(std::count_if(
+      areas.begin(), areas.end(), [](const Area& area) { return area.lun != kNone; }));
 }
 
-std::int32_t Group::luBefore(std::int32_t lun) const {
-  std::int32_t before = kNone;
-  for (const Area& area : areas) {
-    if (area.lun == lun) {
-      break;
-    }
-    if (area.lun != kNone) {
-      before = area.lun;
-    }
-  }
-  return before;
-}
-
-bool Group::take(std::int32_t lun, Blocks blocks, const std::vector<std::int32_t>& behind) {
-  std::vector<Area> after;
-  Blocks missing = blocks;
-  std::int32_t before = kNone;
-  for (const Area& area : areas) {
-    const bool wanted =
-        area.lun == kNone &&
-        (behind.empty() ? area.blocks >= missing
-                        : std::find(behind.begin(), behind.end(), before) != behind.end());
-    const Blocks taken = wanted ? std::min(missing, area.blocks) : 0;
-    if (taken > 0) {
-      after.push_back({lun, taken});
-      missing -= taken;
-    }
-    if (area.blocks > taken) {
-      after.push_back({area.lun, area.blocks - taken});
-    }
-    if (area.lun != kNone) {
-      before = area.lun;
-    }
-  }
-  if (missing > 0) {
+bool Group::take(std::int32_t lun, Blocks blocks) {
+  const auto found = std::find_if(areas.begin(), areas.end(), [&](const Area& area) {
+    return area.lun == kNone && area.blocks >= blocks;
+  });
+  if (found == areas.end()) {
     return false;
   }
-  areas = after;
+  const Blocks left = found->blocks - blocks;
+  *found = {lun, blocks};
+  if (left > 0) {
+    areas.insert(found + 1, Area{kNone, left});
+  }
   return true;
 }
 
@@ -111,9 +88,9 @@ void Group::release(std::int32_t lun) {
   areas = after;
 }
 
-void Group::addFree(Blocks blocks) {
-  areas.push_back({kNone, blocks});
-  release(kNone);
+bool Storage::isUsed(const CreateRgDrive& drive) const {
+  return std::any_of(groups.begin(), groups.end(),
+                     [&](const auto& entry) { return contains(entry.second.drives, drive); });
 }
 
 namespace {
@@ -121,72 +98,61 @@ namespace {
 /// The codes of `AreaInfo::areakind`.
 enum AreaKind : std::int32_t { kUsedArea = 1, kFreeArea = 2 };
 
-/// `CreateRaidGroup::create_mode`: the unit chooses the drives, or the caller did.
+/// `CreateRaidGroup::create_mode`: the unit chooses the drives, otherwise the caller did.
 constexpr std::int32_t kUnitChooses = 0;
 
-bool exists(const CreateRgDrive& drive) {
-  return drive.unit_no >= 0 && drive.unit_no < kEnclosures && drive.hdu_no >= 0 &&
-         drive.hdu_no < kSlots;
-}
-
-bool same(const CreateRgDrive& left, const CreateRgDrive& right) {
-  return left.unit_no == right.unit_no && left.hdu_no == right.hdu_no;
-}
-
-bool contains(const std::vector<CreateRgDrive>& drives, const CreateRgDrive& drive) {
-  return std::any_of(drives.begin(), drives.end(),
-                     [&](const CreateRgDrive& other) { return same(other, drive); });
-}
-
-std::vector<CreateRgDrive> freeDrives(const Storage& storage) {
-  std::vector<CreateRgDrive> drives;
-  for (std::int32_t enclosure = 0; enclosure < kEnclosures; ++enclosure) {
-    for (std::int32_t slot = 0; slot < kSlots; ++slot) {
+/// The first free drives of the first enclosure that has enough of them, or none.
+std::vector<CreateRgDrive> freeDrives(const Storage& storage, std::size_t count) {
+  for (std::int32_t enclosure = 0; enclosure < kMountedEnclosures; ++enclosure) {
+    std::vector<CreateRgDrive> drives;
+    for (std::int32_t slot = 0; slot < kMounted[enclosure].drives; ++slot) {
       const CreateRgDrive drive{enclosure, slot};
-      if (std::none_of(storage.groups.begin(), storage.groups.end(),
-                       [&](const auto& entry) { return contains(entry.second.drives, drive); })) {
+      if (!storage.isUsed(drive) && drives.size() < count) {
         drives.push_back(drive);
       }
     }
+    if (drives.size() == count) {
+      return drives;
+    }
+  }
+  return {};
+}
+
+/// The drives that the caller chose, or none where they cannot form a group.
+std::vector<CreateRgDrive> chosenDrives(const Storage& storage, const CreateRaidGroup& request,
+                                        std::size_t count) {
+  std::vector<CreateRgDrive> drives;
+  for (std::size_t index = 0; index < count; ++index) {
+    const CreateRgDrive& drive = request.rgdrv[index];
+    if (!isMounted(drive.unit_no, drive.hdu_no) || drive.unit_no != request.rgdrv[0].unit_no ||
+        storage.isUsed(drive) || contains(drives, drive)) {
+      return {};
+    }
+    drives.push_back(drive);
   }
   return drives;
 }
 
-bool isDriveCount(std::int32_t count) { return count > 0 && count <= kEnclosures * kSlots; }
-
-/// Adds parity groups of drives to a group. `chosen` are the drives to take, none for any.
-int addParityGroups(const Storage& storage, Group& group, std::int32_t parityGroups,
-                    const CreateRgDrive* chosen = nullptr) {
-  if (!isDriveCount(group.parityDrives) || !isDriveCount(parityGroups) ||
-      dataDrives(group.level, group.parityDrives) == 0) {
+/// Makes the group that is requested. It is not yet one of the unit's.
+int plan(const Storage& storage, const CreateRaidGroup& request, Group& group) {
+  group.level = request.level;
+  group.parityDrives = request.parity_hdu_count;
+  group.parityGroups = request.parity_count;
+  const std::int64_t count = std::int64_t{group.parityDrives} * group.parityGroups;
+  if (dataDrives(group.level, group.parityDrives) <= 0 || count <= 0 || count > kSlots) {
     return kNoCapacity;
   }
-  const std::size_t count =
-      static_cast<std::size_t>(group.parityDrives) * static_cast<std::size_t>(parityGroups);
-  std::vector<CreateRgDrive> drives = freeDrives(storage);
-  if (count > drives.size()) {
-    return kNoCapacity;
+  const auto drives = static_cast<std::size_t>(count);
+  const bool free = request.create_mode == kUnitChooses;
+  group.drives = free ? freeDrives(storage, drives) : chosenDrives(storage, request, drives);
+  if (group.drives.empty()) {
+    return free ? kNoCapacity : kInUse;
   }
-  if (chosen != nullptr) {
-    std::vector<CreateRgDrive> taken;
-    for (std::size_t index = 0; index < count; ++index) {
-      if (!exists(chosen[index]) || contains(taken, chosen[index]) ||
-          !contains(drives, chosen[index])) {
-        return kInUse;
-      }
-      taken.push_back(chosen[index]);
-    }
-    drives = taken;
-  }
-  const Blocks before = group.total();
-  group.drives.insert(group.drives.end(), drives.begin(),
-                      drives.begin() + static_cast<std::ptrdiff_t>(count));
-  group.parityGroups += parityGroups;
-  group.addFree(group.total() - before);
+  group.areas = {{kNone, group.total()}};
   return 0;
 }
 
-RgDetail describeInDetail(std::int32_t number, const Group& group) {
+RgDetail describe(std::int32_t number, const Group& group) {
   RgDetail detail{};
   detail.valid_index = 1;
   detail.rgnum = number;
@@ -195,7 +161,7 @@ RgDetail describeInDetail(std::int32_t number, const Group& group) {
   detail.start_hdu_no = group.drives.front().hdu_no;
   detail.parity_hdu_count = group.parityDrives;
   detail.parity_count = group.parityGroups;
-  detail.minimum_capa = singleWord(kDriveBlocks);
+  detail.minimum_capa = singleWord(group.driveBlocks());
   detail.total_capa_h = highWord(group.total());
   detail.total_capa_l = lowWord(group.total());
   detail.rest_capa_h = highWord(group.rest());
@@ -204,7 +170,7 @@ RgDetail describeInDetail(std::int32_t number, const Group& group) {
   return detail;
 }
 
-int getRaidGroups(const UnitName* unit, RaidGroup (*groups)[kRaidGroups]) {
+int getRaidGroups(const UnitName* unit, RaidGroup (*groups)[90]) {
   clear(groups);
   for (RaidGroup& group : *groups) {
     group.rgnum = kNone;
@@ -217,7 +183,7 @@ int getRaidGroups(const UnitName* unit, RaidGroup (*groups)[kRaidGroups]) {
     next->row = group.drives.front().hdu_no;
     next->width = group.parityDrives;
     next->depth = group.parityGroups;
-    next->minimum_capa = singleWord(kDriveBlocks);
+    next->minimum_capa = singleWord(group.driveBlocks());
     next->rest_h = highWord(group.rest());
     next->rest = lowWord(group.rest());
     next->lumaxcapa = singleWord(group.largestRest());
@@ -226,87 +192,41 @@ int getRaidGroups(const UnitName* unit, RaidGroup (*groups)[kRaidGroups]) {
   return 0;
 }
 
-int createGroup(const UnitName* unit, std::int32_t number, Group group, std::int32_t parityGroups,
-                const CreateRgDrive* chosen = nullptr) {
-  Storage& storage = storageOf(unit);
-  if (number < 0 || number >= kRaidGroups) {
-    return kUnknownNumber;
-  }
-  if (storage.groups.contains(number)) {
-    return kNumberTaken;
-  }
-  const int result = addParityGroups(storage, group, parityGroups, chosen);
-  if (result == 0) {
-    storage.groups[number] = group;
-  }
-  return result;
-}
-
-int addRaidGroup(const UnitName* unit, const RaidGroup* request) {
-  Group group;
-  group.level = request->level;
-  group.parityDrives = request->width;
-  return createGroup(unit, request->rgnum, group, request->depth);
-}
-
-/// A group grows by parity groups, to the depth that is asked for.
-int expandRaidGroup(const UnitName* unit, const RaidGroup* request) {
-  Storage& storage = storageOf(unit);
-  const auto found = storage.groups.find(request->rgnum);
-  if (found == storage.groups.end()) {
-    return kUnknownNumber;
-  }
-  Group& group = found->second;
-  return request->depth <= group.parityGroups || !isDriveCount(request->depth)
-             ? kNoCapacity
-             : addParityGroups(storage, group, request->depth - group.parityGroups);
-}
-
 int deleteRaidGroup(const UnitName* unit, const QVSessionInfo*, std::int32_t number) {
-  Storage& storage = storageOf(unit);
-  const auto found = storage.groups.find(number);
-  if (found == storage.groups.end()) {
+  auto& groups = storageOf(unit).groups;
+  const auto found = groups.find(number);
+  if (found == groups.end()) {
     return kUnknownNumber;
   }
   if (found->second.luCount() > 0) {
     return kInUse;
   }
-  storage.groups.erase(found);
+  groups.erase(found);
   return 0;
-}
-
-int deleteAllRaidGroups(const UnitName* unit, const QVSessionInfo*) {
-  Storage& storage = storageOf(unit);
-  if (!storage.lus.empty()) {
-    return kInUse;
-  }
-  storage.groups.clear();
-  return 0;
-}
-
-Group requested(const CreateRaidGroup& request) {
-  Group group;
-  group.level = request.level;
-  group.parityDrives = request.parity_hdu_count;
-  return group;
-}
-
-const CreateRgDrive* chosenIn(const CreateRaidGroup& request) {
-  return request.create_mode == kUnitChooses ? nullptr : request.rgdrv;
 }
 
 int createRaidGroup(const UnitName* unit, const QVSessionInfo*, const CreateRaidGroup* request) {
-  return createGroup(unit, request->rgnum, requested(*request), request->parity_count,
-                     chosenIn(*request));
+  Storage& storage = storageOf(unit);
+  if (request->rgnum < 0 || request->rgnum >= kRaidGroups) {
+    return kUnknownNumber;
+  }
+  if (storage.groups.contains(request->rgnum)) {
+    return kNumberTaken;
+  }
+  Group group;
+  const int result = plan(storage, *request, group);
+  if (result == 0) {
+    storage.groups[request->rgnum] = group;
+  }
+  return result;
 }
 
 int getCreationCapacity(const UnitName* unit, const QVSessionInfo*, const CreateRaidGroup* request,
                         RgDetail* detail) {
-  Group group = requested(*request);
-  const int result =
-      addParityGroups(storageOf(unit), group, request->parity_count, chosenIn(*request));
+  Group group;
+  const int result = plan(storageOf(unit), *request, group);
   if (result == 0) {
-    *detail = describeInDetail(request->rgnum, group);
+    *detail = describe(request->rgnum, group);
   }
   return result;
 }
@@ -315,14 +235,12 @@ int getRaidGroupInformation(const UnitName* unit, const QVSessionInfo*,
                             RaidGroupInformation* information) {
   clear(information);
   for (const auto& [number, group] : storageOf(unit).groups) {
-    information->rg[information->rg_count++] = describeInDetail(number, group);
+    information->rg[information->rg_count++] = describe(number, group);
     for (std::size_t index = 0; index < group.drives.size(); ++index) {
-      const CreateRgDrive& drive = group.drives[index];
       const bool last = index + 1 == group.drives.size();
-      information->rgdrv[drive.unit_no][drive.hdu_no] = {
-          1, last ? kNone : group.drives[index + 1].unit_no,
-          last ? kNone : group.drives[index + 1].hdu_no,
-          static_cast<std::int32_t>(index) / group.parityDrives};
+      const CreateRgDrive next = last ? CreateRgDrive{kNone, kNone} : group.drives[index + 1];
+      information->rgdrv[group.drives[index].unit_no][group.drives[index].hdu_no] = {
+          1, next.unit_no, next.hdu_no, static_cast<std::int32_t>(index) / group.parityDrives};
     }
   }
   return 0;
@@ -330,9 +248,9 @@ int getRaidGroupInformation(const UnitName* unit, const QVSessionInfo*,
 
 int getAreas(const UnitName* unit, const QVSessionInfo*, std::int32_t number,
              RGAreaInformation* information) {
-  const Storage& storage = storageOf(unit);
-  const auto found = storage.groups.find(number);
-  if (found == storage.groups.end()) {
+  const auto& groups = storageOf(unit).groups;
+  const auto found = groups.find(number);
+  if (found == groups.end()) {
     return kUnknownNumber;
   }
   const Group& group = found->second;
@@ -343,14 +261,13 @@ int getAreas(const UnitName* unit, const QVSessionInfo*, std::int32_t number,
   information->lumaxcapa_l = lowWord(group.largestRest());
   std::int32_t before = kNone;
   for (const Area& area : group.areas) {
-    if (static_cast<std::size_t>(information->area_count) == std::size(information->area)) {
-      break;
-    }
     information->area[information->area_count++] = {area.lun == kNone ? kFreeArea : kUsedArea,
                                                     area.lun, before, highWord(area.blocks),
                                                     lowWord(area.blocks)};
-    if (area.lun != kNone) {
-      before = area.lun;
+    before = area.lun == kNone ? before : area.lun;
+    // A group of 8,192 LUs may have more free areas than there is room for.
+    if (static_cast<std::size_t>(information->area_count) == std::size(information->area)) {
+      break;
     }
   }
   return 0;
@@ -362,10 +279,10 @@ int getAreas(const UnitName* unit, const QVSessionInfo*, std::int32_t number,
 using namespace quorvelsim;
 
 SIMULATE(2, QV_GetRaidGroups, getRaidGroups)
-SIMULATE(2, QV_RaidGroupAdd, addRaidGroup)
-SIMULATE(2, QV_RaidGroupExpand, expandRaidGroup)
+SIMULATE(2, QV_RaidGroupAdd)
+SIMULATE(2, QV_RaidGroupExpand)
 SIMULATE(3, QV_RaidGroupDelete, deleteRaidGroup)
-SIMULATE(2, QV_RaidGroupAllDelete, deleteAllRaidGroups)
+SIMULATE(2, QV_RaidGroupAllDelete)
 SIMULATE(3, QV_CreateRaidGroup, createRaidGroup)
 SIMULATE(3, QV_GetRaidGroupInformation, getRaidGroupInformation)
 SIMULATE(4, QV_GetRGAreaInformation, getAreas)

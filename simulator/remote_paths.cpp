@@ -1,9 +1,6 @@
 // Remote arrays and the paths to them, command devices and the synchronisation of ports.
-#include <algorithm>
-#include <iterator>
-
 #include "arraylib/replication.h"
-#include "simulator/simulator.h"
+#include "simulator/simulate.h"
 
 using namespace quorvelsim;
 
@@ -12,29 +9,29 @@ namespace {
 constexpr std::int32_t kConnected = 1;
 
 struct RemotePaths {
-  /// The arrays at the other ends; one without a serial number is free.
-  RvrfSrcArrayUnit arrays[std::extent_v<decltype(RvrfSrcInfo::arrayunit)>]{};
-  std::map<std::int32_t, SyncControl> synchronisation;
+  /// An array without a serial number is a free place.
+  RvrfSrcInfo info{};
+  SyncControl synchronisation[kControllers]{};
 };
 
-RemotePaths& pathsOf(const UnitName* unit) { return findUnit(textOf(*unit))->part<RemotePaths>(); }
-
-/// The array of that serial number, or null; with no number, a free place.
-RvrfSrcArrayUnit* find(RemotePaths& paths, const std::string& serial) {
-  auto* const found = std::find_if(
-      std::begin(paths.arrays), std::end(paths.arrays),
-      [&](const RvrfSrcArrayUnit& array) { return textOf(array.other_serial_no) == serial; });
-  return found == std::end(paths.arrays) ? nullptr : found;
+/// The remote array of a serial number, or null.
+RvrfSrcArrayUnit* find(RvrfSrcInfo& info, const std::string& serial) {
+  for (RvrfSrcArrayUnit& array : info.arrayunit) {
+    if (textOf(array.other_serial_no) == serial) {
+      return &array;
+    }
+  }
+  return nullptr;
 }
 
 int setPaths(const UnitName* unit, const QVSessionInfo*, const RvrfSrcArrayUnit* given) {
-  RemotePaths& paths = pathsOf(unit);
+  RvrfSrcInfo& info = partOf<RemotePaths>(unit).info;
   const std::string serial = textOf(given->other_serial_no);
   if (serial.empty()) {
     return kInvalidName;
   }
-  RvrfSrcArrayUnit* place = find(paths, serial);
-  place = place != nullptr ? place : find(paths, "");
+  RvrfSrcArrayUnit* place = find(info, serial);
+  place = place != nullptr ? place : find(info, "");
   if (place == nullptr) {
     return kTooManyRemotePaths;
   }
@@ -42,22 +39,15 @@ int setPaths(const UnitName* unit, const QVSessionInfo*, const RvrfSrcArrayUnit*
   place->valid = 1;
   for (RvrfSrcPath& path : place->path) {
     path.path_status = path.valid_index == 0 ? 0 : kConnected;
-    // What was set is not told again.
+    // A secret is never returned.
     setText(path.secret, "");
   }
   return 0;
 }
 
 int getPaths(const UnitName* unit, const QVSessionInfo*, RvrfSrcInfo* info) {
-  const Unit& known = *findUnit(textOf(*unit));
-  *info = {};
-  setText(info->self_serial_no, textOf(known.param.serial));
-  std::copy(std::begin(pathsOf(unit).arrays), std::end(pathsOf(unit).arrays), info->arrayunit);
-  return 0;
-}
-
-int deleteAllPaths(const UnitName* unit, const QVSessionInfo*) {
-  std::fill(std::begin(pathsOf(unit).arrays), std::end(pathsOf(unit).arrays), RvrfSrcArrayUnit{});
+  *info = partOf<RemotePaths>(unit).info;
+  setText(info->self_serial_no, textOf(unitOf(unit).param.serial));
   return 0;
 }
 
@@ -65,7 +55,8 @@ int deletePaths(const UnitName* unit, const QVSessionInfo*, const RemotePathDele
   const auto room = static_cast<std::int32_t>(std::size(deletion->serial));
   for (std::int32_t index = 0; index < std::min(deletion->delete_count, room); ++index) {
     const std::string serial = textOf(deletion->serial[index].remote_serial);
-    RvrfSrcArrayUnit* const array = serial.empty() ? nullptr : find(pathsOf(unit), serial);
+    RvrfSrcArrayUnit* const array =
+        serial.empty() ? nullptr : find(partOf<RemotePaths>(unit).info, serial);
     if (array == nullptr) {
       return kUnknownRemotePath;
     }
@@ -74,27 +65,21 @@ int deletePaths(const UnitName* unit, const QVSessionInfo*, const RemotePathDele
   return 0;
 }
 
-int rebuildPath(const UnitName* unit, const QVSessionInfo*, const RemotePathRebuild* rebuild) {
-  const std::string serial = textOf(rebuild->remote_serial);
-  RvrfSrcArrayUnit* const array = serial.empty() ? nullptr : find(pathsOf(unit), serial);
-  if (array == nullptr || rebuild->path < 0 ||
-      rebuild->path >= static_cast<std::int32_t>(std::size(array->path))) {
-    return kUnknownRemotePath;
-  }
-  array->path[rebuild->path].valid_index = 1;
-  array->path[rebuild->path].path_status = kConnected;
-  return 0;
-}
-
-// Written out, because the Set has an int that the Get does not have.
+// The Set has an int that the Get does not have, so that the plain keeping would not find it.
 int getSynchronisation(const UnitName* unit, std::int32_t controller, SyncControl* control) {
-  *control = pathsOf(unit).synchronisation[controller];
+  if (!isController(controller)) {
+    return kNothingFound;
+  }
+  *control = partOf<RemotePaths>(unit).synchronisation[controller];
   return 0;
 }
 
 int setSynchronisation(const UnitName* unit, std::int32_t controller, const SyncControl* control,
                        std::int32_t) {
-  pathsOf(unit).synchronisation[controller] = *control;
+  if (!isController(controller)) {
+    return kNothingFound;
+  }
+  partOf<RemotePaths>(unit).synchronisation[controller] = *control;
   return 0;
 }
 
@@ -105,10 +90,10 @@ SIMULATE(3, QV_SetRemoteDeviceInformation)
 SIMULATE(3, QV_GetRemoteDeviceInformationEx)
 SIMULATE(3, QV_SetRemoteDeviceInformationEx)
 SIMULATE(3, QV_DelRemotePath, deletePaths)
-SIMULATE(3, QV_ReconstructRemotePath, rebuildPath)
+SIMULATE(3, QV_ReconstructRemotePath)
 SIMULATE(3, QV_GetRvrfSrcPath, getPaths)
 SIMULATE(3, QV_SetRvrfSrcPath, setPaths)
-SIMULATE(2, QV_DelRvrfSrcPath, deleteAllPaths)
+SIMULATE(2, QV_DelRvrfSrcPath)
 SIMULATE(3, QV_GetCommandDevice)
 SIMULATE(3, QV_SetCommandDevice)
 SIMULATE(3, QV_GetSyncControl, getSynchronisation)

@@ -1,14 +1,14 @@
-#include "simulator/simulator.h"
-
 #include <algorithm>
 #include <cstring>
 #include <mutex>
 
 #include "simulator/control.h"
+#include "simulator/simulate.h"
 
 namespace quorvelsim {
 namespace {
 
+using Bytes = std::vector<std::byte>;
 using Role = Value::Role;
 
 constexpr char kAllFunctions[] = "*";
@@ -23,7 +23,7 @@ struct Control {
 };
 
 struct Simulator {
-  // A function may be answered by others.
+  // The bundles call the functions that return their members.
   std::recursive_mutex lock;
   State state;
   std::map<std::string, Control> controls;
@@ -35,37 +35,40 @@ Simulator& simulator() {
   return instance;
 }
 
-Bytes bytesOf(const Value& value) {
-  if (value.data == nullptr) {
-    return {};
+/// The arguments of the running call.
+struct Arguments {
+  const Value* first;
+  std::size_t count;
+
+  [[nodiscard]] const Value* begin() const { return first; }
+  [[nodiscard]] const Value* end() const { return first + count; }
+};
+
+void append(Bytes& bytes, const Value& value) {
+  if (value.data != nullptr) {
+    const auto* const first = static_cast<const std::byte*>(value.data);
+    bytes.insert(bytes.end(), first, first + value.bytes);
   }
-  const auto* const first = static_cast<const std::byte*>(value.data);
-  return {first, first + value.bytes};
 }
 
-std::string nameOf(const Value& value) {
-  const auto* const text = static_cast<const char*>(value.data);
-  return {text, std::find(text, text + value.bytes, '\0')};
-}
-
-void fillOutputs(std::span<const Value> values, const Bytes& source) {
+/// Fills the outputs with bytes that lie behind one another; the rest becomes zero.
+void fillOutputs(const Arguments& arguments, const Bytes& source) {
   std::size_t used = 0;
-  for (const Value& value : values) {
-    if (value.role != Role::kOutput || value.data == nullptr) {
-      continue;
+  for (const Value& value : arguments) {
+    if (value.role == Role::kOutput && value.data != nullptr) {
+      const std::size_t given = std::min(value.bytes, source.size() - used);
+      std::memset(value.data, 0, value.bytes);
+      std::copy_n(source.data() + used, given, static_cast<std::byte*>(value.data));
+      used += given;
     }
-    const std::size_t given = std::min(value.bytes, source.size() - used);
-    std::memset(value.data, 0, value.bytes);
-    std::copy_n(source.data() + used, given, static_cast<std::byte*>(value.data));
-    used += given;
   }
 }
 
-/// Refuses a unit or a session that is not known. Returns the unit that the call names, if any.
-int admit(std::span<const Value> values, Unit*& unit) {
-  for (const Value& value : values) {
+/// Refuses a unit or a session that is not known. Finds the unit that the call names, if any.
+int admit(const Arguments& arguments, Unit*& unit) {
+  for (const Value& value : arguments) {
     if (value.role == Role::kUnitName) {
-      unit = findUnit(nameOf(value));
+      unit = findUnit(textOf(*static_cast<const UnitName*>(value.data)));
       if (unit == nullptr) {
         return kUnknownUnit;
       }
@@ -78,26 +81,38 @@ int admit(std::span<const Value> values, Unit*& unit) {
   return 0;
 }
 
-/// A Set keeps its records, the Get of the same operation and ints returns them, or zeros.
-int keep(const std::string& function, std::span<const Value> values, Unit* unit) {
+/// A Set keeps its records. The Get of the same name and ints returns them, or zeros.
+void keep(const std::string& function, const Arguments& arguments, Unit& keeper) {
   std::string key = function.substr(std::min<std::size_t>(function.size(), 6));
   Bytes given;
-  for (const Value& value : values) {
+  for (const Value& value : arguments) {
     if (value.role == Role::kNumber) {
       key += ' ' + std::to_string(*static_cast<const std::int32_t*>(value.data));
     } else if (value.role == Role::kInput) {
-      const Bytes record = bytesOf(value);
-      given.insert(given.end(), record.begin(), record.end());
+      append(given, value);
     }
   }
-  // What belongs to no unit is kept with the unit of the empty name, which cannot be registered.
-  static const std::string kNoUnit;
-  Unit& keeper = unit != nullptr ? *unit : simulator().state.units[kNoUnit];
   if (function.starts_with("QV_Set")) {
     keeper.kept[key] = given;
   }
-  fillOutputs(values, function.starts_with("QV_Get") ? keeper.kept[key] : Bytes{});
-  return 0;
+  fillOutputs(arguments, function.starts_with("QV_Get") ? keeper.kept[key] : Bytes{});
+}
+
+/// Does what the control interface asks for this call, if anything.
+bool isControlled(const Arguments& arguments, Control& control, Control& all, int& result) {
+  // What a function is not told itself it takes from what all are told.
+  Control& forcing = control.forcedTimes > 0 ? control : all;
+  const bool forced = forcing.forcedTimes > 0;
+  const Bytes& prepared = control.prepared.empty() ? all.prepared : control.prepared;
+  if (forced) {
+    --forcing.forcedTimes;
+    result = forcing.forcedResult;
+  }
+  const bool controlled = forced || !prepared.empty();
+  if (controlled && result == 0) {
+    fillOutputs(arguments, prepared);
+  }
+  return controlled;
 }
 
 }  // namespace
@@ -106,49 +121,47 @@ State& state() { return simulator().state; }
 
 Unit* findUnit(const std::string& name) {
   const auto found = state().units.find(name);
-  return name.empty() || found == state().units.end() ? nullptr : &found->second;
+  return found == state().units.end() ? nullptr : &found->second;
 }
 
 std::string identifierOf(const QVSessionInfo& session) {
   return {reinterpret_cast<const char*>(session.session_id), sizeof session.session_id};
 }
 
-int run(const std::string& function, std::span<const Value> values,
-        const std::function<int()>& handler) {
+Call::Call(const char* function, const Value* values, std::size_t count, bool hasHandler) {
   Simulator& self = simulator();
-  const std::lock_guard guard(self.lock);
+  self.lock.lock();
+  const Arguments arguments{values, count};
   Control& control = self.controls[function];
-  ++control.calls;
-  control.lastInputs.clear();
-  for (const Value& value : values) {
-    control.lastInputs.push_back(value.role == Role::kOutput ? Bytes{} : bytesOf(value));
-  }
-  if (self.observer != nullptr) {
-    self.observer(function.c_str());
-  }
-  // What a function is not told itself it takes from what all are told.
   Control& all = self.controls[kAllFunctions];
+  ++control.calls;
   ++all.calls;
-  Control& forcing = control.forcedTimes > 0 ? control : all;
-  const bool forced = forcing.forcedTimes > 0;
-  if (forced) {
-    --forcing.forcedTimes;
-    if (forcing.forcedResult != 0) {
-      return forcing.forcedResult;
+  control.lastInputs.clear();
+  for (const Value& value : arguments) {
+    Bytes& input = control.lastInputs.emplace_back();
+    if (value.role != Role::kOutput) {
+      append(input, value);
     }
   }
-  const Bytes& prepared = control.prepared.empty() ? all.prepared : control.prepared;
-  if (forced || !prepared.empty()) {
-    fillOutputs(values, prepared);
-    return 0;
+  if (self.observer != nullptr) {
+    self.observer(function);
+  }
+  if (isControlled(arguments, control, all, result_)) {
+    return;
   }
   Unit* unit = nullptr;
-  const int refused = admit(values, unit);
-  if (refused != 0) {
-    return refused;
+  result_ = admit(arguments, unit);
+  if (result_ != 0) {
+    return;
   }
-  return handler ? handler() : keep(function, values, unit);
+  if (hasHandler) {
+    settled_ = false;
+  } else {
+    keep(function, arguments, unit != nullptr ? *unit : self.state.host);
+  }
 }
+
+Call::~Call() { simulator().lock.unlock(); }
 
 }  // namespace quorvelsim
 

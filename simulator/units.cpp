@@ -1,44 +1,51 @@
 // The list of registered units, and the network on which they are found.
 #include "arraylib/units.h"
 
-#include <algorithm>
-#include <iterator>
+#include <utility>
 
-#include "simulator/simulator.h"
+#include "simulator/simulate.h"
 
 using namespace quorvelsim;
 
 namespace {
 
-/// An array that answers on the network.
+/// An array that answers on the network, with the addresses of its controllers.
 struct Station {
-  const char* address;
+  const char* addresses[kControllers];
   const char* serial;
   std::uint8_t deviceType;
-  std::uint8_t controller;
 };
 
 constexpr Station kNetwork[] = {
-    {"192.0.2.10", "85000101", 201, 0},
-    {"192.0.2.11", "85000101", 201, 1},
-    {"192.0.2.20", "85000202", 203, 0},
+    {{"192.0.2.10", "192.0.2.11"}, "85000101", 201},
+    {{"192.0.2.20", "192.0.2.21"}, "85000202", 203},
 };
-constexpr std::int32_t kPort = 2000;
 
-const Station* findStation(const std::string& address) {
-  const auto* const found =
-      std::find_if(std::begin(kNetwork), std::end(kNetwork),
-                   [&](const Station& station) { return address == station.address; });
-  return found == std::end(kNetwork) ? nullptr : found;
+/// The station of an address, or null. Finds the controller that has the address.
+const Station* findStation(const std::string& address, std::uint8_t* controller = nullptr) {
+  for (const Station& station : kNetwork) {
+    for (std::uint8_t index = 0; index < kControllers; ++index) {
+      if (address == station.addresses[index]) {
+        if (controller != nullptr) {
+          *controller = index;
+        }
+        return &station;
+      }
+    }
+  }
+  return nullptr;
 }
 
-/// What the network tells of a unit fills what its registration leaves empty.
+/// Fills from the network what a registration leaves empty.
 QVUnitParam completed(const QVUnitParam& given) {
   QVUnitParam param = given;
   const Station* const station = findStation(textOf(param.ctl0));
   if (station != nullptr && textOf(param.serial).empty()) {
     setText(param.serial, station->serial);
     param.device_type = station->deviceType;
+  }
+  if (station != nullptr && textOf(param.ctl1).empty()) {
+    setText(param.ctl1, station->addresses[1]);
   }
   return param;
 }
@@ -51,15 +58,13 @@ int addUnit(const QVUnitParam* param) {
   if (findUnit(name) != nullptr) {
     return kUnitExists;
   }
-  Unit unit;
+  Unit& unit = state().units[name];
   unit.param = completed(*param);
-  Account account{};
+  Account& account = unit.accounts[kFirstUser];
   setText(account.user_id, kFirstUser);
   setText(account.passwd, kFirstPassword);
   account.role = 1;
   account.account_enable = 1;
-  unit.accounts[kFirstUser] = account;
-  state().units[name] = unit;
   return 0;
 }
 
@@ -97,61 +102,38 @@ int deleteUnit(const UnitName* unit) {
 }
 
 int getUnitParam(const UnitName* unit, QVUnitParam* param) {
-  *param = findUnit(textOf(*unit))->param;
+  *param = unitOf(unit).param;
   return 0;
-}
-
-/// The registered units in the order of their names.
-std::vector<const QVUnitParam*> registered() {
-  std::vector<const QVUnitParam*> params;
-  for (const auto& [name, unit] : state().units) {
-    if (!name.empty()) {
-      params.push_back(&unit.param);
-    }
-  }
-  return params;
 }
 
 int getUnitCount(std::int32_t* count) {
-  *count = static_cast<std::int32_t>(registered().size());
+  *count = static_cast<std::int32_t>(state().units.size());
   return 0;
 }
 
+/// Lists the units in the order of their names.
 int getUnitParamTable(std::int32_t count, QVUnitParam* table) {
   std::int32_t index = 0;
-  for (const QVUnitParam* const param : registered()) {
+  for (const auto& [name, unit] : state().units) {
     if (index < count) {
-      table[index++] = *param;
+      table[index++] = unit.param;
     }
   }
   return 0;
 }
 
 int discover(const DiscoverUnitRequest* request, DiscoverUnit* found) {
-  const Station* const station = findStation(textOf(request->ip_dev));
+  clear(found);
+  const std::string address = textOf(request->ip_dev);
+  const Station* const station = findStation(address, &found->ctlno);
   if (station == nullptr) {
     return kNothingFound;
   }
-  *found = {};
   found->connect_type = request->connect_type;
-  setText(found->ip_dev, station->address);
+  setText(found->ip_dev, address);
   found->device_type = station->deviceType;
-  found->ctlno = station->controller;
   setText(found->serial, station->serial);
-  found->communication_port = kPort;
-  return 0;
-}
-
-int addAdditionalUnit(const UnitName* unit, const QVSessionInfo*, const AdditionalUnitRequest*) {
-  auto& additional = findUnit(textOf(*unit))->part<AdditionalUnitInformation>();
-  ++additional.add_unit_num;
-  ++additional.connect_unit_num;
-  return 0;
-}
-
-int getAdditionalUnits(const UnitName* unit, const QVSessionInfo*,
-                       AdditionalUnitInformation* information) {
-  *information = findUnit(textOf(*unit))->part<AdditionalUnitInformation>();
+  found->communication_port = kTcpPort;
   return 0;
 }
 
@@ -166,12 +148,13 @@ SIMULATE(2, QV_GetUnitParam, getUnitParam)
 SIMULATE(1, QV_GetUnitCount, getUnitCount)
 SIMULATE(2, QV_DiscoverUnitInformation, discover)
 SIMULATE(2, QV_DiscoverUnitInformationEx, discover)
-SIMULATE(3, QV_AddAdditionalUnit, addAdditionalUnit)
-SIMULATE(3, QV_GetAdditionalUnitInformation, getAdditionalUnits)
+SIMULATE(3, QV_AddAdditionalUnit)
+SIMULATE(3, QV_GetAdditionalUnitInformation)
 
 // Written out, because only here the caller's count says how large the output is.
 int QV_GetUnitParamTable(std::int32_t count, QVUnitParam* table) {
   const std::size_t bytes = count < 0 ? 0 : static_cast<std::size_t>(count) * sizeof *table;
-  const std::array<Value, 2> values{describe(count), Value{Value::Role::kOutput, table, bytes}};
-  return run("QV_GetUnitParamTable", values, [=] { return getUnitParamTable(count, table); });
+  const Value values[] = {describe(count), {Value::Role::kOutput, table, bytes}};
+  const Call running("QV_GetUnitParamTable", values, std::size(values), true);
+  return running.settled() ? running.result() : getUnitParamTable(count, table);
 }

@@ -136,7 +136,7 @@ TEST_F(FibreAndLan, WhatIsSetIsReadBack) {
                 javaEnv()->GetObjectArrayElement(array, 1)),
             "");
   expectFields(information("QV_GetFibreInformation"),
-               {{"[0].port[7].set_speed", "0"}, {"[1].port[7].set_speed", "16"}});
+               {{"[0].port[7].set_speed", "8"}, {"[1].port[7].set_speed", "16"}});
 }
 
 TEST_F(FibreAndLan, ImportedPermissions) {

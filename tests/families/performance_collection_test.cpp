@@ -286,13 +286,15 @@ TEST_F(PerformanceCollection, GraphsAreBuiltAtFullCapacity) {
 }
 
 TEST_F(PerformanceCollection, CountsBecomeAFile) {
+  createGroup(0);
+  createLu(3, 0, 0, 2048);
   const jobject before = information("QV_GetPerformance");
   const jobject after = information("QV_GetPerformance");
   const std::string path = temporary("counts");
   EXPECT_EQ(run("QV_PerformanceOutputLU", path, element(before, 0), element(after, 0),
                 element(before, 1), element(after, 1), selection(4096, {3}), 0, 0),
             "");
-  EXPECT_EQ(contentOf(path), "controller,lu,reads,writes\n1,3,3900,1300\n");
+  EXPECT_EQ(contentOf(path), "controller,lu,reads,writes\n0,3,3900,1300\n");
 }
 
 }  // namespace

@@ -1,0 +1,124 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <tuple>
+#include <type_traits>
+
+#include "arraylib/accounts.h"
+#include "simulator/codes.h"
+#include "simulator/state.h"
+
+// How a function of the library is simulated: by one line in the source of its subsystem, with the
+// number of its parameters.
+//
+//   SIMULATE(3, QV_SetAccountOption)              keeps its records for the Get of the same name
+//   SIMULATE(3, QV_CreateAccount, createAccount)  does what `createAccount` does
+//
+// A function that keeps nothing and returns nothing does no more than succeed. Before that, a unit
+// name of 65 bytes must be that of a registered unit, and a session must be one of that unit's. All
+// calls run under one lock.
+namespace quorvelsim {
+
+/// One argument of a call, without its type.
+struct Value {
+  enum class Role { kUnitName, kText, kSession, kInput, kNumber, kOutput };
+  Role role;
+  void* data;
+  std::size_t bytes;
+};
+
+template <class Parameter>
+Value describe(Parameter& parameter) {
+  using Target = std::remove_pointer_t<Parameter>;
+  if constexpr (std::is_same_v<Parameter, std::int32_t>) {
+    return {Value::Role::kNumber, &parameter, sizeof parameter};
+  } else {
+    constexpr Value::Role kRole =
+        std::is_same_v<Target, const UnitName>                          ? Value::Role::kUnitName
+        : std::is_same_v<std::remove_all_extents_t<Target>, const char> ? Value::Role::kText
+        : std::is_same_v<Target, const QVSessionInfo>                   ? Value::Role::kSession
+        : std::is_const_v<std::remove_all_extents_t<Target>>            ? Value::Role::kInput
+                                                                        : Value::Role::kOutput;
+    return {kRole, const_cast<std::remove_const_t<Target>*>(parameter), sizeof(Target)};
+  }
+}
+
+/// One call of a library function, which holds the lock as long as it lives.
+class Call {
+ public:
+  /// Settles the call where the control interface asks for that, where it names an unknown unit or
+  /// session, and where it has no handler.
+  Call(const char* function, const Value* values, std::size_t count, bool hasHandler);
+  Call(const Call&) = delete;
+  Call& operator=(const Call&) = delete;
+  ~Call();
+
+  [[nodiscard]] bool settled() const { return settled_; }
+  [[nodiscard]] int result() const { return result_; }
+
+ private:
+  bool settled_ = true;
+  int result_ = 0;
+};
+
+template <class... Parameter>
+int call(const char* function, int (*handler)(Parameter...), Parameter... parameters) {
+  const Value values[] = {describe(parameters)..., Value{}};
+  const Call running(function, values, sizeof...(Parameter), handler != nullptr);
+  return running.settled() ? running.result() : handler(parameters...);
+}
+
+template <class Function>
+struct Parameters;
+template <class... Parameter>
+struct Parameters<int(Parameter...)> {
+  using Handler = int (*)(Parameter...);
+  using All = std::tuple<Parameter...>;
+};
+template <class Function, std::size_t Index>
+using ParameterOf = std::tuple_element_t<Index, typename Parameters<Function>::All>;
+
+}  // namespace quorvelsim
+
+#define SIMULATE(count, function, ...)                                                        \
+  int function(SIMULATE_PARAMETERS_##count(function)) {                                       \
+    return quorvelsim::call(#function,                                                        \
+                            static_cast<quorvelsim::Parameters<decltype(function)>::Handler>( \
+                                SIMULATE_HANDLER(__VA_ARGS__)) SIMULATE_ARGUMENTS_##count);   \
+  }
+#define SIMULATE_HANDLER(...) SIMULATE_FIRST(__VA_ARGS__ __VA_OPT__(, ) nullptr)
+#define SIMULATE_FIRST(first, ...) first
+#define SIMULATE_PARAMETER(function, index) \
+  quorvelsim::ParameterOf<decltype(function), index> p##index
+#define SIMULATE_PARAMETERS_0(function)
+#define SIMULATE_PARAMETERS_1(function) SIMULATE_PARAMETER(function, 0)
+#define SIMULATE_PARAMETERS_2(function) \
+  SIMULATE_PARAMETERS_1(function), SIMULATE_PARAMETER(function, 1)
+#define SIMULATE_PARAMETERS_3(function) \
+  SIMULATE_PARAMETERS_2(function), SIMULATE_PARAMETER(function, 2)
+#define SIMULATE_PARAMETERS_4(function) \
+  SIMULATE_PARAMETERS_3(function), SIMULATE_PARAMETER(function, 3)
+#define SIMULATE_PARAMETERS_5(function) \
+  SIMULATE_PARAMETERS_4(function), SIMULATE_PARAMETER(function, 4)
+#define SIMULATE_PARAMETERS_6(function) \
+  SIMULATE_PARAMETERS_5(function), SIMULATE_PARAMETER(function, 5)
+#define SIMULATE_PARAMETERS_7(function) \
+  SIMULATE_PARAMETERS_6(function), SIMULATE_PARAMETER(function, 6)
+#define SIMULATE_PARAMETERS_8(function) \
+  SIMULATE_PARAMETERS_7(function), SIMULATE_PARAMETER(function, 7)
+#define SIMULATE_PARAMETERS_9(function) \
+  SIMULATE_PARAMETERS_8(function), SIMULATE_PARAMETER(function, 8)
+#define SIMULATE_PARAMETERS_10(function) \
+  SIMULATE_PARAMETERS_9(function), SIMULATE_PARAMETER(function, 9)
+#define SIMULATE_ARGUMENTS_0
+#define SIMULATE_ARGUMENTS_1 , p0
+#define SIMULATE_ARGUMENTS_2 SIMULATE_ARGUMENTS_1, p1
+#define SIMULATE_ARGUMENTS_3 SIMULATE_ARGUMENTS_2, p2
+#define SIMULATE_ARGUMENTS_4 SIMULATE_ARGUMENTS_3, p3
+#define SIMULATE_ARGUMENTS_5 SIMULATE_ARGUMENTS_4, p4
+#define SIMULATE_ARGUMENTS_6 SIMULATE_ARGUMENTS_5, p5
+#define SIMULATE_ARGUMENTS_7 SIMULATE_ARGUMENTS_6, p6
+#define SIMULATE_ARGUMENTS_8 SIMULATE_ARGUMENTS_7, p7
+#define SIMULATE_ARGUMENTS_9 SIMULATE_ARGUMENTS_8, p8
+#define SIMULATE_ARGUMENTS_10 SIMULATE_ARGUMENTS_9, p9
