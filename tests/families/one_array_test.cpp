@@ -1,5 +1,7 @@
 // What the library tells of one array in several places: the same question, asked in two ways.
-#include "tests/real_jvm/registered_unit.h"
+#include <fstream>
+
+#include "tests/families/registered_unit.h"
 
 namespace quorvelj::testing {
 namespace {
@@ -20,7 +22,7 @@ class OneArray : public RegisteredUnit {
     EXPECT_EQ(createLu(4000, 3, 0, 8192), "");
     EXPECT_EQ(run("QV_PoolLUAdd", 2, 3, 5), "");
     EXPECT_EQ(run("QV_CreateHG", 1, 3, 9, create("HGInfo", {{"hgname", "hosts"}})), "");
-    const jobject mapping = realJvm()->GetObjectArrayElement(
+    const jobject mapping = javaEnv()->GetObjectArrayElement(
         static_cast<jobjectArray>(information("QV_GetLuMappingList", 1, 3, 9)), 1);
     set(mapping, "lu[2047]", "4000");
     EXPECT_EQ(run("QV_SetLuMappingList", 1, 3, 9, mapping), "");
