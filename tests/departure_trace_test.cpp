@@ -49,8 +49,16 @@ TEST_F(DepartureTrace, UnitTable) {
   expectEvents(trace("QV_GetUnitParamTable", {count}),
                Events{"calloc 0" + timesUnit, "QV_GetUnitParamTable"} + newArray("QVUnitParam", 0) +
                    Events{"flush", "free"});
+  quorvelSimForceResult("*", 7, 1);
+  expectEvents(trace("QV_GetUnitParamTable", {count}),
+               Events{"calloc 0" + timesUnit, "QV_GetUnitParamTable", "flush", "free"} + kThrow);
+  jvm_.clearPending();
+  count.i = 2;
+  jvm_.removeField("qv_type");
+  expectEnd(trace("QV_GetUnitParamTable", {count}), {"GetFieldID qv_type I", "flush", "free"});
+  EXPECT_EQ(nullsOf(result_.l, 2).size(), 2U);
   jvm_.removeClass("tessaly/str/diskarray/QVUnitParam");
-  invoke("QV_GetUnitParamTable", {count});
+  expectEnd(trace("QV_GetUnitParamTable", {count}), Events{"flush", "free"} + kThrow);
   EXPECT_EQ(thrown(), "DiskArrayException -1");
   count.i = -1;
   expectEvents(trace("QV_GetUnitParamTable", {count}),
@@ -130,9 +138,11 @@ TEST_F(DepartureTrace, FlatInformationIsPartialWithoutAnException) {
   EXPECT_EQ(nulls.size(), static_cast<std::size_t>(450 - nulls.front()));
   EXPECT_EQ(thrown(), "NoSuchFieldError add_info_index");
   jvm_.removeField("drive_rotation");
-  EXPECT_EQ(nullsOf(invoke("QV_GetDriveInformationAll").l, 450).size(), 450U);
+  expectEnd(trace("QV_GetDriveInformationAll"), {"GetFieldID drive_rotation I", "free", "flush"});
+  EXPECT_EQ(nullsOf(result_.l, 450).size(), 450U);
   jvm_.removeClass("tessaly/str/diskarray/DiskDriveInformation");
-  EXPECT_EQ(invoke("QV_GetDriveInformationAll").l, nullptr);
+  expectEnd(trace("QV_GetDriveInformationAll"), {"free"});
+  EXPECT_EQ(result_.l, nullptr);
   EXPECT_EQ(thrown(), "ClassNotFoundException tessaly/str/diskarray/DiskDriveInformation");
 }
 
@@ -323,9 +333,12 @@ TEST_F(DepartureTrace, SnapshotsThatTheLibraryRefuses) {
 
 TEST_F(DepartureTrace, AFailingElementEndsThePairOfSnapshots) {
   jvm_.removeClass("tessaly/str/diskarray/StatisticalCommand_Info");
-  EXPECT_EQ(nullsOf(invoke("QV_GetPerformance").l, 2).size(), 2U);
+  expectEnd(trace("QV_GetPerformance"), {"flush"});
+  EXPECT_EQ(nullsOf(result_.l, 2).size(), 2U);
   jvm_.removeClass("tessaly/str/diskarray/StatisticalCommand");
-  EXPECT_EQ(countOf(trace("QV_GetPerformance"), "Throw"), 0);
+  const Events events = trace("QV_GetPerformance");
+  EXPECT_EQ(countOf(events, "Throw"), 0);
+  EXPECT_NE(events.back(), "flush");
   EXPECT_EQ(result_.l, nullptr);
 }
 

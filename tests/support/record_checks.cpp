@@ -103,7 +103,7 @@ void expectOrder(FieldLog& log, jobject root, const Members& members) {
       std::size_t found = 0;
       EXPECT_TRUE(inOrder(visit, expected, found))
           << "in \"" << holder << "\" the fields are visited in the order "
-          << ::testing::PrintToString(visit);
+          << ::testing::PrintToString(std::vector<std::string>(visit.begin(), visit.end()));
       complete = complete || found == expected.size();
     }
     EXPECT_TRUE(complete) << "no object is visited in all fields of \"" << holder << '"';

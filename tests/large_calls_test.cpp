@@ -1,0 +1,56 @@
+// What the calls that return the most objects, up to a million, hold while they build them.
+#include <gtest/gtest.h>
+
+#include "simulator/control.h"
+#include "tests/support/mini_jvm.h"
+#include "tests/support/native_methods.h"
+#include "tests/support/test_runtime.h"
+
+namespace quorvelj::testing {
+namespace {
+
+struct LargeCall {
+  const char* method;
+  std::size_t recordBytes;
+  int references;
+};
+
+class LargeCalls : public ::testing::TestWithParam<LargeCall> {
+ protected:
+  LargeCalls() {
+    quorvelSimReset();
+    quorvelSimForceResult("*", 0, 1);
+    resetTestRuntime();
+  }
+  ~LargeCalls() override {
+    quorvelSimReset();
+    resetTestRuntime();
+  }
+};
+
+TEST_P(LargeCalls, HoldOneRecordAndFewReferences) {
+  const auto& [name, recordBytes, references] = GetParam();
+  constexpr std::size_t kSessionBytes = 32;
+  MiniJvm jvm;
+  const NativeMethod& method = nativeMethod(name);
+  std::vector<jvalue> arguments(method.argumentTypes().size());
+  arguments[0].l = jvm.newText("north");
+  const int before = jvm.liveReferences();
+  EXPECT_NE(method.invoke(jvm.env(), arguments).l, nullptr);
+  EXPECT_EQ(testRuntime().mostBytes, recordBytes + kSessionBytes);
+  EXPECT_EQ(testRuntime().liveRecords, 0);
+  EXPECT_EQ(jvm.mostReferences() - before, references);
+  EXPECT_EQ(jvm.liveReferences() - before, 1);
+}
+
+constexpr std::size_t kRequestBytes = 4;
+INSTANTIATE_TEST_SUITE_P(, LargeCalls,
+                         ::testing::Values(LargeCall{"QV_GetAllInformation", 76'038'764, 10},
+                                           LargeCall{"QV_GetAllInformationLite", 76'038'764, 10},
+                                           LargeCall{"QV_GetAllInfo_HG", 225'436 + kRequestBytes,
+                                                     10},
+                                           LargeCall{"QV_GetPairInformationLite", 26'333'420, 7}),
+                         [](const auto& parameter) { return std::string(parameter.param.method); });
+
+}  // namespace
+}  // namespace quorvelj::testing
