@@ -52,10 +52,9 @@ void moreElementsThanTheMemberHas();
 /// One Java field and its place in the record.
 struct Field {
   const char* name;
-  /// JNI signature. The elements of an array have the signature behind its first bracket. A part,
-  /// which is no field of its own, has none.
+  /// JNI signature; that of an array's elements begins behind its first bracket. A part has none.
   const char* signature;
-  /// The map of a record's elements or of a part, else null.
+  /// The map of a record, of an array's records, or of a part; else null.
   const ClassMap* element;
   /// Bytes from the start of the record.
   std::size_t offset;

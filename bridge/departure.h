@@ -21,7 +21,7 @@ struct Departure {
   int neverReleased = 0;
   /// The first allocation, counted from 1, that it goes on without.
   int firstUntestedAllocation = std::numeric_limits<int>::max();
-  /// The number of characters arrays that it never releases.
+  /// The number of texts whose characters it never releases.
   int neverReleasedCharacters = 0;
   /// Takes a null text for an empty one.
   bool acceptsNullText = false;

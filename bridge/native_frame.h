@@ -139,7 +139,7 @@ class Argument<std::int32_t> {
 template <std::size_t N>
 class Argument<const char (*)[N]> {
  public:
-  // Where the characters cannot be had the copy leaves the buffer alone: then the text is empty.
+  // Characters that cannot be had leave the buffer as it is: an empty text.
   explicit Argument(jstring text) : text_(text) { buffer_[0] = '\0'; }
   bool accept(JNIEnv* env) { return copyRequiredText(env, text_, buffer_, N); }
   bool allocate() { return true; }
@@ -273,7 +273,7 @@ class LibraryCall {
     return std::apply(visit, inputs_);
   }
 
-  /// Reads an input. Behind one that left an exception pending no other is read: JNI forbids it.
+  /// Reads an input. Once one has left an exception pending, JNI forbids the reading of others.
   template <class Input>
   void read(Input& input) {
     if (!stopped_) {
