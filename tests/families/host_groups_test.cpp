@@ -71,6 +71,8 @@ TEST_F(HostGroups, Groups) {
 
 TEST_F(HostGroups, Mappings) {
   expectFromUnit("QV_GetLuMappingListAll", 33423500, kLuMapping);
+  expectBuilt("QV_GetLuMappingListAllLite", {unit_, session_}, 33423500, kLuMapping,
+              "QV_GetLuMappingListAll");
   expectFromUnit("QV_GetLuMappingPortList", 2088976, kLuMappingPortList, {1, 7});
   expectFromUnit("QV_GetMappingGuardList", 8192, kMappingGuardList);
   expectBuilt("QV_GetLuMappingPortAssignInfo", {unit_, session_, create("ControllerRequest")},
