@@ -1,5 +1,5 @@
-// The whole array in one record, and slices of it. Each member is what the function answers that
-// returns it alone.
+// The whole array in one record, and slices of it. The function that returns a record alone fills
+// the member of that type.
 #include "arraylib/all_information.h"
 
 #include <memory>

@@ -2,7 +2,7 @@
 
 namespace quorvelsim {
 
-/// What the simulator refuses with. The codes are its own; the real library has others.
+/// The codes of the simulator's refusals. The real library has others.
 enum Code : int {
   kUnknownUnit = 20001,
   kUnitExists = 20002,

@@ -1,4 +1,4 @@
-// Copy pairs inside an array and their consistency groups. Remote pairs are only kept.
+// Copy pairs inside an array and their consistency groups. Remote pairs have no behaviour.
 #include <initializer_list>
 #include <map>
 #include <vector>
@@ -49,7 +49,7 @@ struct CopyPairs {
   std::map<std::int32_t, std::string> groupNames;
   std::int32_t minutes = 0;
 
-  /// Returns another time for every event.
+  /// Returns a new time at every call.
   DateTime now() {
     ++minutes;
     return {2024, 1, 1 + minutes / 1440 % 28, minutes / 60 % 24, minutes % 60, 0};

@@ -8,7 +8,7 @@ namespace {
 
 constexpr char kSubnet[] = "255.255.255.0";
 
-/// A LAN that begins with the addresses under which the unit is registered.
+/// The LAN of a unit. Its first addresses are those of the registration.
 struct Lan {
   bool made = false;
   LANInformation controllers[kControllers]{};
@@ -166,7 +166,7 @@ int setFibre(const UnitName* unit, const QVSessionInfo*, const FibreInformation*
   return 0;
 }
 
-/// Opens no file: it always holds the same two hosts.
+/// Returns the same two hosts for every file and opens none.
 int importPermissions(const UnitName*, const FilePath* path, std::int32_t port,
                       FibreInformationPermission (*permissions)[128]) {
   if (textOf(*path).empty() || !isPort(0, port)) {

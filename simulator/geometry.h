@@ -9,7 +9,7 @@ namespace quorvelsim {
 /// A number of blocks of 512 bytes.
 using Blocks = std::uint64_t;
 
-/// A number of an LU, a group or a drive that stands for none.
+/// Stands for no LU, no group or no drive where a number is expected.
 inline constexpr std::int32_t kNone = -1;
 
 // Controllers and their paths
@@ -22,7 +22,7 @@ inline constexpr std::int32_t kBackendPaths = 2;
 /// The cache of a controller in MiB.
 inline constexpr std::int32_t kCacheSize = 4096;
 
-/// Where a controller listens for this library, in the clear and secured.
+/// The TCP ports of a controller for this library, without and with encryption.
 inline constexpr std::int32_t kTcpPort = 2000;
 inline constexpr std::int32_t kSecureTcpPort = 28355;
 
@@ -70,7 +70,7 @@ inline constexpr std::int32_t kRaidGroups = 200;
 inline constexpr std::int32_t kLogicalUnits = 8192;
 inline constexpr std::int32_t kPools = 64;
 inline constexpr std::int32_t kPoolLus = 64;
-/// The host groups of a port, and how many groups and targets of a port LUs can be mapped to.
+/// The host groups of a port, and all numbers to which LUs can be mapped: groups, then targets.
 inline constexpr std::int32_t kHostGroups = 128;
 inline constexpr std::int32_t kMappable = 255;
 /// The targets, initiators and CHAP users of an iSCSI port.

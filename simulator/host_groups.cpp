@@ -45,7 +45,7 @@ struct HostGroups {
   HGOptionInfo& optionOf(const Place& at) {
     return options.ctl[at.controller].port[at.port].hg[at.group];
   }
-  /// Refuses a place without a host group. The numbers behind the host groups are targets.
+  /// Refuses a host group that does not exist. The numbers behind the host groups are targets.
   int admit(const Place& at) {
     if (!isPort(at.controller, at.port)) {
       return kUnknownPort;
@@ -158,8 +158,8 @@ int getGroupMapping(const UnitName* unit, const QVSessionInfo*, std::int32_t con
   return refused;
 }
 
-/// Maps LUs to a host group. Refuses guarded LUs, unless they were mapped there before, and LUs for
-/// a group that does not exist.
+/// Maps LUs to a host group. Refuses a group that does not exist, and guarded LUs that were not
+/// mapped there before.
 int map(HostGroups& groups, const Place& at, const LuMappingHGInfo& mapping) {
   const LuMappingHGInfo before = mappingAt(groups, at);
   LuMappingHGInfo after = unmapped();

@@ -8,7 +8,7 @@ namespace {
 
 enum PingStatus : std::int32_t { kPingRunning = 1, kPingDone = 2 };
 
-/// Does `visit` to the iSCSI ports of records that are nested by controllers and ports.
+/// Calls `visit` with each iSCSI port of records that have ports by controller.
 template <class Visit, class... All>
 void eachPort(Visit visit, All&... all) {
   for (auto controller = 0; controller < kControllers; ++controller) {

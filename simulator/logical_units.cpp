@@ -199,7 +199,7 @@ int getFormatPercent(const UnitName* unit, std::int32_t lun, std::int32_t* perce
   });
 }
 
-/// Enters the LUs whose byte is not 0 and which exist.
+/// Enters the existing LUs whose byte is not 0.
 int enterQuickFormats(const UnitName* unit, const QVSessionInfo*,
                       const QuickFormatEntryList* list) {
   Storage& storage = storageOf(unit);

@@ -15,7 +15,7 @@ constexpr std::int32_t kMostFiles = 2880;
 constexpr std::int32_t kFirstYear = 110;  // since 1900
 
 struct Performance {
-  /// The intervals that were counted. Nothing counts while the statistics are off.
+  /// The intervals so far. Nothing counts while the statistics are off.
   std::int32_t intervals = 0;
   std::int32_t statistics = 1;
   Threshold threshold{20, 20, 50, 50, 50, 50, 20, 20, 20, 20, 20, 20, 100, 100};
@@ -64,7 +64,7 @@ void count(LuEx_Info& info, std::int32_t commands) {
   info.total_tag_set_count = commands;
 }
 
-/// The first counted minute is that of a fixed day's morning.
+/// Each interval is a minute, from midnight of a fixed day on.
 QVTime timeOf(std::int32_t intervals) {
   QVTime time{};
   time.tm_min = intervals % 60;
@@ -183,7 +183,7 @@ int writeFile(const std::string& path, const std::string& text,
   return file.flush() ? 0 : int{kFileFailed};
 }
 
-/// The advance of a counter between two snapshots, in which it may have passed its largest value.
+/// The increase of a counter between two snapshots. The counter may have wrapped around.
 std::uint32_t between(std::int32_t before, std::int32_t after) {
   return static_cast<std::uint32_t>(after) - static_cast<std::uint32_t>(before);
 }

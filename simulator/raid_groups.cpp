@@ -8,7 +8,7 @@ namespace quorvelsim {
 
 namespace {
 
-/// The drives' worth of data in a parity group, 0 where a level cannot have such a group.
+/// How many drives of a parity group hold data; 0 where the level has no group of so many drives.
 std::int32_t dataDrives(std::int32_t level, std::int32_t drives) {
   switch (level) {
     case 0:
@@ -133,7 +133,7 @@ std::vector<CreateRgDrive> chosenDrives(const Storage& storage, const CreateRaid
   return drives;
 }
 
-/// Makes the group that is requested. It is not yet one of the unit's.
+/// Makes the requested group without adding it to the unit.
 int plan(const Storage& storage, const CreateRaidGroup& request, Group& group) {
   group.level = request.level;
   group.parityDrives = request.parity_hdu_count;

@@ -31,7 +31,7 @@ void clear(Record* record) {
   std::memset(static_cast<void*>(record), 0, sizeof *record);
 }
 
-/// The two words of a capacity, and the one word of older records, which holds as much as fits.
+/// A capacity has two words. The single word of older records holds as much of it as fits.
 inline std::int32_t highWord(Blocks blocks) { return static_cast<std::int32_t>(blocks >> 32); }
 inline std::int32_t lowWord(Blocks blocks) {
   return static_cast<std::int32_t>(static_cast<std::uint32_t>(blocks));

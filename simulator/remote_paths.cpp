@@ -65,7 +65,7 @@ int deletePaths(const UnitName* unit, const QVSessionInfo*, const RemotePathDele
   return 0;
 }
 
-// The Set has an int that the Get does not have, so that the plain keeping would not find it.
+// The Set has one int more than the Get: the plain keeping does not match them.
 int getSynchronisation(const UnitName* unit, std::int32_t controller, SyncControl* control) {
   if (!isController(controller)) {
     return kNothingFound;

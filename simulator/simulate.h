@@ -13,11 +13,11 @@
 // number of its parameters.
 //
 //   SIMULATE(3, QV_SetAccountOption)              keeps its records for the Get of the same name
-//   SIMULATE(3, QV_CreateAccount, createAccount)  does what `createAccount` does
+//   SIMULATE(3, QV_CreateAccount, createAccount)  calls `createAccount`
 //
-// A function that keeps nothing and returns nothing does no more than succeed. Before that, a unit
-// name of 65 bytes must be that of a registered unit, and a session must be one of that unit's. All
-// calls run under one lock.
+// A function without a handler that is neither a Set nor a Get only succeeds. In all cases, a unit
+// name of 65 bytes must name a registered unit, and a session must be one of that unit. All calls
+// run under one lock.
 namespace quorvelsim {
 
 /// One argument of a call, without its type.
@@ -47,8 +47,8 @@ Value describe(Parameter& parameter) {
 /// One call of a library function, which holds the lock as long as it lives.
 class Call {
  public:
-  /// Settles the call where the control interface asks for that, where it names an unknown unit or
-  /// session, and where it has no handler.
+  /// Settles the call if the control interface determines its result, if it names an unknown unit
+  /// or session, or if it has no handler.
   Call(const char* function, const Value* values, std::size_t count, bool hasHandler);
   Call(const Call&) = delete;
   Call& operator=(const Call&) = delete;

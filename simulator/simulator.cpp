@@ -13,7 +13,7 @@ using Role = Value::Role;
 
 constexpr char kAllFunctions[] = "*";
 
-/// What a test asked of one function, and what the function was last given.
+/// What a test asks of one function, and the inputs of the last call.
 struct Control {
   int forcedResult = 0;
   int forcedTimes = 0;
@@ -51,7 +51,7 @@ void append(Bytes& bytes, const Value& value) {
   }
 }
 
-/// Fills the outputs with bytes that lie behind one another; the rest becomes zero.
+/// Fills one output behind the other; where the bytes end, the outputs are zero.
 void fillOutputs(const Arguments& arguments, const Bytes& source) {
   std::size_t used = 0;
   for (const Value& value : arguments) {
@@ -64,7 +64,7 @@ void fillOutputs(const Arguments& arguments, const Bytes& source) {
   }
 }
 
-/// Refuses a unit or a session that is not known. Finds the unit that the call names, if any.
+/// Refuses an unknown unit or session. Finds the unit that the call names, if any.
 int admit(const Arguments& arguments, Unit*& unit) {
   for (const Value& value : arguments) {
     if (value.role == Role::kUnitName) {
@@ -81,7 +81,7 @@ int admit(const Arguments& arguments, Unit*& unit) {
   return 0;
 }
 
-/// A Set keeps its records. The Get of the same name and ints returns them, or zeros.
+/// A Set keeps its records. The Get with the same name and ints returns them, or zeros.
 void keep(const std::string& function, const Arguments& arguments, Unit& keeper) {
   std::string key = function.substr(std::min<std::size_t>(function.size(), 6));
   Bytes given;
@@ -100,7 +100,7 @@ void keep(const std::string& function, const Arguments& arguments, Unit& keeper)
 
 /// Does what the control interface asks for this call, if anything.
 bool isControlled(const Arguments& arguments, Control& control, Control& all, int& result) {
-  // What a function is not told itself it takes from what all are told.
+  // What is asked of all functions counts where nothing is asked of this one.
   Control& forcing = control.forcedTimes > 0 ? control : all;
   const bool forced = forcing.forcedTimes > 0;
   const Bytes& prepared = control.prepared.empty() ? all.prepared : control.prepared;

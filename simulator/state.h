@@ -17,7 +17,7 @@ namespace quorvelsim {
 inline constexpr char kFirstUser[] = "admin";
 inline constexpr char kFirstPassword[] = "quorvel";
 
-/// The address of this stands for the type in `Unit::parts`.
+/// Its address is the key of the type in `Unit::parts`.
 template <class Part>
 inline constexpr char kKeyOf = 0;
 
@@ -43,9 +43,9 @@ struct Unit {
   std::map<std::string, std::string> sessions;
   std::string firmware = kFirmware;
   std::string enclosureFirmware = kEnclosureFirmware;
-  /// What Set functions were given, by the name behind `QV_Set` and the ints of the call.
+  /// The records that Set functions keep, by the name behind `QV_Set` and the ints of the call.
   std::map<std::string, std::vector<std::byte>> kept;
-  /// What the sources keep in types of their own.
+  /// The state of the subsystems, one object of each type.
   std::map<const void*, Held> parts;
 
   /// The unit's `Part`, which is made on first use.
@@ -68,7 +68,7 @@ struct State {
   std::int32_t sessionsOpened = 0;
 };
 
-/// The running call works on this; it holds the lock.
+/// What the running call, which holds the lock, works on.
 State& state();
 
 /// The registered unit of that name, or null.

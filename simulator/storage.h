@@ -10,7 +10,7 @@
 // The RAID groups of a unit, the logical units (LUs) in them, and what is made of those.
 namespace quorvelsim {
 
-/// A stretch of a RAID group: an LU, or free.
+/// A contiguous part of a RAID group: an LU, or free.
 struct Area {
   std::int32_t lun = kNone;
   Blocks blocks = 0;
@@ -19,7 +19,7 @@ struct Area {
 /// A RAID group on drives of one enclosure.
 struct Group {
   std::int32_t level = 0;
-  std::int32_t parityDrives = 0;  // drives in a parity group
+  std::int32_t parityDrives = 0;  // the drives of each parity group
   std::int32_t parityGroups = 0;
   std::vector<CreateRgDrive> drives;
   std::vector<Area> areas;

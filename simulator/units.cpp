@@ -36,7 +36,7 @@ const Station* findStation(const std::string& address, std::uint8_t* controller 
   return nullptr;
 }
 
-/// Fills from the network what a registration leaves empty.
+/// Completes a registration with what the network knows of the unit.
 QVUnitParam completed(const QVUnitParam& given) {
   QVUnitParam param = given;
   const Station* const station = findStation(textOf(param.ctl0));

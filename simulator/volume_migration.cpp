@@ -1,4 +1,4 @@
-// Moving logical units inside an array. Moving a whole array is only kept.
+// Moving logical units inside an array. Moving a whole array has no behaviour.
 #include <set>
 #include <vector>
 
