@@ -66,7 +66,7 @@ template <class... Parameter>
 int call(const char* function, int (*handler)(Parameter...), Parameter... parameters) {
   const Value values[] = {describe(parameters)..., Value{}};
   const Call running(function, values, sizeof...(Parameter), handler != nullptr);
-  return running.settled() ? running.result() : handler(parameters...);
+  return handler == nullptr || running.settled() ? running.result() : handler(parameters...);
 }
 
 template <class Function>
