@@ -63,7 +63,7 @@ QUORVELJ_CLASS(Rows, row);
 QUORVELJ_CLASS(Inner, number, text);
 QUORVELJ_CLASS(Sampler, word, negative, positive, text, texts, words, grid, bytes, byteGrid, raw,
                rawCube, inner, list, table, cube);
-// What a reader can take: arrays of three dimensions are built only.
+// The members that can be read: arrays of three dimensions are only built.
 QUORVELJ_MAP(kReadSampler, Sampler, QUORVELJ_FIELD(Sampler, word),
              QUORVELJ_FIELD(Sampler, negative), QUORVELJ_FIELD(Sampler, positive),
              QUORVELJ_FIELD(Sampler, text), QUORVELJ_FIELD(Sampler, texts),
@@ -207,7 +207,7 @@ TEST_F(ClassMapTest, ReadingStopsAtTheFirstFailure) {
   jvm_.setObject(object, "inner", "Ltessaly/str/diskarray/Inner;", nullptr);
   EXPECT_EQ(read(jvm_.env(), kReadSampler, object, &record), -1);
   EXPECT_EQ(std::memcmp(record.list, sample().list, sizeof record.list), 0);
-  // A failure inside a nested object is not looked at, but for the exception that it leaves.
+  // The reader goes on behind a failure inside a nested object; its exception stays.
   jvm_.removeField("number");
   EXPECT_EQ(read(jvm_.env(), kReadSampler, jvm_.newInput(), &record), 0);
   jvm_.removeField("word");

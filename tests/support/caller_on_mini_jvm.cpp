@@ -38,7 +38,7 @@ jint JNICALL Machine::pushFrame(JNIEnv*, jint) {
   return 0;
 }
 
-// With the last frame goes the machine, and all that a test made in it.
+// The end of the outermost local frame ends the machine, and all that a test made in it.
 jobject JNICALL Machine::popFrame(JNIEnv*, jobject) {
   if (--frames == 0) {
     current.reset();
