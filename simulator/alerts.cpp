@@ -21,7 +21,7 @@ struct AlertInterval {
 // A unit has the alert with which it was registered.
 
 int checkAlert(const UnitName* unit, const QVSessionInfo*, std::int32_t, std::int32_t* alert) {
-  *alert = unitOf(unit).param.alert;
+  *alert = unitOf(unit).param.alert == 0 ? 0 : 1;
   return 0;
 }
 
@@ -57,7 +57,7 @@ int changeEmailAlertMode(const UnitName* unit, const QVSessionInfo*, std::int32_
 }
 
 int testEmailAlert(const UnitName* unit, const QVSessionInfo*, const EmailAlertTest* test) {
-  EmailAlertInformation& alert = partOf<EmailAlertInformation>(unit);
+  auto& alert = partOf<EmailAlertInformation>(unit);
   if (!isController(test->ctl)) {
     return kNothingFound;
   }

@@ -17,7 +17,7 @@ struct AuditLog {
 
 /// Notes what the session's user did, unless the array keeps no log of its own.
 void note(const UnitName* unit, const QVSessionInfo* session, const std::string& deed) {
-  AuditLog& log = partOf<AuditLog>(unit);
+  auto& log = partOf<AuditLog>(unit);
   if (log.settings.auditlog_internallog.internallog_used != 0) {
     log.entries.push_back(unitOf(unit).sessions[identifierOf(*session)] + ": " + deed);
   }

@@ -139,7 +139,7 @@ int createSnapShot(const UnitName* unit, const QVSessionInfo*, const CreateSnapS
 
 template <Kind kind, class Spec>
 int split(const UnitName* unit, const QVSessionInfo*, const Spec* spec) {
-  CopyPairs& all = partOf<CopyPairs>(unit);
+  auto& all = partOf<CopyPairs>(unit);
   std::vector<Pair*> chosen;
   const int result = choose(all, kind, spec->target, {kCopying, kPaired}, chosen);
   const DateTime now = all.now();
@@ -179,7 +179,7 @@ int restore(const UnitName* unit, const QVSessionInfo*, const PairOperation* spe
 
 template <Kind kind>
 int dissolve(const UnitName* unit, const QVSessionInfo*, const PairOperation* spec) {
-  CopyPairs& all = partOf<CopyPairs>(unit);
+  auto& all = partOf<CopyPairs>(unit);
   std::vector<Pair*> chosen;
   const int result =
       choose(all, kind, spec->target, {kCopying, kPaired, kSplit, kRestoring}, chosen);
@@ -208,7 +208,7 @@ void fillCommon(Record& record, const CopyPairs& all, const Pair& pair) {
 }
 
 int getPairs(const UnitName* unit, const QVSessionInfo*, PairInfo* info) {
-  CopyPairs& all = partOf<CopyPairs>(unit);
+  auto& all = partOf<CopyPairs>(unit);
   const Storage& storage = storageOf(unit);
   clear(info);
   for (const auto& [number, luns] : storage.pools) {
@@ -246,7 +246,7 @@ int getSimplePairs(const UnitName* unit, const QVSessionInfo*, PairInfoSimple* i
 }
 
 int getCouplings(const UnitName* unit, const QVSessionInfo*, CouplingInfo* info) {
-  const CopyPairs& all = partOf<CopyPairs>(unit);
+  const auto& all = partOf<CopyPairs>(unit);
   clear(info);
   for (const Pair& pair : all.pairs) {
     CouplingLU& coupling = info->coupling[info->coupling_num++];
@@ -263,7 +263,7 @@ int getCouplings(const UnitName* unit, const QVSessionInfo*, CouplingInfo* info)
 
 /// A consistency group exists as long as it has a pair.
 int getGroups(const UnitName* unit, const QVSessionInfo*, CTGInformation* info) {
-  const CopyPairs& all = partOf<CopyPairs>(unit);
+  const auto& all = partOf<CopyPairs>(unit);
   clear(info);
   for (const Pair& pair : all.pairs) {
     if (pair.group != kNone) {

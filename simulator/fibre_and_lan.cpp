@@ -16,7 +16,7 @@ struct Lan {
 };
 
 Lan& lanOf(const UnitName* unit) {
-  Lan& lan = partOf<Lan>(unit);
+  auto& lan = partOf<Lan>(unit);
   if (!lan.made) {
     const QVUnitParam& param = unitOf(unit).param;
     setText(lan.controllers[0].ip_address, textOf(param.ctl0));
@@ -153,14 +153,14 @@ struct Fibre {
 
 int getFibre(const UnitName* unit, const QVSessionInfo*,
              FibreInformation (*controllers)[kControllers]) {
-  const Fibre& fibre = partOf<Fibre>(unit);
+  const auto& fibre = partOf<Fibre>(unit);
   std::copy(std::begin(fibre.controllers), std::end(fibre.controllers), *controllers);
   return 0;
 }
 
 int setFibre(const UnitName* unit, const QVSessionInfo*, const FibreInformation* first,
              const FibreInformation* second) {
-  Fibre& fibre = partOf<Fibre>(unit);
+  auto& fibre = partOf<Fibre>(unit);
   fibre.controllers[0] = *first;
   fibre.controllers[1] = *second;
   return 0;

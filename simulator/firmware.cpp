@@ -73,7 +73,7 @@ int download(const UnitName* unit, const QVSessionInfo*, std::int32_t, std::int3
 }
 
 int getCount(const UnitName* unit, std::int32_t* count) {
-  Update& update = partOf<Update>(unit);
+  auto& update = partOf<Update>(unit);
   if (!update.downloaded.empty()) {
     update.count = std::min(update.count + 1, kLastCount);
   }
@@ -85,7 +85,7 @@ int getCount(const UnitName* unit, std::int32_t* count) {
 int replaceNext(const UnitName* unit, const QVSessionInfo*, std::int32_t,
                 MicroReplaceInformation* information) {
   clear(information);
-  Update& update = partOf<Update>(unit);
+  auto& update = partOf<Update>(unit);
   if (update.count < kLastCount) {
     return kNothingDownloaded;
   }
@@ -96,7 +96,7 @@ int replaceNext(const UnitName* unit, const QVSessionInfo*, std::int32_t,
 }
 
 int completeReplacement(const UnitName* unit, const QVSessionInfo*, std::int32_t) {
-  Update& update = partOf<Update>(unit);
+  auto& update = partOf<Update>(unit);
   if (update.replacedControllers < kControllers) {
     return kNothingDownloaded;
   }

@@ -92,7 +92,7 @@ int deleteGroups(const UnitName* unit, const QVSessionInfo*, std::int32_t contro
   if (!isPort(controller, port)) {
     return kUnknownPort;
   }
-  HostGroups& groups = partOf<HostGroups>(unit);
+  auto& groups = partOf<HostGroups>(unit);
   for (std::int32_t group = 0; group < kHostGroups; ++group) {
     if ((list->hg[group / 8] >> (group % 8) & std::byte{1}) != std::byte{}) {
       const Place at{controller, port, group};
@@ -121,7 +121,7 @@ void fillPort(const HostGroups& groups, std::int32_t controller, std::int32_t po
 }
 
 int getMapping(const UnitName* unit, const QVSessionInfo*, LuMapping* mapping) {
-  const HostGroups& groups = partOf<HostGroups>(unit);
+  const auto& groups = partOf<HostGroups>(unit);
   mapping->HostGroupValid = 1;
   mapping->ctrl_flag = (1 << kControllers) - 1;
   mapping->mapping_mode = groups.mappingMode;
@@ -138,7 +138,7 @@ int getPortMapping(const UnitName* unit, const QVSessionInfo*, std::int32_t cont
   if (!isPort(controller, port)) {
     return kUnknownPort;
   }
-  const HostGroups& groups = partOf<HostGroups>(unit);
+  const auto& groups = partOf<HostGroups>(unit);
   mapping->option = 0;
   mapping->mapping_mode = groups.mappingMode;
   fillPort(groups, controller, port, mapping->port);
@@ -148,7 +148,7 @@ int getPortMapping(const UnitName* unit, const QVSessionInfo*, std::int32_t cont
 int getGroupMapping(const UnitName* unit, const QVSessionInfo*, std::int32_t controller,
                     std::int32_t port, std::int32_t group, std::int32_t* mode,
                     LuMappingHGInfo* mapping) {
-  HostGroups& groups = partOf<HostGroups>(unit);
+  auto& groups = partOf<HostGroups>(unit);
   const Place at{controller, port, group};
   const int refused = groups.admit(at);
   if (refused == 0) {
@@ -188,7 +188,7 @@ int map(HostGroups& groups, const Place& at, const LuMappingHGInfo& mapping) {
 
 int setGroupMapping(const UnitName* unit, const QVSessionInfo*, std::int32_t controller,
                     std::int32_t port, std::int32_t group, const LuMappingHGInfo* mapping) {
-  HostGroups& groups = partOf<HostGroups>(unit);
+  auto& groups = partOf<HostGroups>(unit);
   const Place at{controller, port, group};
   const int refused = groups.admit(at);
   return refused == 0 ? map(groups, at, *mapping) : refused;
@@ -212,7 +212,7 @@ int setPortMapping(const UnitName* unit, const QVSessionInfo*, std::int32_t cont
 }
 
 int setMapping(const UnitName* unit, const QVSessionInfo*, const LuMapping* mapping) {
-  HostGroups& groups = partOf<HostGroups>(unit);
+  auto& groups = partOf<HostGroups>(unit);
   groups.mappingMode = mapping->mapping_mode;
   int refused = 0;
   for (std::int32_t place = 0; place < kControllers * kPorts && refused == 0; ++place) {
@@ -266,7 +266,7 @@ int setOptions(const UnitName* unit, const QVSessionInfo*, const HGOption* optio
 
 int getOption(const UnitName* unit, const QVSessionInfo*, std::int32_t controller,
               std::int32_t port, std::int32_t group, HGOptionInfo* option) {
-  HostGroups& groups = partOf<HostGroups>(unit);
+  auto& groups = partOf<HostGroups>(unit);
   const Place at{controller, port, group};
   const int refused = groups.admit(at);
   if (refused == 0) {
@@ -277,7 +277,7 @@ int getOption(const UnitName* unit, const QVSessionInfo*, std::int32_t controlle
 
 int setOption(const UnitName* unit, const QVSessionInfo*, std::int32_t controller,
               std::int32_t port, std::int32_t group, const HGOptionInfo* option) {
-  HostGroups& groups = partOf<HostGroups>(unit);
+  auto& groups = partOf<HostGroups>(unit);
   const Place at{controller, port, group};
   const int refused = groups.admit(at);
   if (refused == 0) {

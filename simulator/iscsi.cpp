@@ -56,7 +56,7 @@ struct Iscsi {
 };
 
 int getPorts(const UnitName* unit, const QVSessionInfo*, QViSCSIPortInformation* ports) {
-  const Iscsi& iscsi = partOf<Iscsi>(unit);
+  const auto& iscsi = partOf<Iscsi>(unit);
   *ports = iscsi.ports;
   eachPort([](QViSCSIPortPortInfo& port,
               const QViSCSIInitiatorPortInfo& hosts) { port.host_count = hosts.initiator_count; },

@@ -154,7 +154,7 @@ template <class Record>
 int takeSnapshot(const UnitName* unit,
                  void (*fill)(const Storage&, Record&, std::int32_t, std::int32_t),
                  Record* controller0, Record* controller1) {
-  Performance& performance = partOf<Performance>(unit);
+  auto& performance = partOf<Performance>(unit);
   performance.intervals += performance.statistics != 0 ? 1 : 0;
   std::int32_t controller = 0;
   for (Record* const record : {controller0, controller1}) {

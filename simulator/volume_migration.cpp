@@ -33,7 +33,7 @@ int reserve(const UnitName* unit, const QVSessionInfo*, const LuMigrationReserve
 }
 
 int release(const UnitName* unit, const QVSessionInfo*, const LuMigrationReserve* given) {
-  Migration& migration = partOf<Migration>(unit);
+  auto& migration = partOf<Migration>(unit);
   for (const LuMigrationPairInfo& pair : migration.pairs) {
     if (given->reserve_lu[pair.svol_lun] != std::byte{0}) {
       return kLuInUse;
@@ -56,7 +56,7 @@ int each(const LuMigrationRequest* request, Work work) {
 }
 
 int start(const UnitName* unit, const QVSessionInfo*, const LuMigrationRequest* request) {
-  Migration& migration = partOf<Migration>(unit);
+  auto& migration = partOf<Migration>(unit);
   return each(request, [&](const LuMigrationRequestPairInfo& requested) -> int {
     if (!migration.reserved.contains(requested.svol_lun)) {
       return kNotReserved;
@@ -96,7 +96,7 @@ int end(const UnitName* unit, const QVSessionInfo*, const LuMigrationRequest* re
 }
 
 int getState(const UnitName* unit, const QVSessionInfo*, LuMigrationState* state) {
-  const Migration& migration = partOf<Migration>(unit);
+  const auto& migration = partOf<Migration>(unit);
   clear(state);
   for (const std::int32_t lun : migration.reserved) {
     state->lun[lun] = kReserved;
@@ -113,7 +113,7 @@ int getState(const UnitName* unit, const QVSessionInfo*, LuMigrationState* state
 
 /// Each question copies a quarter more.
 int getInformation(const UnitName* unit, const QVSessionInfo*, LuMigrationInformation* info) {
-  Migration& migration = partOf<Migration>(unit);
+  auto& migration = partOf<Migration>(unit);
   clear(info);
   for (const std::int32_t lun : migration.reserved) {
     info->reserve_lu[info->reserve_lu_count++] = {lun, kReserved};

@@ -63,7 +63,7 @@ QUORVELJ_CLASS(Rows, row);
 QUORVELJ_CLASS(Inner, number, text);
 QUORVELJ_CLASS(Sampler, word, negative, positive, text, texts, words, grid, bytes, byteGrid, raw,
                rawCube, inner, list, table, cube);
-// What a reader can take: arrays of three dimensions are built only.
+// The members that can be read: arrays of three dimensions are only built.
 QUORVELJ_MAP(kReadSampler, Sampler, QUORVELJ_FIELD(Sampler, word),
              QUORVELJ_FIELD(Sampler, negative), QUORVELJ_FIELD(Sampler, positive),
              QUORVELJ_FIELD(Sampler, text), QUORVELJ_FIELD(Sampler, texts),

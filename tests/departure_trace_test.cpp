@@ -1,4 +1,4 @@
-// The order of calls in the methods that depart from the frames, and what they make of a failure.
+// The order of calls in the methods that depart from the frames, and how they fail.
 #include <cstdint>
 
 #include "arraylib/firmware.h"
@@ -14,7 +14,7 @@ namespace {
 
 class DepartureTrace : public TracedMethods {
  protected:
-  /// The place of each element that is null.
+  /// The indexes of the elements that are null.
   std::vector<int> nullsOf(jobject array, std::size_t length) {
     const std::vector<jobject> elements = jvm_.elementsOf(array);
     EXPECT_EQ(elements.size(), length);
@@ -26,7 +26,7 @@ class DepartureTrace : public TracedMethods {
     }
     return nulls;
   }
-  /// What a call does, of the JNI calls those that tell which classes and fields are visited.
+  /// The events of a call that tell what it allocates, visits, makes and throws.
   Events story(const char* method) {
     Events told = only(trace(method), {"flush", "malloc", "free", "QV_", "GetFieldID", "Throw",
                                        "NewStringUTF", "NewObjectArray", "GetStringUTFChars"});
@@ -174,7 +174,7 @@ TEST_F(DepartureTrace, CrosscallAllocatesBothInputsBeforeItReadsThem) {
                head + Events{"ThrowNew java/lang/OutOfMemoryError"});
 }
 
-TEST_F(DepartureTrace, ReplacementThatGoesOnIsBuiltAndFlushed) {
+TEST_F(DepartureTrace, ReplacementInProgressIsBuiltAndFlushed) {
   quorvelSimForceResult("*", 4109, 1);
   expectEvents(
       story("QV_MicroReplaceEx"),
@@ -183,19 +183,19 @@ TEST_F(DepartureTrace, ReplacementThatGoesOnIsBuiltAndFlushed) {
        "GetFieldID valid", "GetFieldID WaitCancelreq", "GetFieldID ReplaceCTL", "free", "flush"});
 }
 
-TEST_F(DepartureTrace, MailSettingsAreBuiltFromTheStackWithoutFlushesAround) {
+TEST_F(DepartureTrace, MailSettingsAreFlushedByTheirBuilderAlone) {
   expectEvents(story("QV_GetEmailInfo"),
                {"QV_GetEmailInfo", "flush", "GetFieldID on_off", "NewStringUTF ",
                 "GetFieldID domain", "NewStringUTF ", "GetFieldID smtp", "NewStringUTF ",
                 "GetFieldID from", "GetFieldID tonum", "NewObjectArray 0", "GetFieldID to"});
-  // Those that cannot be built are null without a code.
+  // Settings that cannot be built are null, with the JVM's own exception.
   jvm_.removeField("smtp");
   jvm_.removeField("tonum");
   EXPECT_EQ(invoke("QV_GetEmailInfo").l, nullptr);
   EXPECT_EQ(thrown(), "NoSuchFieldError tonum");
 }
 
-TEST_F(DepartureTrace, SessionStaysWithTheFilesOfSnmp) {
+TEST_F(DepartureTrace, SnmpFilesKeepTheSession) {
   quorvelSimForceResult("*", 7, 1);
   expectEvents(story("QV_SetSnmpConfig"),
                {"flush", "GetStringUTFChars", "GetStringUTFChars", "GetStringUTFChars",
@@ -250,7 +250,7 @@ TEST_F(DepartureTrace, WholeMappingIsOneRecord) {
   }
 }
 
-TEST_F(DepartureTrace, NameOfNoGroupIsLeftAsItWas) {
+TEST_F(DepartureTrace, WithoutAHostGroupItsRecordStaysAsItWasAllocated) {
   for (const char* const method : {"QV_CreateHG", "QV_ChangeHG"}) {
     std::vector<jvalue> arguments = argumentsOf(method);
     arguments[5].l = nullptr;
@@ -261,7 +261,7 @@ TEST_F(DepartureTrace, NameOfNoGroupIsLeftAsItWas) {
   }
 }
 
-TEST_F(DepartureTrace, LogicalUnitsEndAtWhatCannotBeBuilt) {
+TEST_F(DepartureTrace, LogicalUnitsEndAtTheFirstThatCannotBeBuilt) {
   // An object takes 4 calls, each of its ints 5, and its store 2.
   constexpr int kAnElement = 4 + 24 * 5 + 2;
   constexpr int kFallibleOfThem = 3 + 24 * 2 + 1;
@@ -287,11 +287,11 @@ TEST_F(DepartureTrace, ArrayOfRaidGroups) {
                           Events{mallocOf<RaidGroup[90]>(), "QV_GetRaidGroups"} +
                           newArray("RaidGroup", 90) + Events{"flush"});
   expectEnd(events, {"SetObjectArrayElement", "DeleteLocalRef", "free", "flush"});
-  // The name, the array, an element and its class.
+  // References to the name, the array, an element and its class.
   EXPECT_EQ(jvm_.mostReferences(), 4);
 }
 
-TEST_F(DepartureTrace, FormatStatusListFlushesNothing) {
+TEST_F(DepartureTrace, FormatStatusListIsFlushedByItsBuildersAlone) {
   const Events events = trace("QV_LogicalUnitFormatStatusList");
   expectStart(events,
               kCopyName + Events{mallocOf<LuFormatStatusList>(), "QV_LogicalUnitFormatStatusList",

@@ -1,5 +1,5 @@
-// Every native method, with JNI calls and each allocation failed once, the library's special
-// results, and Java inputs of every kind. What holds after each of them is checked in `play`.
+// Every native method under faults: JNI calls that fail, allocations that fail, the library's
+// special results, and Java inputs of every kind. `play` checks what holds after each of them.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -16,9 +16,9 @@
 namespace quorvelj::testing {
 namespace {
 
-// The first JNI calls of a method, which are its frame's own, all fail once. The faults of the
-// others are spread over them, fewer the more a call of the method costs, so that the sweep stays a
-// matter of minutes. A JNI call costs 1, and as much as 64 bytes of a record.
+// Each of a method's first JNI calls, which are its frame's own, fails once. Of the others a spread
+// fails, a smaller one the more the method costs, so that the sweep takes minutes. A JNI call costs
+// 1, and so do 64 bytes of a record.
 constexpr int kFirstCalls = 12;
 constexpr std::size_t kMostFaults = 400;
 constexpr std::size_t kFewestFaults = 3;
@@ -52,7 +52,7 @@ struct Outcome {
   int newReferences = 0;
 };
 
-/// Leaves bytes where the next function has its buffers.
+/// Leaves bytes on the stack where the next function has its buffers.
 [[gnu::noinline]] void dirtyStack() {
   volatile char stale[64 * 1024];
   std::fill(std::begin(stale), std::end(stale), '?');

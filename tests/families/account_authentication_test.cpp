@@ -1,4 +1,4 @@
-// Accounts and sessions in a real Java process.
+// Accounts and sessions.
 #include "tests/families/registered_unit.h"
 
 namespace quorvelj::testing {

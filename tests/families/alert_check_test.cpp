@@ -1,4 +1,4 @@
-// Alerts and their mail in a real Java process.
+// Alerts and their mail.
 #include "tests/families/registered_unit.h"
 
 namespace quorvelj::testing {
@@ -87,7 +87,7 @@ TEST_F(AlertCheck, RecipientsThatAreSet) {
   EXPECT_STREQ(lastInput("QV_SetEmailInfo", 0).c_str() + 448, "the to[2]");
   expectFields(call("QV_GetEmailInfo", {}).result, {{"to", "String[5]"}, {"to[1]", "the to[1]"}});
 
-  // Elements beyond the record's are left where they are.
+  // Elements beyond the record's are left out.
   set(mail, "to[24]", "far");
   for (int recipient = 3; recipient < 24; ++recipient) {
     set(mail, "to[" + std::to_string(recipient) + ']', "near");

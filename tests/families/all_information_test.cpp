@@ -199,7 +199,7 @@ TEST_F(AllInformation, Whole) {
                      int32sAt(76038748, "cfg ctrl_condition[0] ctrl_condition[1] last_lu"));
 }
 
-// What is there of classes of which no field is known.
+// Objects of classes without a known field are made all the same.
 TEST_F(AllInformation, ObjectsWithoutFields) {
   const jobject all = information("QV_GetAllInformation");
   expectFields(all, {{"turbo_lu", "TurboLu"},

@@ -1,4 +1,4 @@
-// The audit log in a real Java process.
+// The audit log.
 #include "tests/families/registered_unit.h"
 
 namespace quorvelj::testing {
@@ -29,7 +29,7 @@ TEST_F(AuditLog, ServersMoreOrFewerThanTheRecordHas) {
   EXPECT_STREQ(lastInput(method, 2).c_str() + 16, "192.0.2.1");
   EXPECT_EQ(lastInput(method, 2)[100], 7);
 
-  // The third does not reach the log's switch behind the second.
+  // A third server leaves the log's switch alone, which lies behind the second.
   const jobject three = create("QVAuditLogInformation");
   for (const std::string server : {"[0]", "[1]", "[2]"}) {
     set(three, {{"auditlog_server.server" + server + ".server_used", "-1"},

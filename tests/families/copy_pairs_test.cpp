@@ -1,4 +1,4 @@
-// Copy pairs in a real Java process.
+// Copy pairs.
 #include "tests/families/registered_unit.h"
 
 namespace quorvelj::testing {
@@ -27,7 +27,7 @@ class CopyPairs : public RegisteredUnit {
     set(created, more);
     return created;
   }
-  /// What a light form makes of a record that is full.
+  /// What a light form builds from a record without a zero.
   jobject light(const char* method) {
     const std::vector<unsigned char> full(26333420, 0x41);
     quorvelSimPrepareOutput("QV_GetPairInformation", full.data(), full.size());
@@ -245,7 +245,7 @@ TEST_F(CopyPairs, LifeOfAPair) {
 }
 
 TEST_F(CopyPairs, IncompleteRequestsReachTheLibraryAsFarAsTheyWereRead) {
-  // A nested object that stops inside does not stop the reader, one that is missing does.
+  // The reader goes on behind a nested object that it read in part, and stops at a missing one.
   const char* const method = "QV_CreateGemlynPair";
   const jobject creation = pairRequest(
       "CreateGemlynPair", {{"set_division", "7"}, {"copy_speed", "5"}, {"ctg_info.ctg_no", "9"}});

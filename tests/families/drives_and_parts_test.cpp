@@ -1,4 +1,4 @@
-// Drives and parts in a real Java process.
+// Drives and parts.
 #include <array>
 
 #include "tests/families/registered_unit.h"

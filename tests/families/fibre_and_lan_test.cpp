@@ -1,4 +1,4 @@
-// Fibre ports and LAN settings in a real Java process.
+// Fibre ports and LAN settings.
 #include "tests/families/registered_unit.h"
 
 namespace quorvelj::testing {
@@ -149,7 +149,7 @@ TEST_F(FibreAndLan, ImportedPermissions) {
   const jobject permissions = call(method, {unit_, text("hosts.txt"), number(7)}).result;
   expectFields(permissions,
                {{"", "FibreInformationPermission[128]"}, {"[1].node_name", "1000000000000001"}});
-  // Missing texts are left to the library.
+  // Null texts reach the library as empty ones.
   EXPECT_EQ(call(method, {nullptr, text("hosts.txt"), number(7)}).failure,
             "DiskArrayException 20001");
   EXPECT_EQ(call(method, {unit_, nullptr, number(7)}).failure, "DiskArrayException 20004");

@@ -1,4 +1,4 @@
-// Firmware in a real Java process.
+// Firmware.
 #include <fstream>
 
 #include "tests/families/registered_unit.h"
@@ -74,8 +74,8 @@ TEST_F(Firmware, Records) {
                   int32At(12, "nnc_status[3].nncUpgradeStatus")});
 }
 
-TEST_F(Firmware, ReplacementThatGoesOnIsASuccessOfOneMethodOnly) {
-  // Of a forced failure the output stays as it was allocated: the object exists all the same.
+TEST_F(Firmware, OneMethodTakesAReplacementInProgressForASuccess) {
+  // A forced failure leaves the output as it was allocated; the object is built from it.
   quorvelSimForceResult("QV_MicroReplaceEx", 4109, 1);
   EXPECT_NE(information("QV_MicroReplaceEx", 0), nullptr);
   quorvelSimForceResult("QV_MicroReplaceEx", 4110, 1);

@@ -1,4 +1,4 @@
-// Host groups and LU mapping in a real Java process.
+// Host groups and LU mapping.
 #include "tests/families/registered_unit.h"
 
 namespace quorvelj::testing {

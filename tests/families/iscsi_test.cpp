@@ -1,4 +1,4 @@
-// iSCSI ports with their targets, initiators and users, in a real Java process.
+// iSCSI ports with their targets, initiators and users.
 #include "tests/families/registered_unit.h"
 
 namespace quorvelj::testing {
@@ -98,7 +98,7 @@ TEST_F(Iscsi, RequestRecords) {
 }
 
 TEST_F(Iscsi, WhatIsSetIsReadBack) {
-  // As many characters as the members hold.
+  // The texts are as long as their members.
   const std::string name(32, 'n');
   const std::string user(256, 'u');
   const jobject target = create(
@@ -113,7 +113,7 @@ TEST_F(Iscsi, WhatIsSetIsReadBack) {
                 {"ctl[1].port[1].target[254].user_name", user}});
 
   const jobject port = create("QViSCSIInitiatorPortInfo");
-  // A place without an object would leave its bytes as they were.
+  // An element that is null leaves its bytes as they were.
   for (int place = 0; place < 256; ++place) {
     set(port, "initiator[" + std::to_string(place) + "].initiator_valid", place == 3 ? "1" : "0");
   }

@@ -1,4 +1,4 @@
-// Logical units and the work on them in a real Java process.
+// Logical units and the work on them.
 #include "tests/families/registered_unit.h"
 
 namespace quorvelj::testing {
@@ -39,8 +39,8 @@ TEST_F(LogicalUnits, BuiltRecords) {
   expectFields(information("QV_GetLuOwnership"), {{"lu", "LuOwnershipInfo[8192]"}});
 }
 
-// What a longer array has behind the elements of the record does not come near the members after
-// them; too short an array ends the reading.
+// Of a longer array the elements beyond the record's are left out; an array that is too short ends
+// the reading.
 TEST_F(LogicalUnits, ReadRecords) {
   const jobject creation = create("LogicalUnitCreationRequest", {{"befor_lun[128]", "7"}});
   expectRequest("QV_CreateLogicalUnit", creation, 556,
@@ -54,7 +54,7 @@ TEST_F(LogicalUnits, ReadRecords) {
   setLength(creation, "befor_lun", 127);
   expectTooShort("QV_CreateLogicalUnit", {unit_, session_, creation});
   EXPECT_EQ(lastInt("QV_CreateLogicalUnit", 2, 16), 500);
-  // The library's code goes before Java's exception.
+  // The library's code replaces Java's exception.
   quorvelSimForceResult("QV_CreateLogicalUnit", 20503, 1);
   EXPECT_EQ(run("QV_CreateLogicalUnit", creation), "DiskArrayException 20503");
 
@@ -99,7 +99,7 @@ TEST_F(LogicalUnits, Arguments) {
   expectPassed("QV_LogicalUnitFormatStatusList", "u");
   expectPassed("QV_GetFormatStatusList", "u");
 
-  // One list takes a missing name.
+  // One list takes a null name for an empty one.
   EXPECT_EQ(call("QV_LogicalUnitFormatStatusList", {nullptr}).failure, "DiskArrayException 20001");
   EXPECT_EQ(lastInput("QV_LogicalUnitFormatStatusList", 0)[0], '\0');
   EXPECT_EQ(call("QV_GetFormatStatusList", {nullptr}).failure, "DiskArrayException 258");

@@ -1,4 +1,4 @@
-// Performance counters and their files in a real Java process.
+// Performance counters and their files.
 #include "tests/families/registered_unit.h"
 
 namespace quorvelj::testing {
@@ -48,7 +48,7 @@ const Members kVirtualPort =
     at(0, "control.", kVirtualCommands) + at(32, "data_transfer.", kVirtualCommands) +
     at(64, "error.", int32sAt(0, {"valid", "support", "timeout_error_count"}));
 
-/// The first and the last element of every table, and all that is no table.
+/// The first and the last element of every table, and all other members.
 const Members kSnapshot =
     int32sAt(0, {"valid", "support", "get_status"}) +
     at({{12, "port[0]."}, {264, "port[7]."}}, kCommands) +
@@ -144,7 +144,7 @@ TEST_F(PerformanceCollection, Requests) {
               bytesAt(2522, 30, "drive[15]"), bytesAt(2552, 30, "drive_opr_rate[0]"),
               bytesAt(3002, 30, "drive_opr_rate[15]")} +
           int32sAt(3032, {"count", "mode", "file_fmt_mode"}));
-  // Where no table of drives is given, the reading of the options ends, which is not looked at.
+  // Without a table of drives the reading of the options ends; the library is called all the same.
   setNull(all, "drive");
   set(all, "lu[3]", "7");
   set(all, "count", "77");
@@ -205,7 +205,7 @@ TEST_F(PerformanceCollection, CommandCountsAsArguments) {
     EXPECT_EQ(lastText(method, 2), "path");
   };
   expectCounts("QV_PerformanceOutput");
-  // More elements than the record has room for end in front of the time, fewer do not matter.
+  // Elements beyond the record's are left out. Behind fewer elements the time is read as well.
   for (const char* const last : {"lu[5000].write_cache", "lu[2].write_cache"}) {
     set(arguments[3], {{last, "77"}, {"mtime.tm_sec", "42"}});
     quorvelSimForceResult("QV_PerformanceOutput", 0, 1);

@@ -1,4 +1,4 @@
-// Pools, virtual volumes and special LUs in a real Java process.
+// Pools, virtual volumes and special LUs.
 #include "tests/families/registered_unit.h"
 
 namespace quorvelj::testing {

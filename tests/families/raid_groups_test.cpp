@@ -1,4 +1,4 @@
-// RAID groups in a real Java process.
+// RAID groups.
 #include "tests/families/registered_unit.h"
 
 namespace quorvelj::testing {
@@ -46,7 +46,7 @@ TEST_F(RaidGroups, Records) {
   expectPassed("QV_RaidGroupAllDelete", "us");
 }
 
-// Any number of drives is handed over, and the record holds 1,800.
+// Java may hand over any number of drives; the record holds 1,800.
 TEST_F(RaidGroups, DrivesOfARequest) {
   const jobject request = create("CreateRaidGroup", {{"parity_count", "9"}});
   const auto expectSent = [&] {

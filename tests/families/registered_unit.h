@@ -37,13 +37,14 @@ class RegisteredUnit : public ::testing::Test {
   /// The bytes of what a library function was last given as its `parameter`.
   static std::string lastInput(const char* function, int parameter);
   static std::string lastText(const char* function, int parameter);
-  /// An int of it, where it is a record at an offset.
+  /// An int in it at an offset, or the int itself.
   static std::int32_t lastInt(const char* function, int parameter, std::size_t offset = 0);
 
-  /// A query by unit, session and ints, which the library is given in this order.
+  /// `expectBuilt` of a query by unit, session and ints, which reach the library in this order.
   void expectFromUnit(const char* method, std::size_t size, const Members& members,
                       const std::vector<int>& ints = {});
-  /// An update by unit, session, ints and an object, which the library is given in this order.
+  /// `expectRead` of an update by unit, session, ints and an object, which reach the library in
+  /// this order.
   void expectRequest(const char* method, jobject object, std::size_t size, const Members& members,
                      const std::vector<int>& ints = {});
   void expectRequest(const char* method, const char* className, std::size_t size,
@@ -54,7 +55,7 @@ class RegisteredUnit : public ::testing::Test {
   /// where `value` is set.
   void expectPassed(const char* method, const std::string& kinds, bool value = false);
 
-  /// Too short an array ends the reading and no more: the library is called with what there is.
+  /// Expects an array that is too short to end the reading: the library is called all the same.
   static void expectTooShort(const char* method, const std::vector<jobject>& arguments);
 
   /// The number of ints in an array.
@@ -64,7 +65,7 @@ class RegisteredUnit : public ::testing::Test {
   std::string createGroup(int group);
   std::string createLu(int lun, int group, int high, int low);
 
-  /// A path of this process's own; what is written there goes when the test ends.
+  /// The path of a file of this test, which is removed at its end.
   std::string temporary(const std::string& name);
   static std::string contentOf(const std::string& path);
 

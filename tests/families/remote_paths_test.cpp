@@ -1,4 +1,4 @@
-// Remote paths, consistency groups and what else remote pairs need, in a real Java process.
+// Remote paths, consistency groups and what else remote pairs need.
 #include "tests/families/registered_unit.h"
 
 namespace quorvelj::testing {

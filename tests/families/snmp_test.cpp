@@ -1,4 +1,4 @@
-// SNMP configurations in a real Java process.
+// SNMP configurations.
 #include "tests/families/registered_unit.h"
 
 namespace quorvelj::testing {

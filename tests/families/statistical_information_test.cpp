@@ -1,4 +1,4 @@
-// The array's internal counters in a real Java process.
+// The array's internal counters.
 #include "tests/families/registered_unit.h"
 
 namespace quorvelj::testing {
@@ -60,7 +60,7 @@ TEST_F(StatisticalInformation, Record) {
 TEST_F(StatisticalInformation, TablesAreBuiltAtFullCapacity) {
   quorvelSimForceResult("*", 0, 1);
   const jobject built = information("QV_GetStatisticalInformation", 3);
-  // Of the other tables the records above show both elements.
+  // The record shows both elements of the other tables.
   for (const char* const table : {"h_command", "h_command_unite", "com_status", "com_status_unite",
                                   "h_spc", "d_fpc", "fibre", "drive_err"}) {
     EXPECT_TRUE(get(built, table).ends_with("[2]")) << table;

@@ -1,4 +1,4 @@
-// The condition of a unit in a real Java process.
+// The condition of a unit.
 #include "tests/families/registered_unit.h"
 
 namespace quorvelj::testing {

@@ -1,4 +1,4 @@
-// Registered units in a real Java process.
+// Registered units.
 #include "tests/families/registered_unit.h"
 
 namespace quorvelj::testing {
@@ -71,7 +71,7 @@ TEST_F(UnitRegistration, NamesAreCutToTheirBuffer) {
   const std::string inside = std::string(63, 'n') + "é";
   call("QV_UnitDelete", {text(inside)});
   EXPECT_EQ(lastText("QV_UnitDelete", 0), std::string(63, 'n') + "\xC3");
-  // Such a cut text is still one that Java can be given back.
+  // Java can be given such a text back.
   EXPECT_EQ(call("QV_UnitAdd", {unit(inside)}).failure, "");
   const jobject table = call("QV_GetUnitParamTable", {number(2)}).result;
   expectFields(table, {{"", "QVUnitParam[2]"}, {"[0].group_name", ""}});

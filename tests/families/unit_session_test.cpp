@@ -1,4 +1,4 @@
-// Logins, the array's own users and the clock in a real Java process.
+// Logins, the array's own users and the clock.
 #include "tests/families/registered_unit.h"
 
 namespace quorvelj::testing {
@@ -161,7 +161,7 @@ TEST_F(UnitSession, Clock) {
   EXPECT_EQ(run("QV_SetUnitTimeNow"), "");
   EXPECT_GT(std::stoi(get(information("QV_GetUnitTime"), "tm_year")), 112);
 
-  // No name is an empty one, not a missing argument.
+  // A null name is taken for an empty one.
   EXPECT_EQ(call("QV_GetUnitTime", {nullptr, session_}).failure, "DiskArrayException 20001");
   EXPECT_EQ(call("QV_SetUnitTime", {nullptr, session_, nine}).failure, "DiskArrayException 20001");
   EXPECT_EQ(call("QV_SetUnitTimeNow", {nullptr, session_}).failure, "DiskArrayException 20001");

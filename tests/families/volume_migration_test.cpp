@@ -1,4 +1,4 @@
-// Moving logical units, and whole arrays, in a real Java process.
+// Moving logical units, and whole arrays.
 #include "tests/families/registered_unit.h"
 
 namespace quorvelj::testing {

@@ -1,4 +1,4 @@
-// What the toolkit and the frames meet in a real Java virtual machine only.
+// What only a real Java virtual machine shows of the toolkit and the native methods.
 #include <gtest/gtest.h>
 
 #include <cstring>
@@ -45,7 +45,7 @@ class HotSpot : public ::testing::Test {
 TEST_F(HotSpot, MissingClassIsReportedByName) {
   EXPECT_EQ(newObjectByName(env_, "tessaly/str/diskarray/Nothing"), nullptr);
   EXPECT_EQ(pending(), "java.lang.ClassNotFoundException: tessaly/str/diskarray/Nothing");
-  // A later exception takes the place of a pending one.
+  // A later exception replaces a pending one.
   EXPECT_EQ(newObjectByName(env_, "tessaly/str/diskarray/Nothing"), nullptr);
   throwArrayException(env_, 2817);
   EXPECT_EQ(pending(), "tessaly.str.diskarray.DiskArrayException: disk array error 2817");
@@ -59,7 +59,7 @@ TEST_F(HotSpot, ObjectOfAClassWithoutTheFields) {
   EXPECT_EQ(pending(),
             "java.lang.NoSuchFieldError: tessaly.str.diskarray.AccountIdentifier.unit_name "
             "Ljava/lang/String;");
-  // The field is there, in another type.
+  // The class has the field with another type.
   callUnchecked("QV_UnitAdd", signature, env_->AllocObject(env_->FindClass("MistypedUnit")));
   EXPECT_EQ(pending(), "java.lang.NoSuchFieldError: MistypedUnit.unit_name Ljava/lang/String;");
   EXPECT_EQ(quorvelSimCallCount("QV_UnitAdd"), before + 2);

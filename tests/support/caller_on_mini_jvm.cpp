@@ -12,19 +12,19 @@ namespace {
 struct Machine {
   Machine() : functions(*jvm.env()->functions) {
     jvm.declare(javaFields());
-    functions.PushLocalFrame = &pushFrame;
-    functions.PopLocalFrame = &popFrame;
+    functions.PushLocalFrame = &pushLocalFrame;
+    functions.PopLocalFrame = &popLocalFrame;
     jvm.env()->functions = &functions;
   }
-  static jint JNICALL pushFrame(JNIEnv*, jint);
-  static jobject JNICALL popFrame(JNIEnv*, jobject);
+  static jint JNICALL pushLocalFrame(JNIEnv*, jint);
+  static jobject JNICALL popLocalFrame(JNIEnv*, jobject);
 
   MiniJvm jvm;
   JNINativeInterface_ functions;
 };
 
 std::unique_ptr<Machine> current;
-int frames = 0;
+int localFrames = 0;
 
 MiniJvm& jvm() {
   if (current == nullptr) {
@@ -33,14 +33,14 @@ MiniJvm& jvm() {
   return current->jvm;
 }
 
-jint JNICALL Machine::pushFrame(JNIEnv*, jint) {
-  ++frames;
+jint JNICALL Machine::pushLocalFrame(JNIEnv*, jint) {
+  ++localFrames;
   return 0;
 }
 
-// With the last frame goes the machine, and all that a test made in it.
-jobject JNICALL Machine::popFrame(JNIEnv*, jobject) {
-  if (--frames == 0) {
+// The end of the outermost local frame ends the machine, and all that a test made in it.
+jobject JNICALL Machine::popLocalFrame(JNIEnv*, jobject) {
+  if (--localFrames == 0) {
     current.reset();
   }
   return nullptr;

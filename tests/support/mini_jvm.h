@@ -38,9 +38,9 @@ class MiniJvm {
 
   JNIEnv* env();
 
-  /// Gives the classes of these fields those fields and no others.
+  /// Declares classes: each has these fields and no others.
   void declare(const std::vector<JavaField>& fields);
-  /// Slash form.
+  /// The name of an object's class, in slash form.
   std::string classOf(jobject object);
 
   /// Objects for a test to hand over. An input's fields follow the profile until they are set.
@@ -65,7 +65,7 @@ class MiniJvm {
   void removeClass(const std::string& name);
   void removeField(const std::string& name);
 
-  /// Makes the n-th JNI call that can fail do so, counted from 1; 0 none.
+  /// Lets one JNI call fail: the n-th of those that can, counted from 1. 0 lets none fail.
   void failCall(int call);
   /// The JNI calls so far that could have failed.
   int fallibleCalls() const;

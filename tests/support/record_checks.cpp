@@ -33,7 +33,7 @@ const auto* const kCompared = ::testing::AddGlobalTestEnvironment(&compared());
 /// A field that a list of members expects to be visited.
 struct Expected {
   std::string name;
-  /// Is visited directly behind the field before it.
+  /// Nothing is visited between this field and the one before.
   bool adjacent;
 };
 
@@ -73,8 +73,7 @@ ExpectedByHolder expectedFields(const Members& members) {
   return expected;
 }
 
-/// Whether a visit has the expected fields in their order, as far as it has them; counts those that
-/// it has.
+/// Whether the expected fields that a visit has are in their order; `found` counts them.
 bool inOrder(const Visit& visit, const std::vector<Expected>& expected, std::size_t& found) {
   auto last = visit.begin();
   found = 0;
@@ -200,7 +199,7 @@ Members withValues(Members members) {
   return members;
 }
 
-/// Takes back the local references that were made in it.
+/// Deletes the local references that are made during its life.
 struct LocalFrame {
   LocalFrame() { javaEnv()->PushLocalFrame(64); }
   ~LocalFrame() { javaEnv()->PopLocalFrame(nullptr); }

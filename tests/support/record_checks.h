@@ -9,8 +9,8 @@
 
 #include "tests/support/caller.h"
 
-// Records of the library compared with Java objects, member by member. What a test lists is where
-// the library has a member and under which path Java has it.
+// Records of the library are compared with Java objects, member by member. A test lists where the
+// library has each member, and under which path Java has it.
 namespace quorvelj::testing {
 
 struct Member {
@@ -37,18 +37,18 @@ constexpr Member textAt(std::size_t offset, std::size_t width, const char* path)
 constexpr Member bytesAt(std::size_t offset, std::size_t width, const char* path) {
   return {path, offset, Member::Kind::kBytes, width};
 }
-/// A path that is put together, for a member to have.
+/// The text of a path, for a member to point to.
 const char* kept(const std::string& path);
 
 /// The members of two lists, one behind the other.
 Members operator+(Members left, const Members& right);
 
-/// Consecutive ints, and consecutive texts of one width, parted by spaces.
+/// Consecutive ints, and consecutive texts of one width; names are separated by spaces.
 Members int32sAt(std::size_t offset, std::initializer_list<const char*> paths);
 Members int32sAt(std::size_t offset, const std::string& names);
 Members textsAt(std::size_t offset, std::size_t width, const std::string& names);
 
-/// Fields that have a place among the visited ones and no value to compare, parted by spaces.
+/// Fields of which only the order is expected; names are separated by spaces.
 Members visited(const std::string& names);
 
 /// The place of a record inside another, and in Java its path, "rg[199].".
@@ -62,7 +62,7 @@ struct Location {
 Members at(std::size_t offset, const std::string& path, const Members& members);
 Members at(std::initializer_list<Location> locations, const Members& members);
 
-// Members are listed in the order in which the bridge visits them, which is checked as well.
+// Members are listed in the order in which the bridge visits them; both functions check it.
 
 /// Plants values in a record of `size` bytes that the library returns from `method`, and finds each
 /// of them under its path in the Java result; bytes at 0x80 and at 0xFF, texts with and without
@@ -70,9 +70,9 @@ Members at(std::initializer_list<Location> locations, const Members& members);
 void expectBuilt(const char* method, const std::vector<jobject>& arguments, std::size_t size,
                  const Members& members, const char* function = nullptr);
 
-/// Sets the fields of `object`, which must be among the arguments, and finds each value at its
-/// place in the record of `size` bytes that the library was given as its `parameter`; texts as long
-/// as fits, and longer.
+/// Sets the fields of `object`, one of the arguments, and finds each value at its place in the
+/// record of `size` bytes that the library was given as its `parameter`; texts that fit just so,
+/// and longer ones.
 void expectRead(const char* method, const std::vector<jobject>& arguments, jobject object,
                 int parameter, std::size_t size, const Members& members);
 

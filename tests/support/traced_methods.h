@@ -14,7 +14,7 @@
 #include "tests/support/recorder.h"
 #include "tests/support/test_runtime.h"
 
-// Native methods on the mini JVM, and what a call does, event by event.
+// Calls of native methods on the mini JVM, event by event.
 namespace quorvelj::testing {
 
 using Events = std::vector<std::string>;
@@ -34,7 +34,7 @@ inline const Events kCopyName{"GetStringUTFLength", "GetStringUTFChars", "Releas
 inline const Events kReadSession{"GetObjectClass", "GetFieldID session_id [B", "GetObjectField",
                                  "DeleteLocalRef", "GetByteArrayRegion 32",    "ExceptionOccurred",
                                  "DeleteLocalRef"};
-/// What comes first in a frame with a unit and a session.
+/// The first events of a frame with a unit and a session.
 inline const Events kBegin =
     Events{"flush"} + kCopyName + Events{mallocOf<QVSessionInfo>()} + kReadSession;
 inline const Events kStore{"SetObjectArrayElement", "ExceptionOccurred", "DeleteLocalRef"};
@@ -71,7 +71,7 @@ inline void expectEnd(const Events& actual, const Events& expected) {
 inline std::ptrdiff_t countOf(const Events& events, const char* event) {
   return std::count(events.begin(), events.end(), event);
 }
-/// The events that begin in one of these ways.
+/// The events that start with one of these texts.
 inline Events only(const Events& events, const Events& beginnings) {
   Events kept;
   std::copy_if(events.begin(), events.end(), std::back_inserter(kept), [&](const auto& event) {
@@ -81,7 +81,8 @@ inline Events only(const Events& events, const Events& beginnings) {
   return kept;
 }
 
-/// Tests of methods whose library calls succeed, with records of zeros, until they are told else.
+/// Tests of native methods. Every library call succeeds and returns zeros, unless a test forces
+/// another result.
 class TracedMethods : public ::testing::Test {
  protected:
   TracedMethods() {

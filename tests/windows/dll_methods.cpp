@@ -22,8 +22,8 @@ HMODULE dll() {
   return module;
 }
 
-/// One stdcall call by hand: what is pushed, what comes back, and how much the callee popped.
-struct StdcallFrame {
+/// The stack of one stdcall call: what is pushed, what comes back, and how much the callee popped.
+struct StdcallStack {
   NativeMethod::AnyFunction function;
   const std::uint32_t* words;
   std::uint32_t count;
@@ -32,7 +32,7 @@ struct StdcallFrame {
   std::uint32_t popped;
 };
 
-void callStdcall(StdcallFrame& frame) {
+void callStdcall(StdcallStack& stack) {
   asm volatile(
       "movl %%esp, %%edi\n\t"
       "subl 12(%%ebx), %%esp\n\t"
@@ -53,7 +53,7 @@ void callStdcall(StdcallFrame& frame) {
       "movl %%ecx, 20(%%ebx)\n\t"
       "movl %%eax, 16(%%ebx)\n\t"
       :
-      : "b"(&frame)
+      : "b"(&stack)
       : "eax", "ecx", "edx", "esi", "edi", "memory", "cc");
 }
 
@@ -64,18 +64,18 @@ jvalue callExported(const NativeMethod& method, JNIEnv* env, const std::vector<j
   for (const jvalue& argument : arguments) {
     words.push_back(static_cast<std::uint32_t>(argument.i));
   }
-  StdcallFrame frame{};
-  frame.function = method.function;
-  frame.words = words.data();
-  frame.count = static_cast<std::uint32_t>(words.size());
-  frame.padding = 4 * (static_cast<std::uint32_t>(counted.calls) % 4);
-  callStdcall(frame);
+  StdcallStack stack{};
+  stack.function = method.function;
+  stack.words = words.data();
+  stack.count = static_cast<std::uint32_t>(words.size());
+  stack.padding = 4 * (static_cast<std::uint32_t>(counted.calls) % 4);
+  callStdcall(stack);
   ++counted.calls;
   counted.methods.insert(method.name);
-  EXPECT_EQ(frame.popped, 4 * frame.count) << method.name << " does not clean its stack";
+  EXPECT_EQ(stack.popped, 4 * stack.count) << method.name << " does not clean its stack";
   jvalue result{};
   if (method.resultKind() != 'V') {
-    result.i = static_cast<jint>(frame.result);
+    result.i = static_cast<jint>(stack.result);
   }
   return result;
 }

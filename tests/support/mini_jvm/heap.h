@@ -35,7 +35,7 @@ struct Class {
   std::unordered_map<const void*, Member*> recentMembers;
   /// The fields whose arrays the constructor makes.
   std::vector<Member*> made;
-  /// Has the fields that it was declared with and no others.
+  /// The class has its declared fields and no others.
   bool declared = false;
   Object* mirror = nullptr;
 };
@@ -51,7 +51,7 @@ struct Object {
   Class* type = nullptr;
   /// The class whose java.lang.Class object this is, or null.
   Class* mirrored = nullptr;
-  /// Fields that were never set hold what the input profile says.
+  /// The fields follow the input profile until they are set.
   bool input = false;
   std::vector<Slot> slots;
   std::variant<std::monostate, std::string, std::vector<jint>, std::vector<jbyte>,
@@ -79,10 +79,10 @@ struct Object {
 
 class Heap {
  public:
-  /// The class of a name in slash form; made at the first request.
+  /// The class of a name in slash form, which is made at the first request.
   Class* findClass(const char* name);
-  /// The member of a class; made at the first request, but for the fields of a declared class:
-  /// null where it has none.
+  /// The member of a class, which is made at the first request; null for a field that a declared
+  /// class does not have.
   Member* findMember(Class* type, const char* name, const char* signature);
   /// Adds a field to a declared class.
   void declareField(const std::string& className, const std::string& name,

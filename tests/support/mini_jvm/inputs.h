@@ -5,13 +5,13 @@
 #include "tests/support/mini_jvm.h"
 #include "tests/support/mini_jvm/heap.h"
 
-// What native code is given: texts, arrays and objects after an input profile.
+// The making of what native code is given: texts, arrays and objects that follow a profile.
 namespace quorvelj::testing::mini {
 
 /// A new value of a field or an argument of this JNI type, which is an object or an array.
 Object* makeInput(Heap& heap, const InputProfile& profile, const std::string& signature);
 
-/// The value of an int field that a test did not set: another one for each field.
+/// The value of an int field that no test set; it differs from field to field.
 inline jint inputNumber(const Member& field) { return static_cast<jint>(0x01020304 + field.index); }
 
 }  // namespace quorvelj::testing::mini

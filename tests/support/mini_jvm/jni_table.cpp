@@ -15,7 +15,7 @@ namespace {
 constexpr char kBounds[] = "java/lang/ArrayIndexOutOfBoundsException";
 constexpr char kNoMemory[] = "java/lang/OutOfMemoryError";
 
-/// What JNI's functions call the elements of an array.
+/// The elements of an array in the names of JNI's functions.
 template <class Element>
 constexpr const char* kNameOf = "Int";
 template <>

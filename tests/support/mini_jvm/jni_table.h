@@ -13,7 +13,7 @@
 // The JNI functions that the bridge may use, over a heap.
 namespace quorvelj::testing::mini {
 
-/// What native code sees of the mini JVM, and what it did there.
+/// The mini JVM as native code sees it, and the traces that native code leaves there.
 struct JniTable {
   /// Inputs follow `profile`, which must outlive the table.
   explicit JniTable(const InputProfile& profile);
