@@ -119,45 +119,45 @@ int choose(CopyPairs& all, Kind kind, const PairTarget& target, std::initializer
   return chosen.empty() ? kUnknownPair : 0;
 }
 
-int createGemlyn(const UnitName* unit, const QVSessionInfo*, const CreateGemlynPair* spec) {
+int createGemlyn(const UnitName* unit, const QVSessionInfo*, const CreateGemlynPair* request) {
   Pair pair;
   pair.kind = kGemlyn;
-  pair.copySpeed = spec->copy_speed;
-  return add(partOf<CopyPairs>(unit), spec->target, pair);
+  pair.copySpeed = request->copy_speed;
+  return add(partOf<CopyPairs>(unit), request->target, pair);
 }
 
 /// A snapshot has nothing to copy.
-int createSnapShot(const UnitName* unit, const QVSessionInfo*, const CreateSnapShotPair* spec) {
+int createSnapShot(const UnitName* unit, const QVSessionInfo*, const CreateSnapShotPair* request) {
   Pair pair;
   pair.kind = kSnapShot;
-  pair.copySpeed = spec->copy_speed;
-  pair.pool = spec->local_pool_no;
+  pair.copySpeed = request->copy_speed;
+  pair.pool = request->local_pool_no;
   pair.status = kPaired;
   pair.synchronizedRate = kWhole;
-  return add(partOf<CopyPairs>(unit), spec->target, pair);
+  return add(partOf<CopyPairs>(unit), request->target, pair);
 }
 
 template <Kind kind, class Spec>
-int split(const UnitName* unit, const QVSessionInfo*, const Spec* spec) {
+int split(const UnitName* unit, const QVSessionInfo*, const Spec* request) {
   auto& all = partOf<CopyPairs>(unit);
   std::vector<Pair*> chosen;
-  const int result = choose(all, kind, spec->target, {kCopying, kPaired}, chosen);
+  const int result = choose(all, kind, request->target, {kCopying, kPaired}, chosen);
   const DateTime now = all.now();
   for (Pair* const pair : chosen) {
     if (result == 0) {
       pair->status = kSplit;
       pair->split = now;
-      pair->message = textOf(spec->add_message);
+      pair->message = textOf(request->add_message);
     }
   }
   return result;
 }
 
 /// Copies between the LUs of split pairs again, from `rate` percent on.
-int copyAgain(const UnitName* unit, Kind kind, const PairOperation& spec, Status status,
+int copyAgain(const UnitName* unit, Kind kind, const PairOperation& request, Status status,
               std::int32_t rate) {
   std::vector<Pair*> chosen;
-  const int result = choose(partOf<CopyPairs>(unit), kind, spec.target, {kSplit}, chosen);
+  const int result = choose(partOf<CopyPairs>(unit), kind, request.target, {kSplit}, chosen);
   for (Pair* const pair : chosen) {
     if (result == 0) {
       pair->status = status;
@@ -168,24 +168,24 @@ int copyAgain(const UnitName* unit, Kind kind, const PairOperation& spec, Status
 }
 
 template <Kind kind>
-int resync(const UnitName* unit, const QVSessionInfo*, const PairOperation* spec) {
-  return copyAgain(unit, kind, *spec, kCopying, kProgress);
+int resync(const UnitName* unit, const QVSessionInfo*, const PairOperation* request) {
+  return copyAgain(unit, kind, *request, kCopying, kProgress);
 }
 
 template <Kind kind>
-int restore(const UnitName* unit, const QVSessionInfo*, const PairOperation* spec) {
-  return copyAgain(unit, kind, *spec, kRestoring, 0);
+int restore(const UnitName* unit, const QVSessionInfo*, const PairOperation* request) {
+  return copyAgain(unit, kind, *request, kRestoring, 0);
 }
 
 template <Kind kind>
-int dissolve(const UnitName* unit, const QVSessionInfo*, const PairOperation* spec) {
+int dissolve(const UnitName* unit, const QVSessionInfo*, const PairOperation* request) {
   auto& all = partOf<CopyPairs>(unit);
   std::vector<Pair*> chosen;
   const int result =
-      choose(all, kind, spec->target, {kCopying, kPaired, kSplit, kRestoring}, chosen);
-  for (auto pair = chosen.rbegin(); pair != chosen.rend(); ++pair) {
-    all.pairs.erase(all.pairs.begin() + (*pair - all.pairs.data()));
-  }
+      choose(all, kind, request->target, {kCopying, kPaired, kSplit, kRestoring}, chosen);
+  std::for_each(chosen.rbegin(), chosen.rend(), [&](const Pair* pair) {
+    all.pairs.erase(all.pairs.begin() + (pair - all.pairs.data()));
+  });
   return result;
 }
 

@@ -120,8 +120,8 @@ void countAll(const Storage& storage, PerformanceAll& all, std::int32_t controll
     count(all.rg[number], ofGroup);
     commands += ofGroup;
   }
-  for (std::int32_t port = 0; port < kPorts; ++port) {
-    count(all.port[port], commands / kPorts);
+  for (auto& port : all.port) {
+    count(port, commands / kPorts);
   }
   for (std::int32_t path = 0; path < kBackendPaths; ++path) {
     count(all.backend[path], commands / kBackendPaths);
