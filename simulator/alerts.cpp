@@ -21,7 +21,7 @@ struct AlertInterval {
 // A unit has the alert with which it was registered.
 
 int checkAlert(const UnitName* unit, const QVSessionInfo*, std::int32_t, std::int32_t* alert) {
-  *alert = unitOf(unit).param.alert == 0 ? 0 : 1;
+  *alert = static_cast<std::uint8_t>(unitOf(unit).param.alert);
   return 0;
 }
 
