@@ -11,6 +11,7 @@
 
 #include "simulator/control.h"
 #include "tests/support/departures.h"
+#include "tests/support/drawing.h"
 #include "tests/support/mini_jvm.h"
 #include "tests/support/mini_jvm/random_inputs.h"
 #include "tests/support/test_runtime.h"
@@ -63,8 +64,10 @@ void expectInputs(const NativeMethod& method, MiniJvm& jvm, const std::vector<jv
       expectText(method, index,
                  argument == nullptr ? "" : jvm.textOf(static_cast<jstring>(argument)));
     } else if (types[index] != "I" && argument == nullptr) {
-      // Of a user's name that may be null the record lies on the stack, as zeros.
-      const unsigned char untouched = departureOf(method).nullOfZeros && index > 1 ? 0 : kFreshByte;
+      // A selection that is null selects nothing, and the record of a user lies on the stack, as
+      // zeros.
+      const bool zeros = types[index] == "[B" || departureOf(method).nullOfZeros;
+      const unsigned char untouched = zeros ? 0 : kFreshByte;
       const auto record = libraryInput(method.libraryIndexOf(index));
       EXPECT_EQ(std::count(record.begin(), record.end(), untouched), std::ssize(record))
           << "the record of null, argument " << index << ", was written";
@@ -140,25 +143,11 @@ class Fuzz : public ::testing::Test {
   std::unique_ptr<MiniJvm> jvm_;
 };
 
-/// The rarer a method is drawn the more its records take.
-std::discrete_distribution<std::size_t> drawing() {
-  std::vector<double> weights;
-  for (const NativeMethod& method : nativeMethods()) {
-    constexpr double kOrdinaryBytes = 10'000;
-    MiniJvm jvm;
-    quorvelSimForceResult("*", kOrdinaryCode, 1);
-    resetTestRuntime();
-    method.invoke(jvm.env(), jvm.newArguments(method));
-    weights.push_back(1 / (1 + static_cast<double>(testRuntime().mostBytes) / kOrdinaryBytes));
-  }
-  return {weights.begin(), weights.end()};
-}
-
 TEST_F(Fuzz, AnyArguments) {
   const std::uint32_t inputs = numberOf("QUORVELJ_FUZZ_INPUTS", 20'000);
   const std::uint32_t seed = numberOf("QUORVELJ_FUZZ_SEED", 1);
   std::printf("fuzz: QUORVELJ_FUZZ_INPUTS=%u QUORVELJ_FUZZ_SEED=%u\n", inputs, seed);
-  auto draw = drawing();
+  auto draw = drawingByCost(recordBytes());
   constexpr std::uint32_t kInputsOfAJvm = 500;
   for (std::uint32_t input = 0; input < inputs && !HasFailure(); ++input) {
     if (input % kInputsOfAJvm == 0) {
