@@ -26,7 +26,6 @@ constexpr std::size_t kCostOfAll = 1'500'000;
 constexpr std::size_t kBytesOfACall = 64;
 constexpr int kOrdinaryCode = 1234;
 constexpr char kText[] = "Ljava/lang/String;";
-constexpr char kSession[] = "Ltessaly/str/diskarray/QVSessionInfo;";
 
 int injectedFaults = 0;
 
@@ -196,8 +195,6 @@ TEST_P(Sweep, EachJniCallFails) {
 
 TEST_P(Sweep, TextsThatCannotBeHadAreEmpty) {
   const std::vector<std::string> types = GetParam().argumentTypes();
-  const auto session =
-      static_cast<std::size_t>(std::find(types.begin(), types.end(), kSession) - types.begin());
   int texts = 0;
   for (std::size_t index = 0; index < types.size(); ++index) {
     if (types[index] != kText) {
@@ -210,11 +207,9 @@ TEST_P(Sweep, TextsThatCannotBeHadAreEmpty) {
       EXPECT_TRUE(departureOf(GetParam()).stopsUnread);
       continue;
     }
-    // The library takes the session before a path, wherever Java has it.
-    const bool behindSession = index != 0 && session != types.size() && session > index;
     char first = '?';
-    quorvelSimLastInput(outcome.libraryFunction.c_str(),
-                        static_cast<int>(index) + (behindSession ? 1 : 0), &first, 1);
+    quorvelSimLastInput(outcome.libraryFunction.c_str(), GetParam().libraryIndexOf(index), &first,
+                        1);
     EXPECT_EQ(first, '\0');
   }
 }

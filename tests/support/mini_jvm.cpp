@@ -50,7 +50,7 @@ std::vector<jvalue> MiniJvm::newArguments(const NativeMethod& method) {
   for (const std::string& type : method.argumentTypes()) {
     jvalue& value = arguments.emplace_back();
     if (type == "I") {
-      value.i = 3;
+      value.i = profile.random != nullptr ? profile.random->number() : 3;
     } else {
       value.l = heap().refer(mini::makeInput(heap(), profile, type));
     }
@@ -77,6 +77,7 @@ jobject MiniJvm::objectOf(jobject object, const char* name) {
 std::string MiniJvm::textOf(jobject object, const char* name) {
   return *filled(heap().resolve(object), name).object->text();
 }
+std::string MiniJvm::textOf(jstring text) { return *heap().resolve(text)->text(); }
 std::vector<jint> MiniJvm::intsOf(jobject array) {
   return *heap().resolve(array)->get<std::vector<jint>>();
 }
@@ -97,6 +98,7 @@ void MiniJvm::removeField(const std::string& name) { heap().remove(name); }
 void MiniJvm::failCall(int call) { jni_->failingCall = call; }
 int MiniJvm::fallibleCalls() const { return jni_->fallibleCalls; }
 int MiniJvm::calls() const { return jni_->calls; }
+int MiniJvm::callsWhilePending() const { return jni_->callsWhilePending; }
 
 std::optional<PendingException> MiniJvm::pending() const {
   mini::Object* const thrown = jni_->pending;

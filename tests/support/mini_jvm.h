@@ -17,6 +17,7 @@ namespace quorvelj::testing {
 namespace mini {
 class Heap;
 struct JniTable;
+class RandomInputs;
 }  // namespace mini
 
 /// What the fields of an input object hold until they are set.
@@ -24,6 +25,8 @@ struct InputProfile {
   std::string text = "text";
   std::size_t primitives = 8192;  // elements of int, byte and short arrays
   std::size_t objects = 3;        // elements of object arrays
+  /// Makes the arguments and the fields instead.
+  mini::RandomInputs* random = nullptr;
 };
 
 /// A Java virtual machine of the JNI functions that the bridge may use, over objects in memory. A
@@ -46,7 +49,7 @@ class MiniJvm {
   /// Objects for a test to hand over. An input's fields follow the profile until they are set.
   jstring newText(const std::string& text);
   jobject newInput();
-  /// The arguments of a method: ints of 3, texts, inputs, and arrays of inputs.
+  /// The arguments of a method after the profile: ints of 3, texts, inputs, and arrays of inputs.
   std::vector<jvalue> newArguments(const NativeMethod& method);
   jintArray newInts(const std::vector<jint>& values);
   void setObject(jobject object, const char* name, const char* signature, jobject value);
@@ -56,6 +59,7 @@ class MiniJvm {
   /// process.
   jint intOf(jobject object, const char* name);
   std::string textOf(jobject object, const char* name);
+  std::string textOf(jstring text);
   jobject objectOf(jobject object, const char* name);
   std::vector<jint> intsOf(jobject array);
   std::vector<jbyte> bytesOf(jobject array);
@@ -71,6 +75,8 @@ class MiniJvm {
   int fallibleCalls() const;
   /// All JNI calls so far.
   int calls() const;
+  /// Those that JNI does not allow while an exception is pending, as one was.
+  int callsWhilePending() const;
 
   std::optional<PendingException> pending() const;
   void clearPending();

@@ -1,5 +1,6 @@
 #include "tests/support/native_methods.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <ostream>
@@ -17,6 +18,17 @@ std::vector<std::string> NativeMethod::argumentTypes() const {
     at = end + 1;
   }
   return types;
+}
+
+int NativeMethod::libraryIndexOf(std::size_t argument) const {
+  const std::vector<std::string> types = argumentTypes();
+  const auto session = static_cast<std::size_t>(
+      std::find(types.begin(), types.end(), "Ltessaly/str/diskarray/QVSessionInfo;") -
+      types.begin());
+  if (session == types.size() || argument == 0 || argument > session) {
+    return static_cast<int>(argument);
+  }
+  return argument == session ? 1 : static_cast<int>(argument) + 1;
 }
 
 char NativeMethod::resultKind() const {

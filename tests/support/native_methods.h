@@ -25,6 +25,9 @@ struct NativeMethod {
 
   /// The JNI types of the arguments: "I", "Ljava/lang/String;".
   [[nodiscard]] std::vector<std::string> argumentTypes() const;
+  /// The place of an argument among the library's: it takes the session before a path, wherever
+  /// Java has it.
+  [[nodiscard]] int libraryIndexOf(std::size_t argument) const;
   /// 'V', 'I', or 'L' for an object or an array.
   [[nodiscard]] char resultKind() const;
 };

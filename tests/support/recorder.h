@@ -18,6 +18,7 @@ struct Recorder {
   }
 };
 
+/// The running thread's.
 Recorder& recorder();
 
 }  // namespace quorvelj::testing

@@ -15,10 +15,11 @@ namespace {
 
 constexpr std::size_t kGuardBytes = 16;
 constexpr int kGuard = 0xC3;
-constexpr int kFresh = 0xA5;
+/// More than any machine has to spare.
+constexpr std::size_t kMostMemory = std::size_t{1} << 28;
 
 std::map<void*, std::size_t>& liveBlocks() {
-  static std::map<void*, std::size_t> blocks;
+  static thread_local std::map<void*, std::size_t> blocks;
   return blocks;
 }
 
@@ -27,15 +28,16 @@ bool guarded(const unsigned char* guard) {
 }
 
 void* allocateGuarded(std::size_t bytes, int fill) {
-  if (++testRuntime().allocations == testRuntime().refusedAllocation || bytes > SIZE_MAX / 2) {
+  if (++testRuntime().allocations == testRuntime().refusedAllocation || bytes > kMostMemory) {
     return nullptr;
   }
   auto* const block = static_cast<unsigned char*>(std::malloc(bytes + 2 * kGuardBytes));
   if (block == nullptr) {
     return nullptr;
   }
-  std::memset(block, kGuard, bytes + 2 * kGuardBytes);
+  std::memset(block, kGuard, kGuardBytes);
   std::memset(block + kGuardBytes, fill, bytes);
+  std::memset(block + kGuardBytes + bytes, kGuard, kGuardBytes);
   liveBlocks()[block + kGuardBytes] = bytes;
   ++testRuntime().liveRecords;
   testRuntime().liveBytes += bytes;
@@ -46,12 +48,12 @@ void* allocateGuarded(std::size_t bytes, int fill) {
 }  // namespace
 
 Recorder& recorder() {
-  static Recorder instance;
+  static thread_local Recorder instance;
   return instance;
 }
 
 TestRuntime& testRuntime() {
-  static TestRuntime instance;
+  static thread_local TestRuntime instance;
   return instance;
 }
 
@@ -72,7 +74,7 @@ using testing::testRuntime;
 
 void* allocateRecord(std::size_t bytes) {
   recorder().add("malloc " + std::to_string(bytes));
-  return testing::allocateGuarded(bytes, testing::kFresh);
+  return testing::allocateGuarded(bytes, testing::kFreshByte);
 }
 
 void* allocateZeroedRecords(std::size_t count, std::size_t bytes) {

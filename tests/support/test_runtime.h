@@ -4,8 +4,11 @@
 
 namespace quorvelj::testing {
 
-/// The bridge's C runtime under test: counts what is allocated, refuses one allocation on demand,
-/// fills new records with 0xA5 and keeps guard bytes around them.
+/// What a new record is filled with.
+inline constexpr unsigned char kFreshByte = 0xA5;
+
+/// The bridge's C runtime under test, one for each thread: counts what is allocated, refuses one
+/// allocation on demand, fills new records with `kFreshByte` and keeps guard bytes around them.
 struct TestRuntime {
   /// The allocation to refuse, counted from 1; 0 refuses none.
   int refusedAllocation = 0;
@@ -19,6 +22,7 @@ struct TestRuntime {
   int damaged = 0;
 };
 
+/// The running thread's.
 TestRuntime& testRuntime();
 
 /// Begins anew, and frees the records that the calls before left behind.

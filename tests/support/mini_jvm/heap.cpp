@@ -5,6 +5,19 @@
 
 namespace quorvelj::testing::mini {
 
+namespace {
+
+std::string keyOf(const std::string& name, const std::string& signature) {
+  return name + ' ' + signature;
+}
+
+}  // namespace
+
+bool Class::sees(const Member& field) const {
+  return field.owner == this || (parent != nullptr && parent->sees(field) &&
+                                 !members.contains(keyOf(field.name, field.signature)));
+}
+
 std::size_t Object::length() const {
   return std::visit(
       [](const auto& value) -> std::size_t {
@@ -50,25 +63,42 @@ Member* Heap::findMember(Class* type, const char* name, const char* signature) {
   if (recent != nullptr && recent->name == name && recent->signature == signature) {
     return recent;
   }
-  const std::string key = std::string(name) + ' ' + signature;
-  const bool isMethod = *signature == '(';
-  if (type->declared && !isMethod && !type->members.contains(key)) {
-    return nullptr;
+  const auto found = type->members.find(keyOf(name, signature));
+  if (found != type->members.end()) {
+    return recent = found->second.get();
   }
-  std::unique_ptr<Member>& member = type->members[key];
+  if (*signature == '(') {
+    return recent = addMember(type, name, signature);
+  }
+  if (type->parent != nullptr) {
+    return recent = findMember(type->parent, name, signature);
+  }
+  return recent = type->declared ? nullptr : addMember(type, name, signature);
+}
+
+Member* Heap::addMember(Class* type, const std::string& name, const std::string& signature) {
+  // The slots of a subclass lie behind those of its superclass, to which only methods are added.
+  const std::size_t inherited = type->parent == nullptr ? 0 : type->parent->members.size();
+  std::unique_ptr<Member>& member = type->members[keyOf(name, signature)];
   if (member == nullptr) {
-    member = std::make_unique<Member>(Member{name, signature, type->members.size() - 1, -1});
+    member = std::make_unique<Member>(
+        Member{name, signature, inherited + type->members.size() - 1, -1, type});
   }
-  recent = member.get();
-  return recent;
+  return member.get();
+}
+
+Class* Heap::derive(Class* parent) {
+  Class* const type = findClass(("Subclass" + std::to_string(classes_.size())).c_str());
+  type->parent = parent;
+  type->declared = true;
+  return type;
 }
 
 void Heap::declareField(const std::string& className, const std::string& name,
                         const std::string& signature, int madeLength) {
   Class* const type = findClass(className.c_str());
-  type->declared = false;
-  Member* const field = findMember(type, name.c_str(), signature.c_str());
   type->declared = true;
+  Member* const field = addMember(type, name, signature);
   field->madeLength = madeLength;
   if (madeLength >= 0) {
     type->made.push_back(field);

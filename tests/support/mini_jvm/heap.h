@@ -2,6 +2,7 @@
 
 #include <jni.h>
 
+#include <algorithm>
 #include <deque>
 #include <map>
 #include <memory>
@@ -25,12 +26,16 @@ struct Member {
   std::size_t index;
   /// The length of the array that the constructor makes, or -1.
   int madeLength;
+  /// The class that declares it.
+  const Class* owner;
 
   [[nodiscard]] bool holdsObject() const { return signature[0] == 'L' || signature[0] == '['; }
 };
 
 struct Class {
   std::string name;  // slash form
+  /// The superclass, which must be a declared one; null for none.
+  Class* parent = nullptr;
   std::map<std::string, std::unique_ptr<Member>> members;
   std::unordered_map<const void*, Member*> recentMembers;
   /// The fields whose arrays the constructor makes.
@@ -38,6 +43,10 @@ struct Class {
   /// The class has its declared fields and no others.
   bool declared = false;
   Object* mirror = nullptr;
+
+  /// Whether a look-up in this class finds the field: it is the class's own or a superclass's, and
+  /// nothing in between hides it.
+  [[nodiscard]] bool sees(const Member& field) const;
 };
 
 /// The value of a field.
@@ -69,7 +78,7 @@ struct Object {
 
   Slot& slot(const Member& field) {
     if (slots.size() <= field.index) {
-      slots.resize(type->members.size());
+      slots.resize(std::max(type->members.size(), field.index + 1));
     }
     return slots[field.index];
   }
@@ -81,12 +90,16 @@ class Heap {
  public:
   /// The class of a name in slash form, which is made at the first request.
   Class* findClass(const char* name);
-  /// The member of a class, which is made at the first request; null for a field that a declared
-  /// class does not have.
+  /// The member of a class or of its superclasses, which is made at the first request; null for a
+  /// field that a declared class does not have.
   Member* findMember(Class* type, const char* name, const char* signature);
   /// Adds a field to a declared class.
   void declareField(const std::string& className, const std::string& name,
                     const std::string& signature, int madeLength);
+  /// A new subclass of a declared class, with no fields of its own yet.
+  Class* derive(Class* parent);
+  /// Adds a field or a method to a class.
+  Member* addMember(Class* type, const std::string& name, const std::string& signature);
   /// Makes a class or every member of a name impossible to find.
   void remove(const std::string& name) { removed_.push_back(name); }
   [[nodiscard]] bool isRemoved(std::string_view name) const;

@@ -19,6 +19,9 @@ std::size_t lengthOf(const InputProfile& profile, const std::string& signature) 
 }  // namespace
 
 Object* makeInput(Heap& heap, const InputProfile& profile, const std::string& signature) {
+  if (profile.random != nullptr) {
+    return profile.random->make(heap, signature);
+  }
   if (signature == "Ljava/lang/String;") {
     return heap.make("java/lang/String", profile.text);
   }

@@ -42,6 +42,8 @@ struct JniTable {
   int failingCall = 0;
   int fallibleCalls = 0;
   int calls = 0;
+  /// Those that JNI does not allow while an exception is pending, as one was.
+  int callsWhilePending = 0;
 };
 
 }  // namespace quorvelj::testing::mini
