@@ -1,9 +1,13 @@
 # The commands of the README. Each installs what is missing first; that needs Debian and root.
 BUILD := build/linux
 JAVA := java -Djava.library.path=$(BUILD)/lib
+# Large records go back to the system at once: what is resident is what is held.
+SOAK_JAVA := MALLOC_MMAP_THRESHOLD_=131072 $(JAVA) -cp $(BUILD)/lib/quorvelj.jar:$(BUILD)/lib/tests.jar \
+  -Xms512m -Xmx512m -XX:+AlwaysPreTouch
+SOAK_SECONDS := 1800
 
-.PHONY: tour test check benchmark dist reference clean
-.PHONY: packages-build packages-test packages-check packages-dist
+.PHONY: tour test check benchmark coverage soak dist reference clean
+.PHONY: packages-build packages-test packages-check packages-coverage packages-dist
 
 tour: packages-build
 	cmake --preset linux -DQUORVELJ_TESTS=OFF -DQUORVELJ_BENCHMARKS=OFF
@@ -21,6 +25,15 @@ benchmark: packages-test
 	cmake --build --preset linux
 	$(BUILD)/lib/benchmarks --benchmark_min_time=3
 
+coverage: packages-coverage
+	scripts/coverage.sh
+
+# For half an hour, a line each minute.
+soak: packages-test
+	cmake --preset linux -DQUORVELJ_TESTS=ON -DQUORVELJ_BENCHMARKS=OFF
+	cmake --build --preset linux --target simulator_control
+	$(SOAK_JAVA) ThreadedCalls valid $(SOAK_SECONDS) 60
+
 reference: packages-test
 	cmake --preset linux -DQUORVELJ_TESTS=ON -DQUORVELJ_BENCHMARKS=OFF
 	cmake --build --preset linux --target write_reference
@@ -28,7 +41,7 @@ reference: packages-test
 dist: packages-dist
 	scripts/dist.sh
 
-packages-build packages-test packages-check packages-dist:
+packages-build packages-test packages-check packages-coverage packages-dist:
 	scripts/install-packages.sh $(@:packages-%=%)
 
 clean:

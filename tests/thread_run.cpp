@@ -33,9 +33,9 @@ struct Tally {
 thread_local Tally tally;
 
 void check(bool holds, const NativeMethod& method, const char* what) {
-  if (!holds) {
+  constexpr int kMostShown = 5;
+  if (!holds && ++tally.faults <= kMostShown) {
     std::fprintf(stderr, "%s: %s\n", method.name, what);
-    ++tally.faults;
   }
 }
 
