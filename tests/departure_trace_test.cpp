@@ -28,8 +28,9 @@ class DepartureTrace : public TracedMethods {
   }
   /// The events of a call that tell what it allocates, visits, makes and throws.
   Events story(const char* method) {
-    Events told = only(trace(method), {"flush", "malloc", "free", "QV_", "GetFieldID", "Throw",
-                                       "NewStringUTF", "NewObjectArray", "GetStringUTFChars"});
+    Events told = only(trace(method),
+                       "flush, malloc, free, QV_, GetFieldID, Throw, NewStringUTF, NewObjectArray, "
+                       "GetStringUTFChars");
     for (std::string& event : told) {
       event = event.substr(0, event.find(' ', event.find(' ') + 1));
     }
@@ -38,62 +39,59 @@ class DepartureTrace : public TracedMethods {
 };
 
 TEST_F(DepartureTrace, UnitCount) {
-  expectEvents(trace("QV_GetUnitCount"), {"QV_GetUnitCount"});
+  expectEvents(trace("QV_GetUnitCount"), "QV_GetUnitCount");
   quorvelSimForceResult("*", 7, 1);
-  expectEvents(trace("QV_GetUnitCount"), Events{"QV_GetUnitCount"} + kThrow);
+  expectEvents(trace("QV_GetUnitCount"), "QV_GetUnitCount" + kThrow);
 }
 
 TEST_F(DepartureTrace, UnitTable) {
   const std::string timesUnit = " x " + std::to_string(sizeof(QVUnitParam));
   jvalue count{};
   expectEvents(trace("QV_GetUnitParamTable", {count}),
-               Events{"calloc 0" + timesUnit, "QV_GetUnitParamTable"} + newArray("QVUnitParam", 0) +
-                   Events{"flush", "free"});
+               Events("calloc 0" + timesUnit) + "QV_GetUnitParamTable" +
+                   newArray("QVUnitParam", 0) + "flush, free");
   quorvelSimForceResult("*", 7, 1);
   expectEvents(trace("QV_GetUnitParamTable", {count}),
-               Events{"calloc 0" + timesUnit, "QV_GetUnitParamTable", "flush", "free"} + kThrow);
+               Events("calloc 0" + timesUnit) + "QV_GetUnitParamTable, flush, free" + kThrow);
   jvm_.clearPending();
   count.i = 2;
   jvm_.removeField("qv_type");
-  expectEnd(trace("QV_GetUnitParamTable", {count}), {"GetFieldID qv_type I", "flush", "free"});
+  expectEnd(trace("QV_GetUnitParamTable", {count}), "GetFieldID qv_type I, flush, free");
   EXPECT_EQ(nullsOf(result_.l, 2).size(), 2U);
   jvm_.removeClass("tessaly/str/diskarray/QVUnitParam");
-  expectEnd(trace("QV_GetUnitParamTable", {count}), Events{"flush", "free"} + kThrow);
+  expectEnd(trace("QV_GetUnitParamTable", {count}), "flush, free" + kThrow);
   EXPECT_EQ(thrown(), "DiskArrayException -1");
   count.i = -1;
   expectEvents(trace("QV_GetUnitParamTable", {count}),
-               {"calloc " + std::to_string(SIZE_MAX) + timesUnit});
+               Events("calloc " + std::to_string(SIZE_MAX) + timesUnit));
 }
 
 TEST_F(DepartureTrace, DiscoveryReleasesItsRequestWithoutMemory) {
   resetTestRuntime(2);
   expectEnd(trace("QV_DiscoverUnitInformation"),
-            Events{mallocOf<DiscoverUnit>(), "free"} + kThrowOutOfMemory);
+            mallocOf<DiscoverUnit>() + "free" + kThrowOutOfMemory);
 }
 
 TEST_F(DepartureTrace, LoginUser) {
   quorvelSimPrepareOutput("*", "user\0            \0host", 22);
   expectEvents(trace("QV_GetLoginUser"),
-               Events{"flush"} + kCopyName +
-                   Events{"QV_GetLoginUser", "NewStringUTF user", "NewStringUTF ",
-                          "FindClass java/lang/String", "NewObjectArray 2", "DeleteLocalRef",
-                          "SetObjectArrayElement", "SetObjectArrayElement", "DeleteLocalRef",
-                          "DeleteLocalRef", "flush"});
+               "flush" + kCopyName +
+                   "QV_GetLoginUser, NewStringUTF user, NewStringUTF , FindClass java/lang/String, "
+                   "NewObjectArray 2, DeleteLocalRef, SetObjectArrayElement, "
+                   "SetObjectArrayElement, DeleteLocalRef, DeleteLocalRef, flush");
   // A text that cannot be made is null.
   jvm_.failCall(jvm_.fallibleCalls() + 2);
   EXPECT_EQ(nullsOf(invoke("QV_GetLoginUser").l, 2), (std::vector<int>{0}));
   jvm_.removeClass("java/lang/String");
-  invoke("QV_GetLoginUser");
-  EXPECT_EQ(thrown(), "DiskArrayException 2817");
+  EXPECT_EQ(failureOf("QV_GetLoginUser"), "DiskArrayException 2817");
 }
 
 TEST_F(DepartureTrace, PasswordCheckKeepsTheCharacters) {
-  expectEvents(trace("QV_PasswdCheck"), {"flush", "GetStringUTFChars", "QV_PasswdCheck", "flush"});
+  expectEvents(trace("QV_PasswdCheck"), "flush, GetStringUTFChars, QV_PasswdCheck, flush");
 }
 
 TEST_F(DepartureTrace, ClockKeepsTheSession) {
-  const Events head = kCopyName + Events{mallocOf<QVSessionInfo>()} + kReadSession;
-  Events expected = head + Events{"QV_GetUnitTime", "flush"} + newObject("QVTime");
+  Events expected = kTakeBoth + "QV_GetUnitTime, flush" + newObject("QVTime");
   for (const char* const field : {"tm_sec", "tm_min", "tm_hour", "tm_mday", "tm_mon", "tm_year",
                                   "tm_wday", "tm_yday", "tm_isdst"}) {
     expected = expected + setInt(field);
@@ -101,17 +99,16 @@ TEST_F(DepartureTrace, ClockKeepsTheSession) {
   expectEvents(trace("QV_GetUnitTime"), expected);
   std::vector<jvalue> arguments = argumentsOf("QV_SetUnitTime");
   arguments[2].l = nullptr;
-  expectEvents(trace("QV_SetUnitTime", arguments), head + kThrow);
+  expectEvents(trace("QV_SetUnitTime", arguments), kTakeBoth + kThrow);
   EXPECT_EQ(thrown(), "DiskArrayException -1");
-  expectEvents(trace("QV_SetUnitTimeNow"), head + Events{"QV_SetUnitTimeNow"});
+  expectEvents(trace("QV_SetUnitTimeNow"), kTakeBoth + "QV_SetUnitTimeNow");
 }
 
 TEST_F(DepartureTrace, FlatStatusKeepsTheSessionAndStoresEveryElement) {
   const Events events = trace("QV_GetDriveStatus");
-  expectStart(events, kCopyName + Events{mallocOf<QVSessionInfo>()} + kReadSession +
-                          Events{mallocOf<DiskDrive[450]>(), "QV_GetDriveStatus"} +
-                          newArray("DiskDrive", 450) + Events{"flush"});
-  expectEnd(events, {"SetObjectArrayElement", "DeleteLocalRef", "free"});
+  expectStart(events, kTakeBoth + mallocOf<DiskDrive[450]>() + "QV_GetDriveStatus" +
+                          newArray("DiskDrive", 450) + "flush");
+  expectEnd(events, "SetObjectArrayElement, DeleteLocalRef, free");
   EXPECT_EQ(countOf(events, "free"), 1);
 
   // An element that cannot be built is stored like the others.
@@ -119,17 +116,16 @@ TEST_F(DepartureTrace, FlatStatusKeepsTheSessionAndStoresEveryElement) {
   EXPECT_EQ(countOf(trace("QV_GetDriveStatus"), "SetObjectArrayElement"), 450);
   EXPECT_EQ(thrown(), "NoSuchFieldError spare_of_disk_port");
   jvm_.removeClass("tessaly/str/diskarray/DiskDrive");
-  EXPECT_EQ(invoke("QV_GetDriveStatus").l, nullptr);
-  EXPECT_EQ(thrown(), "ClassNotFoundException tessaly/str/diskarray/DiskDrive");
+  EXPECT_EQ(failureOf("QV_GetDriveStatus"),
+            "ClassNotFoundException tessaly/str/diskarray/DiskDrive");
 }
 
 TEST_F(DepartureTrace, FlatInformationIsPartialWithoutAnException) {
   const Events events = trace("QV_GetDriveInformationAll");
-  expectStart(
-      events,
-      kBegin + Events{mallocOf<DiskDriveInformation[450]>(), "QV_GetDriveInformationAll", "free"} +
-          newArray("DiskDriveInformation", 450) + Events{"flush"});
-  expectEnd(events, {"SetObjectArrayElement", "DeleteLocalRef", "free", "flush"});
+  expectStart(events, kBegin + mallocOf<DiskDriveInformation[450]>() +
+                          "QV_GetDriveInformationAll, free" +
+                          newArray("DiskDriveInformation", 450) + "flush");
+  expectEnd(events, "SetObjectArrayElement, DeleteLocalRef, free, flush");
 
   jvm_.failCall(jvm_.fallibleCalls() + 500);
   const std::vector<int> nulls = nullsOf(invoke("QV_GetDriveInformationAll").l, 450);
@@ -138,115 +134,104 @@ TEST_F(DepartureTrace, FlatInformationIsPartialWithoutAnException) {
   EXPECT_EQ(nulls.size(), static_cast<std::size_t>(450 - nulls.front()));
   EXPECT_EQ(thrown(), "NoSuchFieldError add_info_index");
   jvm_.removeField("drive_rotation");
-  expectEnd(trace("QV_GetDriveInformationAll"), {"GetFieldID drive_rotation I", "free", "flush"});
+  expectEnd(trace("QV_GetDriveInformationAll"), "GetFieldID drive_rotation I, free, flush");
   EXPECT_EQ(nullsOf(result_.l, 450).size(), 450U);
   jvm_.removeClass("tessaly/str/diskarray/DiskDriveInformation");
-  expectEnd(trace("QV_GetDriveInformationAll"), {"free"});
+  expectEnd(trace("QV_GetDriveInformationAll"), "free");
   EXPECT_EQ(result_.l, nullptr);
   EXPECT_EQ(thrown(), "ClassNotFoundException tessaly/str/diskarray/DiskDriveInformation");
 }
 
 TEST_F(DepartureTrace, PinTable) {
-  expectEvents(
-      trace("QV_GetPinInfo2"),
-      kBegin + Events{mallocOf<std::int32_t[8192]>(), "QV_GetPinInfo2", "free", "NewIntArray 8192",
-                      "SetIntArrayRegion 8192", "ExceptionOccurred", "flush", "free"});
+  expectEvents(trace("QV_GetPinInfo2"),
+               kBegin + mallocOf<std::int32_t[8192]>() +
+                   "QV_GetPinInfo2, free, NewIntArray 8192, SetIntArrayRegion 8192, "
+                   "ExceptionOccurred, flush, free");
   jvm_.failCall(jvm_.fallibleCalls() + 5);
-  EXPECT_EQ(invoke("QV_GetPinInfo2").l, nullptr);
-  EXPECT_EQ(thrown(), "DiskArrayException 2817");
+  EXPECT_EQ(failureOf("QV_GetPinInfo2"), "DiskArrayException 2817");
 }
 
 TEST_F(DepartureTrace, CrosscallAllocatesBothInputsBeforeItReadsThem) {
-  const Events head{"flush",
-                    "GetStringUTFChars",
-                    mallocOf<QVSessionInfo>(),
-                    mallocOf<MicroReplaceCrosscallRequest>(),
-                    "GetFieldID session_id",
-                    "GetFieldID ctl",
-                    "GetFieldID forced_mode",
-                    mallocOf<MicroReplaceInformation>()};
-  expectEvents(
-      story("QV_MicroReplaceCrosscall"),
-      head + Events{"QV_MicroReplaceCrosscall", "free", "free", "flush", "GetFieldID valid",
-                    "GetFieldID WaitCancelreq", "GetFieldID ReplaceCTL", "free", "flush"});
-  resetTestRuntime(3);
+  const Events head = "flush, GetStringUTFChars" + mallocOf<QVSessionInfo>() +
+                      mallocOf<MicroReplaceCrosscallRequest>() +
+                      "GetFieldID session_id, GetFieldID ctl, GetFieldID forced_mode" +
+                      mallocOf<MicroReplaceInformation>();
   expectEvents(story("QV_MicroReplaceCrosscall"),
-               head + Events{"ThrowNew java/lang/OutOfMemoryError"});
+               head +
+                   "QV_MicroReplaceCrosscall, free, free, flush, GetFieldID valid, GetFieldID "
+                   "WaitCancelreq, GetFieldID ReplaceCTL, free, flush");
+  resetTestRuntime(3);
+  expectEvents(story("QV_MicroReplaceCrosscall"), head + "ThrowNew java/lang/OutOfMemoryError");
 }
 
 TEST_F(DepartureTrace, ReplacementInProgressIsBuiltAndFlushed) {
   quorvelSimForceResult("*", 4109, 1);
-  expectEvents(
-      story("QV_MicroReplaceEx"),
-      {"flush", "GetStringUTFChars", mallocOf<QVSessionInfo>(), "GetFieldID session_id",
-       mallocOf<MicroReplaceInformation>(), "QV_MicroReplaceEx", "free", "flush",
-       "GetFieldID valid", "GetFieldID WaitCancelreq", "GetFieldID ReplaceCTL", "free", "flush"});
+  expectEvents(story("QV_MicroReplaceEx"),
+               "flush, GetStringUTFChars" + mallocOf<QVSessionInfo>() + "GetFieldID session_id" +
+                   mallocOf<MicroReplaceInformation>() +
+                   "QV_MicroReplaceEx, free, flush, GetFieldID valid, GetFieldID WaitCancelreq, "
+                   "GetFieldID ReplaceCTL, free, flush");
 }
 
 TEST_F(DepartureTrace, MailSettingsAreFlushedByTheirBuilderAlone) {
   expectEvents(story("QV_GetEmailInfo"),
-               {"QV_GetEmailInfo", "flush", "GetFieldID on_off", "NewStringUTF ",
-                "GetFieldID domain", "NewStringUTF ", "GetFieldID smtp", "NewStringUTF ",
-                "GetFieldID from", "GetFieldID tonum", "NewObjectArray 0", "GetFieldID to"});
+               "QV_GetEmailInfo, flush, GetFieldID on_off, NewStringUTF , GetFieldID domain, "
+               "NewStringUTF , GetFieldID smtp, NewStringUTF , GetFieldID from, GetFieldID tonum, "
+               "NewObjectArray 0, GetFieldID to");
   // Settings that cannot be built are null, with the JVM's own exception.
   jvm_.removeField("smtp");
   jvm_.removeField("tonum");
-  EXPECT_EQ(invoke("QV_GetEmailInfo").l, nullptr);
-  EXPECT_EQ(thrown(), "NoSuchFieldError tonum");
+  EXPECT_EQ(failureOf("QV_GetEmailInfo"), "NoSuchFieldError tonum");
 }
 
 TEST_F(DepartureTrace, SnmpFilesKeepTheSession) {
   quorvelSimForceResult("*", 7, 1);
   expectEvents(story("QV_SetSnmpConfig"),
-               {"flush", "GetStringUTFChars", "GetStringUTFChars", "GetStringUTFChars",
-                mallocOf<QVSessionInfo>(), "GetFieldID session_id", "QV_SetSnmpConfig", "Throw"});
+               "flush, GetStringUTFChars, GetStringUTFChars, GetStringUTFChars" +
+                   mallocOf<QVSessionInfo>() + "GetFieldID session_id, QV_SetSnmpConfig, Throw");
 }
 
 TEST_F(DepartureTrace, FibrePermissionsFlushNothing) {
   const Events events = trace("QV_FibreInfoPermissionImport");
-  expectStart(
-      events,
-      kCopyName + kCopyName +
-          Events{mallocOf<FibreInformationPermission[128]>(), "QV_FibreInfoPermissionImport"} +
-          newArray("FibreInformationPermission", 128) +
-          Events{"flush", "FindClass tessaly/str/diskarray/FibreInformationPermission"});
+  expectStart(events, kCopyName + kCopyName + mallocOf<FibreInformationPermission[128]>() +
+                          "QV_FibreInfoPermissionImport" +
+                          newArray("FibreInformationPermission", 128) +
+                          "flush, FindClass tessaly/str/diskarray/FibreInformationPermission");
   // Only the builders flush.
   EXPECT_EQ(countOf(events, "flush"), 128);
-  expectEnd(events, kStore + Events{"free"});
+  expectEnd(events, kStore + "free");
 
   jvm_.removeClass("tessaly/str/diskarray/FibreInformationPermission");
-  invoke("QV_FibreInfoPermissionImport");
-  EXPECT_EQ(thrown(), "DiskArrayException 2817");
+  EXPECT_EQ(failureOf("QV_FibreInfoPermissionImport"), "DiskArrayException 2817");
 
   quorvelSimForceResult("*", 7, 1);
   expectEvents(trace("QV_FibreInfoPermissionImport", std::vector<jvalue>(3)),
-               Events{mallocOf<FibreInformationPermission[128]>(), "QV_FibreInfoPermissionImport"} +
-                   kThrow + Events{"free"});
+               mallocOf<FibreInformationPermission[128]>() + "QV_FibreInfoPermissionImport" +
+                   kThrow + "free");
   char name[65] = {};
   EXPECT_EQ(quorvelSimLastInput("QV_FibreInfoPermissionImport", 0, name, sizeof name), 65U);
   EXPECT_EQ(name[0], '\0');
 }
 
 TEST_F(DepartureTrace, MappingOfAGroup) {
-  expectEvents(trace("QV_GetLuMappingList"),
-               kBegin +
-                   Events{mallocOf<LuMappingHGInfo>(), "QV_GetLuMappingList", "free",
-                          "FindClass java/lang/Object", "NewObjectArray 2", "DeleteLocalRef",
-                          "FindClass java/lang/Integer", "GetMethodID <init> (I)V", "NewObject",
-                          "DeleteLocalRef"} +
-                   kStore + Events{"flush"} + newObject("LuMappingHGInfo") +
-                   Events{"NewIntArray 2048", "SetIntArrayRegion 2048", "ExceptionOccurred",
-                          "GetObjectClass", "GetFieldID lu [I", "SetObjectField",
-                          "ExceptionOccurred", "DeleteLocalRef", "DeleteLocalRef"} +
-                   kStore + Events{"free", "flush"});
+  expectEvents(
+      trace("QV_GetLuMappingList"),
+      kBegin + mallocOf<LuMappingHGInfo>() +
+          "QV_GetLuMappingList, free, FindClass java/lang/Object, NewObjectArray 2, "
+          "DeleteLocalRef, FindClass java/lang/Integer, GetMethodID <init> (I)V, NewObject, "
+          "DeleteLocalRef" +
+          kStore + "flush" + newObject("LuMappingHGInfo") +
+          "NewIntArray 2048, SetIntArrayRegion 2048, ExceptionOccurred, GetObjectClass, GetFieldID "
+          "lu [I, SetObjectField, ExceptionOccurred, DeleteLocalRef, DeleteLocalRef" +
+          kStore + "free, flush");
 }
 
 TEST_F(DepartureTrace, WholeMappingIsOneRecord) {
   for (const char* const method :
        {"QV_GetLuMappingListAll", "QV_GetLuMappingListAllLite", "QV_SetLuMappingListAll"}) {
     SCOPED_TRACE(method);
-    expectEvents(only(trace(method), {"malloc", "calloc", "free"}),
-                 {mallocOf<QVSessionInfo>(), mallocOf<LuMapping>(), "free", "free"});
+    expectEvents(only(trace(method), "malloc, calloc, free"),
+                 mallocOf<QVSessionInfo>() + mallocOf<LuMapping>() + "free, free");
   }
 }
 
@@ -283,57 +268,47 @@ TEST_F(DepartureTrace, LogicalUnitsEndAtTheFirstThatCannotBeBuilt) {
 TEST_F(DepartureTrace, ArrayOfRaidGroups) {
   const Events events = trace("QV_GetRaidGroups");
   EXPECT_EQ(events.size(), 11U + 90 * (1 + 4 + 14 * 5 + 2));
-  expectStart(events, Events{"flush"} + kCopyName +
-                          Events{mallocOf<RaidGroup[90]>(), "QV_GetRaidGroups"} +
-                          newArray("RaidGroup", 90) + Events{"flush"});
-  expectEnd(events, {"SetObjectArrayElement", "DeleteLocalRef", "free", "flush"});
+  expectStart(events, "flush" + kCopyName + mallocOf<RaidGroup[90]>() + "QV_GetRaidGroups" +
+                          newArray("RaidGroup", 90) + "flush");
+  expectEnd(events, "SetObjectArrayElement, DeleteLocalRef, free, flush");
   // References to the name, the array, an element and its class.
   EXPECT_EQ(jvm_.mostReferences(), 4);
 }
 
 TEST_F(DepartureTrace, FormatStatusListIsFlushedByItsBuildersAlone) {
   const Events events = trace("QV_LogicalUnitFormatStatusList");
-  expectStart(events,
-              kCopyName + Events{mallocOf<LuFormatStatusList>(), "QV_LogicalUnitFormatStatusList",
-                                 "flush", "FindClass tessaly/str/diskarray/LuFormatStatusList"});
-  expectEnd(events, {"DeleteLocalRef", "free"});
+  expectStart(events, kCopyName + mallocOf<LuFormatStatusList>() +
+                          "QV_LogicalUnitFormatStatusList, flush, FindClass "
+                          "tessaly/str/diskarray/LuFormatStatusList");
+  expectEnd(events, "DeleteLocalRef, free");
   // Each of the 2,049 builders flushes; the method does not.
   EXPECT_EQ(countOf(events, "flush"), 2049);
 
   jvm_.removeField("percent");
-  EXPECT_EQ(invoke("QV_LogicalUnitFormatStatusList").l, nullptr);
-  EXPECT_EQ(thrown(), "NoSuchFieldError percent");
+  EXPECT_EQ(failureOf("QV_LogicalUnitFormatStatusList"), "NoSuchFieldError percent");
 }
 
 TEST_F(DepartureTrace, SnapshotsWithoutMemoryAreLeftNull) {
   resetTestRuntime(2);
-  expectEvents(
-      trace("QV_GetPerformanceAll"),
-      kBegin +
-          Events{mallocOf<PerformanceAll>(), mallocOf<PerformanceAll>(), "QV_GetPerformanceAll"} +
-          newArray("PerformanceAll", 2) + Events{"flush", "free null", "free", "flush"});
+  expectEvents(trace("QV_GetPerformanceAll"),
+               kBegin + 2 * mallocOf<PerformanceAll>() + "QV_GetPerformanceAll" +
+                   newArray("PerformanceAll", 2) + "flush, free null, free, flush");
   EXPECT_EQ(nullsOf(result_.l, 2).size(), 2U);
   EXPECT_EQ(thrown(), "");
 }
 
 TEST_F(DepartureTrace, SnapshotsThatTheLibraryRefuses) {
   quorvelSimForceResult("*", 7, 2);
-  expectEvents(
-      trace("QV_GetPerformanceAll"),
-      kBegin +
-          Events{mallocOf<PerformanceAll>(), mallocOf<PerformanceAll>(), "QV_GetPerformanceAll"} +
-          kThrow + Events{"free", "free"});
+  expectEvents(trace("QV_GetPerformanceAll"), kBegin + 2 * mallocOf<PerformanceAll>() +
+                                                  "QV_GetPerformanceAll" + kThrow + "free, free");
   jvm_.clearPending();
-  expectEvents(trace("QV_GetPerformance"),
-               kBegin +
-                   Events{mallocOf<StatisticalCommand>(), mallocOf<StatisticalCommand>(),
-                          "QV_GetPerformance"} +
-                   kThrow + Events{"free", "free"});
+  expectEvents(trace("QV_GetPerformance"), kBegin + 2 * mallocOf<StatisticalCommand>() +
+                                               "QV_GetPerformance" + kThrow + "free, free");
 }
 
 TEST_F(DepartureTrace, AFailingElementEndsThePairOfSnapshots) {
   jvm_.removeClass("tessaly/str/diskarray/StatisticalCommand_Info");
-  expectEnd(trace("QV_GetPerformance"), {"flush", "free", "free"});
+  expectEnd(trace("QV_GetPerformance"), "flush, free, free");
   EXPECT_EQ(nullsOf(result_.l, 2).size(), 2U);
   jvm_.removeClass("tessaly/str/diskarray/StatisticalCommand");
   const Events events = trace("QV_GetPerformance");
@@ -345,18 +320,16 @@ TEST_F(DepartureTrace, AFailingElementEndsThePairOfSnapshots) {
 TEST_F(DepartureTrace, OutputsReleaseBeforeTheyThrow) {
   for (const std::size_t allocation : {1U, 5U}) {
     resetTestRuntime(static_cast<int>(allocation));
-    Events expected = Events(5, "free") + kThrowOutOfMemory;
+    Events expected = 5 * Events("free") + kThrowOutOfMemory;
     expected[allocation - 1] = "free null";
     expectEnd(trace("QV_PerformanceOutputAll"), expected);
     jvm_.clearPending();
   }
   resetTestRuntime(7);
-  expectEnd(
-      trace("QV_PerformanceOutputGraphInfo"),
-      Events{mallocOf<QVSessionInfo>(), mallocOf<PerformanceAll>(), mallocOf<PerformanceAll>(),
-             mallocOf<PerformanceAll>(), mallocOf<PerformanceAll>(),
-             mallocOf<PerformanceCollectGraphInfo>(), mallocOf<PerformanceCollectGraphInfo>()} +
-          Events(6, "free") + Events{"free null"} + kThrowOutOfMemory);
+  expectEnd(trace("QV_PerformanceOutputGraphInfo"),
+            mallocOf<QVSessionInfo>() + 4 * mallocOf<PerformanceAll>() +
+                2 * mallocOf<PerformanceCollectGraphInfo>() + 6 * Events("free") + "free null" +
+                kThrowOutOfMemory);
 }
 
 }  // namespace

@@ -15,73 +15,67 @@ namespace {
 using FrameTrace = TracedMethods;
 
 Events setText(const std::string& name, const std::string& text) {
-  return {"GetObjectClass", "NewStringUTF " + text, "GetFieldID " + name + " Ljava/lang/String;",
-          "SetObjectField", "ExceptionOccurred",    "DeleteLocalRef",
-          "DeleteLocalRef"};
+  return "GetObjectClass, NewStringUTF " + text + ", GetFieldID " + name +
+         " Ljava/lang/String;, SetObjectField, ExceptionOccurred, DeleteLocalRef, DeleteLocalRef";
 }
 
 TEST_F(FrameTrace, Query) {
   const char* const method = "QV_GetAccountBannerAuth";
-  const Events called = kBegin + Events{mallocOf<AccountBanner>(), method, "free"};
-  const Events begun = called + Events{"flush"} + newObject("AccountBanner");
+  const Events called = kBegin + mallocOf<AccountBanner>() + Events(method) + "free";
+  const Events begun = called + "flush" + newObject("AccountBanner");
   expectEvents(trace(method), begun + setInt("warning_banner_display") +
-                                  setText("warning_banner", "") + Events{"free", "flush"});
+                                  setText("warning_banner", "") + "free, flush");
   resetTestRuntime(2);
-  expectEvents(trace(method), kBegin + Events{mallocOf<AccountBanner>()} + kThrowOutOfMemory);
+  expectEvents(trace(method), kBegin + mallocOf<AccountBanner>() + kThrowOutOfMemory);
   resetTestRuntime();
   jvm_.clearPending();
   jvm_.removeField("warning_banner_display");
-  expectEvents(
-      trace(method),
-      begun + Events{"GetObjectClass", "GetFieldID warning_banner_display I", "free"} + kThrow);
+  expectEvents(trace(method),
+               begun + "GetObjectClass, GetFieldID warning_banner_display I, free" + kThrow);
   EXPECT_EQ(thrown(), "DiskArrayException 2817");
   quorvelSimForceResult("*", 7, 1);
-  expectEvents(trace(method), called + Events{"free"} + kThrow);
+  expectEvents(trace(method), called + "free" + kThrow);
 }
 
 TEST_F(FrameTrace, QueryReadsEachInputBeforeItAllocatesTheNext) {
   const Events events =
-      only(trace("QV_GetAllInfo_HG"), {"malloc", "GetFieldID session_id", "GetFieldID request"});
-  expectEvents(
-      events, {mallocOf<QVSessionInfo>(), "GetFieldID session_id [B", mallocOf<ControllerRequest>(),
-               "GetFieldID requestCTL I", mallocOf<ArrayAllInfo_HG>()});
+      only(trace("QV_GetAllInfo_HG"), "malloc, GetFieldID session_id, GetFieldID request");
+  expectEvents(events, mallocOf<QVSessionInfo>() + "GetFieldID session_id [B" +
+                           mallocOf<ControllerRequest>() + "GetFieldID requestCTL I" +
+                           mallocOf<ArrayAllInfo_HG>());
 }
 
 TEST_F(FrameTrace, NestedObjectsAndArrays) {
-  Events expected = kBegin +
-                    Events{mallocOf<QVAccountRoleInformation>(), "QV_GetQVAccountRoleInformation",
-                           "free", "flush"} +
+  Events expected = kBegin + mallocOf<QVAccountRoleInformation>() +
+                    "QV_GetQVAccountRoleInformation, free, flush" +
                     newObject("QVAccountRoleInformation") + setInt("role_valid_index") +
                     newArray("QVAccountRole", 32);
   for (int role = 0; role < 32; ++role) {
-    expected =
-        expected + Events{"flush"} + newObject("QVAccountRole") + setText("role_name", "") + kStore;
+    expected = expected + "flush" + newObject("QVAccountRole") + setText("role_name", "") + kStore;
   }
-  expectEvents(trace("QV_GetQVAccountRoleInformation"),
-               expected + Events{"GetObjectClass",
-                                 "GetFieldID role_info [Ltessaly/str/diskarray/QVAccountRole;",
-                                 "SetObjectField", "ExceptionOccurred", "DeleteLocalRef",
-                                 "DeleteLocalRef", "free", "flush"});
+  expectEvents(
+      trace("QV_GetQVAccountRoleInformation"),
+      expected +
+          "GetObjectClass, GetFieldID role_info [Ltessaly/str/diskarray/QVAccountRole;, "
+          "SetObjectField, ExceptionOccurred, DeleteLocalRef, DeleteLocalRef, free, flush");
 }
 
 TEST_F(FrameTrace, Update) {
-  const Events head = Events{"flush"} + kCopyName +
-                      Events{mallocOf<QVSessionInfo>(), mallocOf<AdditionalUnitRequest>()};
+  const Events head =
+      "flush" + kCopyName + mallocOf<QVSessionInfo>() + mallocOf<AdditionalUnitRequest>();
   expectEvents(trace("QV_AddAdditionalUnit"),
                head + kReadSession +
-                   Events{"GetObjectClass", "GetFieldID mode I", "GetIntField", "DeleteLocalRef",
-                          "ExceptionOccurred", "QV_AddAdditionalUnit", "free", "free", "flush"});
+                   "GetObjectClass, GetFieldID mode I, GetIntField, DeleteLocalRef, "
+                   "ExceptionOccurred, QV_AddAdditionalUnit, free, free, flush");
   resetTestRuntime(1);
-  expectEvents(trace("QV_AddAdditionalUnit"),
-               head + kThrowOutOfMemory + Events{"free null", "free"});
+  expectEvents(trace("QV_AddAdditionalUnit"), head + kThrowOutOfMemory + "free null, free");
 }
 
 TEST_F(FrameTrace, Plain) {
-  expectEvents(trace("QV_UnitDelete"),
-               Events{"flush"} + kCopyName + Events{"QV_UnitDelete", "flush"});
+  expectEvents(trace("QV_UnitDelete"), "flush" + kCopyName + "QV_UnitDelete, flush");
   jvm_.profile.text = "";
-  expectEvents(trace("QV_UnitDelete"), {"flush", "GetStringUTFLength", "QV_UnitDelete", "flush"});
-  expectEvents(trace("QV_UnitDelete", {jvalue{}}), Events{"flush"} + kThrow);
+  expectEvents(trace("QV_UnitDelete"), "flush, GetStringUTFLength, QV_UnitDelete, flush");
+  expectEvents(trace("QV_UnitDelete", {jvalue{}}), "flush" + kThrow);
 }
 
 int countSomething(const UnitName*, const QVSessionInfo*, std::int32_t selector,
@@ -98,9 +92,9 @@ TEST_F(FrameTrace, Value) {
   const auto count = [&](jint selector) {
     return traceOf([&] { result = value(jvm_.env(), countSomething, name, session, selector); });
   };
-  expectEvents(count(2), kBegin + Events{"library", "free", "flush"});
+  expectEvents(count(2), kBegin + "library, free, flush");
   EXPECT_EQ(result, 42);
-  expectEvents(count(-9), kBegin + Events{"library", "free"} + kThrow);
+  expectEvents(count(-9), kBegin + "library, free" + kThrow);
   EXPECT_EQ(result, 0);
   EXPECT_EQ(thrown(), "DiskArrayException -9");
 }
@@ -116,11 +110,10 @@ TEST_F(FrameTrace, ArrayResult) {
   const jstring name = jvm_.newText("unit");
   jobjectArray result = nullptr;
   expectEvents(traceOf([&] { result = query(jvm_.env(), listAccounts, name); }),
-               Events{"flush"} + kCopyName + Events{mallocOf<AccountIdentifier[2]>(), "library"} +
-                   newArray("AccountIdentifier", 2) + Events{"flush"} +
-                   newObject("AccountIdentifier") + setText("user_id", "a") + kStore +
-                   Events{"flush"} + newObject("AccountIdentifier") + setText("user_id", "b") +
-                   kStore + Events{"free", "flush"});
+               "flush" + kCopyName + mallocOf<AccountIdentifier[2]>() + "library" +
+                   newArray("AccountIdentifier", 2) + "flush" + newObject("AccountIdentifier") +
+                   setText("user_id", "a") + kStore + "flush" + newObject("AccountIdentifier") +
+                   setText("user_id", "b") + kStore + "free, flush");
   EXPECT_EQ(jvm_.textOf(jvm_.elementsOf(result)[1], "user_id"), "b");
 }
 

@@ -37,22 +37,16 @@ void add(Fields& fields, const ClassMap& map) {
 }
 
 /// Fields that native methods read by maps of their own, each into a record of its own.
-const std::map<std::string, Fields>& fieldsReadApart() {
-  static const Fields snapshots{"preinfo0 Ltessaly/str/diskarray/PerformanceAll;",
-                                "afterinfo0 Ltessaly/str/diskarray/PerformanceAll;",
-                                "preinfo1 Ltessaly/str/diskarray/PerformanceAll;",
-                                "afterinfo1 Ltessaly/str/diskarray/PerformanceAll;"};
-  static const auto withFile = [] {
-    Fields fields = snapshots;
-    fields.insert("filename Ljava/lang/String;");
-    return fields;
-  }();
-  static const std::map<std::string, Fields> apart{
-      {kPackage + "PerformanceOutputAllRequest", withFile},
-      {kPackage + "PerformanceOutputAllExRequest", withFile},
-      {kPackage + "PerformanceOutputGraphInfoRequest", snapshots},
-  };
-  return apart;
+std::map<std::string, Fields> fieldsReadApart() {
+  const Fields snapshots{"preinfo0 Ltessaly/str/diskarray/PerformanceAll;",
+                         "afterinfo0 Ltessaly/str/diskarray/PerformanceAll;",
+                         "preinfo1 Ltessaly/str/diskarray/PerformanceAll;",
+                         "afterinfo1 Ltessaly/str/diskarray/PerformanceAll;"};
+  Fields withFile = snapshots;
+  withFile.insert("filename Ljava/lang/String;");
+  return {{kPackage + "PerformanceOutputAllRequest", withFile},
+          {kPackage + "PerformanceOutputAllExRequest", withFile},
+          {kPackage + "PerformanceOutputGraphInfoRequest", snapshots}};
 }
 
 TEST(JavaClasses, HaveTheFieldsOfTheirMaps) {

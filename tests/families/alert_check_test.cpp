@@ -12,48 +12,34 @@ TEST_F(AlertCheck, Records) {
     set(mail, "to[" + std::to_string(recipient) + ']', "");
   }
   expectRead("QV_SetEmailInfo", {mail}, mail, 0, 2248,
-             {int32At(0, "on_off"), int32At(244, "tonum"), textAt(4, 40, "domain"),
-              textAt(44, 100, "smtp"), textAt(144, 100, "from"), textAt(248, 100, "to[0]"),
-              textAt(2148, 100, "to[19]")});
+             "0:int32 on_off; 244:int32 tonum; 4:text40 domain; 44:text100 smtp from; 248:text100 "
+             "to[0]; 2148:text100 to[19]");
   expectBuilt("QV_GetEmailInfo", {}, 2248,
-              Members{int32At(0, "on_off"), textAt(4, 40, "domain"), textAt(44, 100, "smtp"),
-                      textAt(144, 100, "from"), int32At(244, "tonum")} +
-                  visited("to"));
-  const Members user{textAt(0, 257, "user_id"), textAt(257, 257, "passwd"),
-                     int32At(516, "account_enable")};
+              "0:int32 on_off; 4:text40 domain; 44:text100 smtp from; 244:int32 tonum; visited to");
+  const Members user = "0:text257 user_id passwd; 516:int32 account_enable";
   const jobject checker = create("AlertCheckUser");
   expectRead("QV_SetAlertCheckUser", {checker}, checker, 0, 520, user);
   expectBuilt("QV_GetAlertCheckUser", {}, 520, user);
 
-  const Members alertMail{textAt(0, 64, "smtp"),
-                          textAt(64, 256, "domain"),
-                          textAt(320, 64, "from_address"),
-                          textAt(384, 64, "to_address[0]"),
-                          textAt(576, 64, "to_address[3]"),
-                          textAt(640, 64, "reply_address"),
-                          textAt(704, 64, "additional_info"),
-                          int32At(768, "send_type[0]"),
-                          int32At(780, "send_type[3]")};
-  expectFromUnit("QV_GetEmailAlertInformation", 804,
-                 int32sAt(0, "send_mode ctl_flag[0] ctl_flag[1] exec_flag exec_result") +
-                     at(20, "mail.", alertMail));
-  const jobject alert = create(
-      "EmailAlertInfo",
-      {{"to_address[0]", ""}, {"to_address[1]", ""}, {"to_address[2]", ""}, {"to_address[3]", ""}});
+  const Members alertMail =
+      "0:text64 smtp; 64:text256 domain; 320:text64 from_address to_address[0]; 576:text64 "
+      "to_address[3] reply_address additional_info; 768:int32 send_type[0]; 780:int32 send_type[3]";
+  expectFromUnit(
+      "QV_GetEmailAlertInformation", 804,
+      "0:int32 send_mode ctl_flag[0] ctl_flag[1] exec_flag exec_result" + at("20:mail", alertMail));
+  const jobject alert =
+      create("EmailAlertInfo", "to_address[0]=; to_address[1]=; to_address[2]=; to_address[3]=");
   expectRequest("QV_SetEmailAlertInfo", alert, 784, alertMail);
-  expectRequest("QV_TestEmailAlert", "EmailAlertTest", 4, {int32At(0, "ctl")});
-  expectFromUnit("QV_AlertCheckEx", 12, int32sAt(0, "valid_index alert alert_sa"), {-1});
+  expectRequest("QV_TestEmailAlert", "EmailAlertTest", 4, "0:int32 ctl");
+  expectFromUnit("QV_AlertCheckEx", 12, "0:int32 valid_index alert alert_sa", {-1});
 }
 
 TEST_F(AlertCheck, Arguments) {
-  expectPassed("QV_AlertCheck", "usi", true);
-  expectPassed("QV_GetAlertInterval", "", true);
-  expectPassed("QV_SetAlertInterval", "i");
-  expectPassed("QV_ClearEmailAlertInfo", "us");
-  expectPassed("QV_ChangeEmailAlertMode", "usi");
+  expectPassed("QV_SetAlertInterval i; QV_ClearEmailAlertInfo us; QV_ChangeEmailAlertMode usi");
+  expectPassedAndReturned("QV_AlertCheck usi; QV_GetAlertInterval");
 
   EXPECT_EQ(get(information("QV_AlertCheck", 0), ""), "5");
-  EXPECT_EQ(run("QV_ChangeEmailAlertMode", 2), "");
+  update("QV_ChangeEmailAlertMode", 2);
   EXPECT_EQ(get(information("QV_GetEmailAlertInformation"), "send_mode"), "2");
 }
 
@@ -78,14 +64,14 @@ TEST_F(AlertCheck, RecipientsAreAsManyAsTheirNumberAndNeverMoreThanTheRecordHas)
 }
 
 TEST_F(AlertCheck, RecipientsThatAreSet) {
-  const jobject mail = create("EmailInfo", {{"tonum", "5"}});
+  const jobject mail = create("EmailInfo", "tonum=5");
   for (const std::string field : {"domain", "smtp", "from", "to[0]", "to[1]", "to[2]"}) {
     set(mail, field, "the " + field);
   }
   EXPECT_EQ(call("QV_SetEmailInfo", {mail}).failure, "");
   EXPECT_EQ(lastInt("QV_SetEmailInfo", 0, 244), 5);
   EXPECT_STREQ(lastInput("QV_SetEmailInfo", 0).c_str() + 448, "the to[2]");
-  expectFields(call("QV_GetEmailInfo", {}).result, {{"to", "String[5]"}, {"to[1]", "the to[1]"}});
+  expectFields(call("QV_GetEmailInfo", {}).result, "to=String[5]; to[1]=the to[1]");
 
   // Elements beyond the record's are left out.
   set(mail, "to[24]", "far");

@@ -7,25 +7,23 @@ namespace {
 using AuditLog = RegisteredUnit;
 
 TEST_F(AuditLog, Records) {
-  const Members settings =
-      int32sAt(0, "option set_valid auditlog_server.serverall_used") +
-      at({{12, "auditlog_server.server[0]."}, {56, "auditlog_server.server[1]."}},
-         {int32At(0, "server_used"), textAt(4, 40, "ip_address")}) +
-      int32sAt(100, "auditlog_internallog.internallog_used");
-  expectFromUnit("QV_GetQVAuditLogInformation", 104, settings);
+  expectGetAndSet("QVAuditLogInformation", "QVAuditLogInformation", 104,
+                  "0:int32 option set_valid auditlog_server.serverall_used" +
+                      at("12:auditlog_server.server[0] 56:auditlog_server.server[1]",
+                         "0:int32 server_used; 4:text40 ip_address") +
+                      "100:int32 auditlog_internallog.internallog_used");
   EXPECT_EQ(get(information("QV_GetQVAuditLogInformation"), "auditlog_server.server"),
             "QVAuditLogSyslogServer[2]");
-  expectRequest("QV_SetQVAuditLogInformation", "QVAuditLogInformation", 104, settings);
-  expectRequest("QV_InitQVAuditLog", "AuditLogInitRequest", 4, {int32At(0, "set_valid")});
-  expectPassed("QV_QVAuditLogExport", "usp");
+  expectRequest("QV_InitQVAuditLog", "AuditLogInitRequest", 4, "0:int32 set_valid");
+  expectPassed("QV_QVAuditLogExport usp");
 }
 
 TEST_F(AuditLog, ServersMoreOrFewerThanTheRecordHas) {
   const char* const method = "QV_SetQVAuditLogInformation";
-  const jobject one =
-      create("QVAuditLogInformation", {{"auditlog_server.server[0].ip_address", "192.0.2.1"},
-                                       {"auditlog_internallog.internallog_used", "7"}});
-  EXPECT_EQ(run(method, one), "");
+  const jobject one = create(
+      "QVAuditLogInformation",
+      "auditlog_server.server[0].ip_address=192.0.2.1; auditlog_internallog.internallog_used=7");
+  update(method, one);
   EXPECT_STREQ(lastInput(method, 2).c_str() + 16, "192.0.2.1");
   EXPECT_EQ(lastInput(method, 2)[100], 7);
 
@@ -37,14 +35,14 @@ TEST_F(AuditLog, ServersMoreOrFewerThanTheRecordHas) {
   }
   setNull(three, "auditlog_internallog");
   quorvelSimForceResult(method, 0, 1);
-  EXPECT_EQ(run(method, three), "");
+  update(method, three);
   EXPECT_EQ(lastInput(method, 2)[56], -1);
 }
 
 TEST_F(AuditLog, Export) {
   const std::string path = temporary("audit-log");
-  EXPECT_EQ(run("QV_InitQVAuditLog", create("AuditLogInitRequest")), "");
-  EXPECT_EQ(run("QV_QVAuditLogExport", path), "");
+  update("QV_InitQVAuditLog", create("AuditLogInitRequest"));
+  update("QV_QVAuditLogExport", path);
   EXPECT_EQ(contentOf(path), "admin: log initialised\n");
   EXPECT_EQ(run("QV_QVAuditLogExport", "/no/such/place"), "DiskArrayException 20801");
 }

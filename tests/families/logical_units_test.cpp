@@ -7,97 +7,83 @@ namespace {
 using LogicalUnits = RegisteredUnit;
 
 const Members kLogicalUnit =
-    int32sAt(0,
-             "luNumber rgNumber raid_level staging capacity capacity_h capacity_l befor_lun "
-             "cachepart_no pair_cachepart_valid pair_cachepart_no current_cachepart_no stripe "
-             "lu_use_type defaultCTL currentCTL status hostblock lu_valid qf_status "
-             "correction_status rg_last_lu unit_type unit_type_sub_code");
-const Members kFormat = int32sAt(0, "entry status percent err_code_sense_key err_code_sense_code");
-const Members kLuFormat = int32sAt(0, "status percent err_code_sense_key err_code_sense_code");
-const Members kOption = int32sAt(0, "valid_index change_index priority_mode format_mode");
-const Members kQuickFormat = int32sAt(0, "entry status percent waiting_number");
-const Members kCorrection = int32sAt(0, "status percent waiting_number");
-const Members kOwner = int32sAt(0, "lu_num rg_num lu_type d_ctl c_ctl cache_num cpucore_num");
+    "0:int32 luNumber rgNumber raid_level staging capacity capacity_h capacity_l befor_lun "
+    "cachepart_no pair_cachepart_valid pair_cachepart_no current_cachepart_no stripe lu_use_type "
+    "defaultCTL currentCTL status hostblock lu_valid qf_status correction_status rg_last_lu "
+    "unit_type unit_type_sub_code";
+const Members kFormat = "0:int32 entry status percent err_code_sense_key err_code_sense_code";
+const Members kLuFormat = "0:int32 status percent err_code_sense_key err_code_sense_code";
+const Members kOption = "0:int32 valid_index change_index priority_mode format_mode";
+const Members kQuickFormat = "0:int32 entry status percent waiting_number";
+const Members kCorrection = "0:int32 status percent waiting_number";
+const Members kOwner = "0:int32 lu_num rg_num lu_type d_ctl c_ctl cache_num cpucore_num";
 
 TEST_F(LogicalUnits, BuiltRecords) {
-  expectFromUnit("QV_GetLogicalUnit", 786432, at({{0, "[0]."}, {786336, "[8191]."}}, kLogicalUnit));
+  expectFromUnit("QV_GetLogicalUnit", 786432, at("0:[0] 786336:[8191]", kLogicalUnit));
   expectFromUnit("QV_GetLogicalUnit1", 96, kLogicalUnit, {-7});
   expectBuilt("QV_GetFormatStatusList", {unit_}, 40972,
-              int32sAt(0, "mode totalpercent resttime") +
-                  at({{12, "lu[0]."}, {40952, "lu[2047]."}}, kFormat));
+              "0:int32 mode totalpercent resttime" + at("12:lu[0] 40952:lu[2047]", kFormat));
   expectBuilt("QV_LogicalUnitFormatStatusList", {unit_}, 32768,
-              at({{0, "lu[0]."}, {32752, "lu[2047]."}}, kLuFormat));
-  expectFromUnit("QV_GetQuickFormatOption", 16, kOption);
+              at("0:lu[0] 32752:lu[2047]", kLuFormat));
+  expectGetAndSet("QuickFormatOption", "QuickFormatOption", 16, kOption);
   expectFromUnit("QV_GetQuickFormatStatusList", 131080,
-                 int32sAt(0, "priority_mode format_mode") +
-                     at({{8, "lu[0]."}, {131064, "lu[8191]."}}, kQuickFormat));
+                 "0:int32 priority_mode format_mode" + at("8:lu[0] 131064:lu[8191]", kQuickFormat));
   expectFromUnit("QV_GetParityCorrectionStatusList", 98304,
-                 at({{0, "lu[0]."}, {98292, "lu[8191]."}}, kCorrection));
+                 at("0:lu[0] 98292:lu[8191]", kCorrection));
   expectFromUnit("QV_GetLuOwnership", 229380,
-                 int32sAt(0, "count") + at({{4, "lu[0]."}, {229352, "lu[8191]."}}, kOwner));
-  expectFields(information("QV_GetLogicalUnit"), {{"", "LogicalUnit[8192]"}});
-  expectFields(information("QV_GetLuOwnership"), {{"lu", "LuOwnershipInfo[8192]"}});
+                 "0:int32 count" + at("4:lu[0] 229352:lu[8191]", kOwner));
+  expectFields(information("QV_GetLogicalUnit"), "=LogicalUnit[8192]");
+  expectFields(information("QV_GetLuOwnership"), "lu=LuOwnershipInfo[8192]");
 }
 
 // Of a longer array the elements beyond the record's are left out; an array that is too short ends
 // the reading.
 TEST_F(LogicalUnits, ReadRecords) {
-  const jobject creation = create("LogicalUnitCreationRequest", {{"befor_lun[128]", "7"}});
+  const jobject creation = create("LogicalUnitCreationRequest", "befor_lun[128]=7");
   expectRequest("QV_CreateLogicalUnit", creation, 556,
-                int32sAt(0,
-                         "luNumber rgNumber lu_capacity_h lu_capacity_l befor_lun_count "
-                         "befor_lun[0] befor_lun[1]") +
-                    int32sAt(528,
-                             "befor_lun[127] cachepart_no pair_cachepart_valid "
-                             "pair_cachepart_no stripe lu_use_type hostblock"));
-  set(creation, "befor_lun_count", "500");
-  setLength(creation, "befor_lun", 127);
+                "0:int32 luNumber rgNumber lu_capacity_h lu_capacity_l befor_lun_count "
+                "befor_lun[0] befor_lun[1]; 528:int32 befor_lun[127] cachepart_no "
+                "pair_cachepart_valid pair_cachepart_no stripe lu_use_type hostblock");
+  set(creation, "befor_lun_count=500; befor_lun#=127");
   expectTooShort("QV_CreateLogicalUnit", {unit_, session_, creation});
   EXPECT_EQ(lastInt("QV_CreateLogicalUnit", 2, 16), 500);
   // The library's code replaces Java's exception.
   quorvelSimForceResult("QV_CreateLogicalUnit", 20503, 1);
   EXPECT_EQ(run("QV_CreateLogicalUnit", creation), "DiskArrayException 20503");
 
-  const jobject correction = create("ParityCorrectionRequest", {{"lu[8192]", "7"}});
+  const jobject correction = create("ParityCorrectionRequest", "lu[8192]=7");
   expectRequest("QV_EntryParityCorrectionList", correction, 32776,
-                int32sAt(0, "correction_mode lu_count lu[0]") + int32sAt(32772, "lu[8191]"));
-  setLength(correction, "lu", 8191);
+                "0:int32 correction_mode lu_count lu[0]; 32772:int32 lu[8191]");
+  set(correction, "lu#=8191");
   expectTooShort("QV_EntryParityCorrectionList", {unit_, session_, correction});
 
-  const jobject formats = create("FormatEntryList", {{"lu[2048]", "7"}});
-  expectRead("QV_EntryFormatList", {unit_, formats}, formats, 1, 2048, {bytesAt(0, 2048, "lu")});
+  const jobject formats = create("FormatEntryList", "lu[2048]=7");
+  expectRead("QV_EntryFormatList", {unit_, formats}, formats, 1, 2048, "0:bytes2048 lu");
   EXPECT_EQ(lastText("QV_EntryFormatList", 0), "north");
-  setLength(formats, "lu", 2047);
+  set(formats, "lu#=2047");
   expectTooShort("QV_EntryFormatList", {unit_, formats});
-  const jobject quick = create("QuickFormatEntryList", {{"lu[8192]", "7"}});
-  expectRequest("QV_EntryQuickFormatList", quick, 8192, {bytesAt(0, 8192, "lu")});
-  setLength(quick, "lu", 8191);
+  const jobject quick = create("QuickFormatEntryList", "lu[8192]=7");
+  expectRequest("QV_EntryQuickFormatList", quick, 8192, "0:bytes8192 lu");
+  set(quick, "lu#=8191");
   expectTooShort("QV_EntryQuickFormatList", {unit_, session_, quick});
 
   const jobject reallocation = create("LogicalUnitReallocationRequest");
   expectRead("QV_LogicalUnitRealloc", {unit_, reallocation}, reallocation, 1, 12,
-             int32sAt(0, "lun lusize newlun"));
+             "0:int32 lun lusize newlun");
   EXPECT_EQ(lastText("QV_LogicalUnitRealloc", 0), "north");
   expectRequest("QV_LogicalUnitAdd", "LogicalUnit", 96, kLogicalUnit);
-  expectRequest("QV_SetQuickFormatOption", "QuickFormatOption", 16, kOption);
   expectRequest("QV_SetLuOwnership", "LuOwnershipInfo", 28, kOwner);
 }
 
 TEST_F(LogicalUnits, Arguments) {
-  expectPassed("QV_GetLastLogicalUnit", "u", true);
-  expectPassed("QV_LogicalUnitDelete", "u");
-  expectPassed("QV_LogicalUnitDeleteAll", "u");
-  expectPassed("QV_LogicalUnitDeleteByLUN", "usi");
-  expectPassed("QV_LogicalUnitExpand", "uii");
-  expectPassed("QV_LogicalUnitChangeStaging", "usii");
-  expectPassed("QV_LogicalUnitChangeCtl", "usi");
-  expectPassed("QV_LogicalUnitInvalid", "ui");
-  expectPassed("QV_LogicalUnitRestore", "ui");
-  expectPassed("QV_LogicalUnitFormat", "uii");
-  expectPassed("QV_LogicalUnitFormatStatus", "ui", true);
-  expectPassed("QV_LogicalUnitFormatImmediateCTL", "uii", true);
-  expectPassed("QV_LogicalUnitFormatStatusList", "u");
-  expectPassed("QV_GetFormatStatusList", "u");
+  expectPassed(
+      "QV_LogicalUnitDelete u; QV_LogicalUnitDeleteAll u; QV_LogicalUnitDeleteByLUN usi; "
+      "QV_LogicalUnitExpand uii; QV_LogicalUnitChangeStaging usii; QV_LogicalUnitChangeCtl usi; "
+      "QV_LogicalUnitInvalid ui; QV_LogicalUnitRestore ui; QV_LogicalUnitFormat uii; "
+      "QV_LogicalUnitFormatStatusList u; QV_GetFormatStatusList u");
+  expectPassedAndReturned(
+      "QV_GetLastLogicalUnit u; QV_LogicalUnitFormatStatus ui; QV_LogicalUnitFormatImmediateCTL "
+      "uii");
 
   // One list takes a null name for an empty one.
   EXPECT_EQ(call("QV_LogicalUnitFormatStatusList", {nullptr}).failure, "DiskArrayException 20001");
@@ -109,11 +95,10 @@ TEST_F(LogicalUnits, CreatedAndChanged) {
   createGroup(0);
   EXPECT_EQ(createLu(8191, 0, 1, INT32_MIN), "");
   EXPECT_EQ(createLu(8191, 0, 0, 2048), "DiskArrayException 20502");
-  EXPECT_EQ(run("QV_LogicalUnitChangeStaging", 8191, 2), "");
-  expectFields(information("QV_GetLogicalUnit"), {{"[8190].lu_valid", "0"},
-                                                  {"[8191].capacity_h", "1"},
-                                                  {"[8191].capacity_l", "-2147483648"},
-                                                  {"[8191].staging", "2"}});
+  update("QV_LogicalUnitChangeStaging", 8191, 2);
+  expectFields(
+      information("QV_GetLogicalUnit"),
+      "[8190].lu_valid=0; [8191].capacity_h=1; [8191].capacity_l=-2147483648; [8191].staging=2");
   EXPECT_EQ(get(call("QV_GetLastLogicalUnit", {unit_}).result, ""), "8191");
   EXPECT_EQ(call("QV_LogicalUnitFormat", {unit_, number(8191), number(0)}).failure, "");
   EXPECT_EQ(get(call("QV_LogicalUnitFormatStatus", {unit_, number(8191)}).result, ""), "25");

@@ -6,18 +6,18 @@
 #include <cstdio>
 #include <fstream>
 #include <iterator>
+#include <map>
+
+#include "tests/support/split.h"
 
 namespace quorvelj::testing {
 
 RegisteredUnit::RegisteredUnit() {
   quorvelSimReset();
   javaEnv()->PushLocalFrame(4096);
-  call("QV_UnitAdd", {create("QVUnitParam", {{"unit_name", "north"},
-                                             {"group_name", ""},
-                                             {"alert", "5"},
-                                             {"ctl0", "192.0.2.10"},
-                                             {"ctl1", ""},
-                                             {"serial", ""}})});
+  call("QV_UnitAdd",
+       {create("QVUnitParam",
+               "unit_name=north; group_name=; alert=5; ctl0=192.0.2.10; ctl1=; serial=")});
   unit_ = text("north");
   session_ = login("admin", "quorvel").result;
 }
@@ -30,9 +30,8 @@ RegisteredUnit::~RegisteredUnit() {
 }
 
 Called RegisteredUnit::login(const std::string& user, const std::string& password) {
-  return call("QV_LoginQVAccount",
-              {unit_, create("LoginRequest",
-                             {{"user_id", user}, {"passwd", password}, {"log_string", ""}})});
+  return call("QV_LoginQVAccount", {unit_, create("LoginRequest", "user_id=" + user + "; passwd=" +
+                                                                      password + "; log_string=")});
 }
 
 std::string RegisteredUnit::lastInput(const char* function, int parameter) {
@@ -65,58 +64,72 @@ void RegisteredUnit::expectRequest(const char* method, jobject object, std::size
   arguments.push_back(object);
   const int place = 2 + static_cast<int>(ints.size());
   expectRead(method, arguments, object, place, size, members);
-  expectRead(method, arguments, session, 1, 32, {bytesAt(0, 32, "session_id")});
+  expectRead(method, arguments, session, 1, 32, "0:bytes32 session_id");
   expectUnitAndInts(method, ints);
 }
 
-void RegisteredUnit::expectRequest(const char* method, const char* className, std::size_t size,
+void RegisteredUnit::expectRequest(const char* methods, const char* className, std::size_t size,
                                    const Members& members, const std::vector<int>& ints) {
-  expectRequest(method, create(className), size, members, ints);
+  for (const std::string& method : split(methods, " ")) {
+    expectRequest(method.c_str(), create(className), size, members, ints);
+  }
 }
 
-void RegisteredUnit::expectPassed(const char* method, const std::string& kinds, bool value) {
-  SCOPED_TRACE(method);
+void RegisteredUnit::expectGetAndSet(const std::string& operation, const char* className,
+                                     std::size_t size, const Members& members,
+                                     const std::vector<int>& ints) {
+  expectFromUnit(("QV_Get" + operation).c_str(), size, members, ints);
+  expectRequest(("QV_Set" + operation).c_str(), className, size, members, ints);
+}
+
+void RegisteredUnit::expectPassed(const std::string& methods) {
+  for (const std::string& listed : split(methods, "; ")) {
+    callWithKinds(listed);
+  }
+}
+
+void RegisteredUnit::expectPassedAndReturned(const std::string& methods) {
+  for (const std::string& listed : split(methods, "; ")) {
+    EXPECT_EQ(get(callWithKinds(listed).result, ""), "-123456789") << listed;
+    quorvelSimForceResult(split(listed, " ")[0].c_str(), 77, 1);
+    EXPECT_EQ(callWithKinds(listed, "DiskArrayException 77").result, nullptr) << listed;
+  }
+}
+
+Called RegisteredUnit::callWithKinds(const std::string& listed, const char* failure) {
+  SCOPED_TRACE(listed);
+  const std::string name = listed.substr(0, listed.find(' '));
+  const char* const method = name.c_str();
+  const std::string kinds = listed.substr(std::min(name.size() + 1, listed.size()));
   std::vector<jobject> arguments;
-  for (std::size_t index = 0; index < kinds.size(); ++index) {
-    const std::string place = std::to_string(index);
-    arguments.push_back(kinds[index] == 'u'   ? unit_
-                        : kinds[index] == 's' ? session_
-                        : kinds[index] == 'p' ? text("/path/" + place)
-                                              : number(-100 - static_cast<jint>(index)));
+  for (const char kind : kinds) {
+    const auto place = static_cast<jint>(arguments.size());
+    arguments.push_back(kind == 'u'   ? unit_
+                        : kind == 's' ? session_
+                        : kind == 'p' ? text("/path/" + std::to_string(place))
+                                      : number(-100 - place));
   }
   constexpr std::int32_t kWritten = -123456789;
   quorvelSimPrepareOutput(method, &kWritten, sizeof kWritten);
   const Called called = call(method, arguments);
   quorvelSimPrepareOutput(method, nullptr, 0);
-  EXPECT_EQ(called.failure, "");
-  if (value) {
-    EXPECT_EQ(get(called.result, ""), "-123456789");
-    quorvelSimForceResult(method, 77, 1);
-    EXPECT_EQ(call(method, arguments).failure, "DiskArrayException 77");
-  }
-  for (std::size_t index = 0; index < kinds.size(); ++index) {
-    const std::string given = lastInput(method, static_cast<int>(index));
-    SCOPED_TRACE("parameter " + std::to_string(index));
-    switch (kinds[index]) {
-      case 'u':
-        ASSERT_EQ(given.size(), 65U);
-        EXPECT_STREQ(given.c_str(), "north");
-        break;
-      case 's':
-        ASSERT_EQ(given.size(), 32U);
-        EXPECT_EQ(given[31], 'Z');
-        break;
-      case 'p':
-        ASSERT_EQ(given.size(), 1024U);
-        EXPECT_EQ(given.c_str(), "/path/" + std::to_string(index));
-        break;
-      default:
-        ASSERT_EQ(given.size(), 4U);
-        EXPECT_EQ(given[0], static_cast<char>(-100 - static_cast<int>(index)));
-        EXPECT_EQ(given[3], '\xFF');
+  EXPECT_EQ(called.failure, failure);
+  static const std::map<char, std::size_t> sizes{{'u', 65}, {'s', 32}, {'p', 1024}, {'i', 4}};
+  int place = 0;
+  for (const char kind : kinds) {
+    SCOPED_TRACE("parameter " + std::to_string(place));
+    EXPECT_EQ(lastInput(method, place).size(), sizes.at(kind));
+    if (kind == 'i') {
+      EXPECT_EQ(lastInt(method, place), -100 - place);
+    } else if (kind == 's') {
+      EXPECT_EQ(lastInput(method, place).substr(31), "Z");
+    } else {
+      EXPECT_EQ(lastText(method, place), kind == 'u' ? "north" : "/path/" + std::to_string(place));
     }
+    ++place;
   }
-  EXPECT_EQ(lastInput(method, static_cast<int>(kinds.size())).size(), 0U);
+  EXPECT_EQ(lastInput(method, place).size(), 0U);
+  return called;
 }
 
 void RegisteredUnit::expectTooShort(const char* method, const std::vector<jobject>& arguments) {
@@ -127,28 +140,19 @@ void RegisteredUnit::expectTooShort(const char* method, const std::vector<jobjec
   EXPECT_EQ(quorvelSimCallCount(method), calls + 1) << method;
 }
 
-std::ptrdiff_t RegisteredUnit::lengthOf(jobject object, const char* path) {
-  const std::string shown = get(object, path);
-  return 1 + std::count(shown.begin(), shown.end(), ',');
-}
-
 std::string RegisteredUnit::createGroup(int group) {
-  const jobject request = create("CreateRaidGroup", {{"rgnum", std::to_string(group)},
-                                                     {"level", "5"},
-                                                     {"parity_hdu_count", "5"},
-                                                     {"parity_count", "2"}});
-  setLength(request, "rgdrv", 0);
-  return run("QV_CreateRaidGroup", request);
+  return run(
+      "QV_CreateRaidGroup",
+      create("CreateRaidGroup", "rgnum=" + std::to_string(group) +
+                                    "; level=5; parity_hdu_count=5; parity_count=2; rgdrv#=0"));
 }
 
 std::string RegisteredUnit::createLu(int lun, int group, int high, int low) {
-  const jobject request =
-      create("LogicalUnitCreationRequest", {{"luNumber", std::to_string(lun)},
-                                            {"rgNumber", std::to_string(group)},
-                                            {"lu_capacity_h", std::to_string(high)},
-                                            {"lu_capacity_l", std::to_string(low)}});
-  setLength(request, "befor_lun", 128);
-  return run("QV_CreateLogicalUnit", request);
+  return run("QV_CreateLogicalUnit",
+             create("LogicalUnitCreationRequest",
+                    "luNumber=" + std::to_string(lun) + "; rgNumber=" + std::to_string(group) +
+                        "; lu_capacity_h=" + std::to_string(high) +
+                        "; lu_capacity_l=" + std::to_string(low) + "; befor_lun#=128"));
 }
 
 std::string RegisteredUnit::temporary(const std::string& name) {
@@ -160,12 +164,6 @@ std::string RegisteredUnit::temporary(const std::string& name) {
 std::string RegisteredUnit::contentOf(const std::string& path) {
   std::ifstream file(path);
   return {std::istreambuf_iterator<char>(file), {}};
-}
-
-jobject RegisteredUnit::succeeding(const char* method, const std::vector<jobject>& arguments) {
-  const Called called = call(method, arguments);
-  EXPECT_EQ(called.failure, "") << method;
-  return called.result;
 }
 
 std::vector<jobject> RegisteredUnit::inSession(jobject session, const std::vector<int>& ints) {

@@ -31,7 +31,13 @@ class RegisteredUnit : public ::testing::Test {
   /// The same of a method that must not fail. Returns its result.
   template <class... Argument>
   jobject information(const char* method, const Argument&... arguments) {
-    return succeeding(method, {unit_, session_, argument(arguments)...});
+    const Called called = call(method, {unit_, session_, argument(arguments)...});
+    EXPECT_EQ(called.failure, "") << method;
+    return called.result;
+  }
+  template <class... Argument>
+  void update(const char* method, const Argument&... arguments) {
+    EXPECT_EQ(run(method, arguments...), "") << method;
   }
 
   /// The bytes of what a library function was last given as its `parameter`.
@@ -47,19 +53,27 @@ class RegisteredUnit : public ::testing::Test {
   /// this order.
   void expectRequest(const char* method, jobject object, std::size_t size, const Members& members,
                      const std::vector<int>& ints = {});
-  void expectRequest(const char* method, const char* className, std::size_t size,
+  /// The same of several methods, parted by spaces, that take a class.
+  void expectRequest(const char* methods, const char* className, std::size_t size,
                      const Members& members, const std::vector<int>& ints = {});
+  /// The query "QV_Get<operation>", which returns an object of the class, and the update
+  /// "QV_Set<operation>", which takes one.
+  void expectGetAndSet(const std::string& operation, const char* className, std::size_t size,
+                       const Members& members, const std::vector<int>& ints = {});
 
-  /// Calls `method` with arguments of the given kinds, u the unit, s the session, p a path and i an
-  /// int, and finds them in that order in the library's call. What the library writes is returned
-  /// where `value` is set.
-  void expectPassed(const char* method, const std::string& kinds, bool value = false);
+  /// Calls methods with arguments of the listed kinds, as in "QV_SpinUpDriveByRG usi; QV_UnitDelete
+  /// u", and finds the arguments in that order in the library's calls. The kinds are u for the
+  /// unit, s for the session, p for a path and i for an int.
+  void expectPassed(const std::string& methods);
+  /// The same of methods that return the int that the library writes.
+  void expectPassedAndReturned(const std::string& methods);
 
   /// Expects an array that is too short to end the reading: the library is called all the same.
   static void expectTooShort(const char* method, const std::vector<jobject>& arguments);
 
-  /// The number of ints in an array.
-  static std::ptrdiff_t lengthOf(jobject object, const char* path);
+  static jobject element(jobject array, int index) {
+    return javaEnv()->GetObjectArrayElement(static_cast<jobjectArray>(array), index);
+  }
 
   /// RAID 5 of two parity groups of 5 drives: 15,628,201,344 blocks.
   std::string createGroup(int group);
@@ -77,8 +91,8 @@ class RegisteredUnit : public ::testing::Test {
   static jobject argument(int value) { return number(value); }
   static jobject argument(const std::string& value) { return text(value); }
 
-  static jobject succeeding(const char* method, const std::vector<jobject>& arguments);
   std::vector<jobject> inSession(jobject session, const std::vector<int>& ints);
+  Called callWithKinds(const std::string& listed, const char* failure = "");
   static void expectUnitAndInts(const char* method, const std::vector<int>& ints);
 
   std::set<std::string> temporary_;

@@ -7,11 +7,8 @@ namespace {
 using Snmp = RegisteredUnit;
 
 TEST_F(Snmp, RecordsAndArguments) {
-  expectPassed("QV_LoadSnmpConfig", "pp");
-  expectPassed("QV_SetSnmpConfig", "uspp");
-  expectPassed("QV_SnmpConfigOutput", "uspp");
-  const Members members{int32At(0, "set_valid"), textAt(4, 4096, "conf"),
-                        textAt(4100, 255, "name")};
+  expectPassed("QV_LoadSnmpConfig pp; QV_SetSnmpConfig uspp; QV_SnmpConfigOutput uspp");
+  const Members members = "0:int32 set_valid; 4:text4096 conf; 4100:text255 name";
   expectBuilt("QV_LoadSnmpConfig", {text("a"), text("b")}, 4356, members);
   const jobject config = create("SnmpConfigInformation");
   expectRead("QV_SaveSnmpConfig", {text("a"), text("b"), config}, config, 2, 4356, members);
@@ -21,16 +18,15 @@ TEST_F(Snmp, RecordsAndArguments) {
 }
 
 TEST_F(Snmp, ConfigurationTravelsThroughFilesAndTheArray) {
-  const jobject config =
-      create("SnmpConfigInformation", {{"conf", "sysContact \"Größe\"\n"}, {"name", "agent"}});
+  const jobject config = create("SnmpConfigInformation", "conf=sysContact \"Größe\"\n; name=agent");
   const jobject first = text(temporary("snmp-text"));
   const jobject second = text(temporary("snmp-name"));
   EXPECT_EQ(call("QV_SaveSnmpConfig", {first, second, config}).failure, "");
   EXPECT_EQ(contentOf(temporary("snmp-text")), "sysContact \"Größe\"\n");
-  EXPECT_EQ(run("QV_SetSnmpConfig", first, second), "");
-  EXPECT_EQ(run("QV_SnmpConfigOutput", second, first), "");
+  update("QV_SetSnmpConfig", first, second);
+  update("QV_SnmpConfigOutput", second, first);
   const jobject loaded = call("QV_LoadSnmpConfig", {second, first}).result;
-  expectFields(loaded, {{"conf", "sysContact \"Größe\"\n"}, {"name", "agent"}});
+  expectFields(loaded, "conf=sysContact \"Größe\"\n; name=agent");
 }
 
 }  // namespace

@@ -7,20 +7,16 @@ namespace {
 class UnitRegistration : public RegisteredUnit {
  protected:
   static jobject unit(const std::string& name) {
-    return create("QVUnitParam", {{"unit_name", name},
-                                  {"group_name", ""},
-                                  {"ctl0", "192.0.2.10"},
-                                  {"ctl1", ""},
-                                  {"serial", ""}});
+    return create("QVUnitParam",
+                  "unit_name=" + name + "; group_name=; ctl0=192.0.2.10; ctl1=; serial=");
   }
 };
 
 TEST_F(UnitRegistration, Records) {
-  const Members unitParam{
-      textAt(0, 65, "unit_name"), textAt(65, 17, "group_name"), int8At(82, "connect_type"),
-      int8At(83, "qv_type"),      uint8At(84, "device_type"),   int8At(85, "unit_conf"),
-      int8At(86, "alert"),        textAt(87, 256, "ctl0"),      textAt(343, 256, "ctl1"),
-      textAt(599, 9, "serial"),   int32At(608, "ssl_used")};
+  const Members unitParam =
+      "0:text65 unit_name; 65:text17 group_name; 82:int8 connect_type qv_type; 84:uint8 "
+      "device_type; 85:int8 unit_conf alert; 87:text256 ctl0 ctl1; 599:text9 serial; 608:int32 "
+      "ssl_used";
   expectBuilt("QV_GetUnitParam", {unit_}, 612, unitParam);
   const jobject param = create("QVUnitParam");
   for (const char* const method : {"QV_UnitAdd", "QV_UnitAddByIP"}) {
@@ -29,21 +25,19 @@ TEST_F(UnitRegistration, Records) {
   for (const char* const method : {"QV_UnitChange", "QV_UnitChangeByIP"}) {
     expectRead(method, {unit_, param}, param, 1, 612, unitParam);
   }
-  const Members request{uint8At(0, "connect_type"), textAt(1, 256, "ip_dev")};
+  const Members request = "0:uint8 connect_type; 1:text256 ip_dev";
   const jobject discovery = create("DiscoverUnitRequest");
   for (const char* const method : {"QV_DiscoverUnitInformation", "QV_DiscoverUnitInformationEx"}) {
-    expectRead(method, {discovery}, discovery, 0, 264,
-               request + int32sAt(260, "communication_mode"));
+    expectRead(method, {discovery}, discovery, 0, 264, request + "260:int32 communication_mode");
     expectBuilt(method, {discovery}, 276,
-                request + Members{uint8At(257, "qv_type"), uint8At(258, "device_type"),
-                                  uint8At(259, "unit_conf"), uint8At(260, "ctlno"),
-                                  textAt(261, 11, "serial"), int32At(272, "communication_port")});
+                request +
+                    "257:uint8 qv_type device_type unit_conf ctlno; 261:text11 serial; 272:int32 "
+                    "communication_port");
   }
   expectFromUnit("QV_GetAdditionalUnitInformation", 32,
-                 int32sAt(0,
-                          "inquiry_time polling_time time_out add_unit_num connect_unit_num "
-                          "unit_type unit_status unit_status_subcode"));
-  expectRequest("QV_AddAdditionalUnit", "AdditionalUnitRequest", 4, {int32At(0, "mode")});
+                 "0:int32 inquiry_time polling_time time_out add_unit_num connect_unit_num "
+                 "unit_type unit_status unit_status_subcode");
+  expectRequest("QV_AddAdditionalUnit", "AdditionalUnitRequest", 4, "0:int32 mode");
 }
 
 TEST_F(UnitRegistration, ListOfUnits) {
@@ -51,10 +45,8 @@ TEST_F(UnitRegistration, ListOfUnits) {
   EXPECT_EQ(call("QV_UnitAdd", {unit("north")}).failure, "DiskArrayException 20002");
   EXPECT_EQ(get(call("QV_GetUnitCount", {}).result, ""), "2");
   // The network's entry fills what the registration left empty.
-  expectFields(call("QV_GetUnitParamTable", {number(2)}).result, {{"", "QVUnitParam[2]"},
-                                                                  {"[0].unit_name", "east"},
-                                                                  {"[1].unit_name", "north"},
-                                                                  {"[1].device_type", "201"}});
+  expectFields(call("QV_GetUnitParamTable", {number(2)}).result,
+               "=QVUnitParam[2]; [0].unit_name=east; [1].unit_name=north; [1].device_type=201");
   EXPECT_EQ(get(call("QV_GetUnitParamTable", {number(0)}).result, ""), "QVUnitParam[0]");
   EXPECT_EQ(call("QV_GetUnitParamTable", {number(-1)}).result, nullptr);
 }
@@ -74,7 +66,7 @@ TEST_F(UnitRegistration, NamesAreCutToTheirBuffer) {
   // Java can be given such a text back.
   EXPECT_EQ(call("QV_UnitAdd", {unit(inside)}).failure, "");
   const jobject table = call("QV_GetUnitParamTable", {number(2)}).result;
-  expectFields(table, {{"", "QVUnitParam[2]"}, {"[0].group_name", ""}});
+  expectFields(table, "=QVUnitParam[2]; [0].group_name=");
 }
 
 TEST_F(UnitRegistration, ResultsOfTheLibrary) {

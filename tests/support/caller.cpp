@@ -4,11 +4,13 @@
 #include <cctype>
 #include <cstdio>
 #include <cstdlib>
+#include <string_view>
 #include <unordered_map>
 
 #include "tests/support/callers_jvm.h"
 #include "tests/support/java_fields.h"
 #include "tests/support/native_methods.h"
+#include "tests/support/split.h"
 
 namespace quorvelj::testing {
 namespace {
@@ -33,7 +35,7 @@ std::vector<std::string> stepsOf(const std::string& path) {
   std::vector<std::string> steps;
   std::string step;
   for (const char letter : path + '.') {
-    if (letter != '.' && letter != '[' && letter != ']') {
+    if (std::string_view(".[]#").find(letter) == std::string_view::npos) {
       step += letter;
     } else if (!step.empty()) {
       steps.push_back(step);
@@ -226,13 +228,27 @@ jobject text(const std::string& value) { return javaEnv()->NewStringUTF(value.c_
 
 jobject number(jint value) { return newObject("java/lang/Integer", "(I)V", value); }
 
-jobject create(const char* className) {
-  return newObject(std::string("tessaly/str/diskarray/") + className, "()V");
+Fields::Fields(const std::string& list) {
+  for (const std::string& field : split(list, "; ")) {
+    const std::size_t sign = field.find('=');
+    if (sign == std::string::npos) {
+      fail("no value: " + field);
+    }
+    push_back({field.substr(0, sign), field.substr(sign + 1)});
+  }
+}
+
+jobject create(const char* className, const Fields& fields) {
+  const jobject object = newObject(std::string("tessaly/str/diskarray/") + className, "()V");
+  set(object, fields);
+  return object;
 }
 
 void set(jobject object, const std::string& path, const std::string& value) {
   const Place place = locate(object, path);
-  if (isNumber(place)) {
+  if (path.ends_with('#')) {
+    store(place, newArray(place.signature, static_cast<jsize>(std::stol(value))));
+  } else if (isNumber(place)) {
     storeNumber(place, static_cast<jint>(std::stol(value)));
   } else if (place.signature == kText) {
     store(place, text(value));
@@ -241,24 +257,13 @@ void set(jobject object, const std::string& path, const std::string& value) {
   }
 }
 
-void set(jobject object, Fields fields) {
-  for (const FieldText& field : fields) {
-    set(object, std::string(field.path), std::string(field.value));
+void set(jobject object, const Fields& fields) {
+  for (const auto& [path, value] : fields) {
+    set(object, path, value);
   }
 }
 
-jobject create(const char* className, Fields fields) {
-  const jobject object = create(className);
-  set(object, fields);
-  return object;
-}
-
 void setNull(jobject object, const std::string& path) { store(locate(object, path), nullptr); }
-
-void setLength(jobject object, const std::string& path, int length) {
-  const Place place = locate(object, path);
-  store(place, length < 0 ? nullptr : newArray(place.signature, static_cast<jsize>(length)));
-}
 
 std::string get(jobject object, const std::string& path) {
   jobject value = object;
@@ -272,7 +277,7 @@ std::string get(jobject object, const std::string& path) {
     }
     value = load(place);
   }
-  return shown(value);
+  return path.ends_with('#') ? std::to_string(lengthOf(value)) : shown(value);
 }
 
 Called call(const char* method, const std::vector<jobject>& arguments) {

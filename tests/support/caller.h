@@ -4,7 +4,6 @@
 
 #include <initializer_list>
 #include <string>
-#include <string_view>
 #include <vector>
 
 // The Java caller whose part the family tests play: it makes objects, finds what they hold, and
@@ -18,25 +17,27 @@ JNIEnv* javaEnv();
 /// Objects to hand to a native method.
 jobject text(const std::string& value);
 jobject number(jint value);
-/// A new object of the package's class.
-jobject create(const char* className);
 
-/// Sets the field at a path, "server[1].ip_address", from its text form; makes what lies on the
-/// way.
-void set(jobject object, const std::string& path, const std::string& value);
-/// Fields of an object: their paths, and their values as text.
+/// Fields of an object by their paths, and their values as text: "unit_name=north; alert=5". The
+/// path of the object itself is empty, and "to#" is the length of the array "to".
 struct FieldText {
-  std::string_view path;
-  std::string_view value;
+  std::string path;
+  std::string value;
 };
-using Fields = std::initializer_list<FieldText>;
-void set(jobject object, Fields fields);
-jobject create(const char* className, Fields fields);
+struct Fields : std::vector<FieldText> {
+  Fields(std::initializer_list<FieldText> fields = {}) : vector(fields) {}
+  Fields(const std::string& list);
+  Fields(const char* list) : Fields(std::string(list)) {}
+};
+
+/// A new object of the package's class.
+jobject create(const char* className, const Fields& fields = {});
+/// Sets the field at a path, "server[1].ip_address", from its text form; makes what lies on the
+/// way. With a length an array is made anew.
+void set(jobject object, const std::string& path, const std::string& value);
+void set(jobject object, const Fields& fields);
 /// Sets the field at a path to null.
 void setNull(jobject object, const std::string& path);
-/// Sets the array field at a path to a new array of a length; to null where that is -1.
-void setLength(jobject object, const std::string& path, int length);
-
 /// The field at a path as text: "-1", "null", "[1, 2]", "QVAccountRole[32]" for an array of objects
 /// and "QVAccountRole" for an object.
 std::string get(jobject object, const std::string& path);

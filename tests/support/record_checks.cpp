@@ -3,13 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdint>
 #include <cstdio>
+#include <cstdlib>
 #include <map>
-#include <unordered_set>
+#include <string_view>
 
 #include "simulator/control.h"
 #include "tests/support/field_log.h"
+#include "tests/support/split.h"
 
 namespace quorvelj::testing {
 namespace {
@@ -30,6 +31,26 @@ Compared& compared() {
 
 const auto* const kCompared = ::testing::AddGlobalTestEnvironment(&compared());
 
+/// A member of a kind that a list names, such as "int32" or "text17".
+Member memberOf(const std::string& kind) {
+  static const std::map<std::string_view, Member> members{
+      {"int32", {"", 0, Kind::kInt32, 4}}, {"int8", {"", 0, Kind::kInt8, 1}},
+      {"uint8", {"", 0, Kind::kUInt8, 1}}, {"text", {"", 0, Kind::kText, 0}},
+      {"bytes", {"", 0, Kind::kBytes, 0}}, {"visited", {"", 0, Kind::kVisited, 0}}};
+  const bool known = members.contains(kind);
+  const std::size_t letters = known ? kind.size() : kind.find_first_of("0123456789");
+  const auto found = members.find(kind.substr(0, letters));
+  if (found == members.end() || (!known && found->second.width != 0)) {
+    std::fprintf(stderr, "no kind of member: %s\n", kind.c_str());
+    std::abort();
+  }
+  Member member = found->second;
+  if (!known) {
+    member.width = std::stoul(kind.substr(letters));
+  }
+  return member;
+}
+
 /// A field that a list of members expects to be visited.
 struct Expected {
   std::string name;
@@ -42,18 +63,16 @@ using ExpectedByHolder = std::map<std::string, std::vector<Expected>>;
 
 /// Whether a member follows another in their object: ints that lie side by side.
 bool adjacent(const Member& left, const Member& right) {
-  const std::string_view leftPath = left.path;
-  const std::string_view rightPath = right.path;
-  const auto holderOf = [](std::string_view path) { return path.substr(0, path.rfind('.') + 1); };
+  const auto holderOf = [](const std::string& path) { return path.substr(0, path.rfind('.') + 1); };
   return left.kind == Kind::kInt32 && right.kind == Kind::kInt32 &&
-         left.offset + 4 == right.offset && holderOf(leftPath) == holderOf(rightPath) &&
-         leftPath.back() != ']' && rightPath.back() != ']';
+         left.offset + 4 == right.offset && holderOf(left.path) == holderOf(right.path) &&
+         left.path.back() != ']' && right.path.back() != ']';
 }
 
 ExpectedByHolder expectedFields(const Members& members) {
   ExpectedByHolder expected;
   for (std::size_t index = 0; index < members.size(); ++index) {
-    const std::string path = members[index].path;
+    const std::string& path = members[index].path;
     std::string holder;
     for (std::size_t start = 0; start <= path.size();) {
       const std::size_t dot = std::min(path.find('.', start), path.size());
@@ -94,10 +113,7 @@ bool inOrder(const Visit& visit, const std::vector<Expected>& expected, std::siz
 /// Expects every object below `root` to be visited in the order of its members in the list.
 void expectOrder(FieldLog& log, jobject root, const Members& members) {
   for (const auto& [holder, expected] : expectedFields(members)) {
-    if (expected.empty()) {
-      continue;
-    }
-    bool complete = false;
+    bool complete = expected.empty();
     for (const Visit& visit : log.visitsTo(get(root, holder))) {
       std::size_t found = 0;
       EXPECT_TRUE(inOrder(visit, expected, found))
@@ -109,36 +125,9 @@ void expectOrder(FieldLog& log, jobject root, const Members& members) {
   }
 }
 
-/// A text of ASCII letters that differs from member to member.
-std::string sampleText(std::size_t seed, std::size_t length) {
-  std::string sample(length, ' ');
-  for (std::size_t index = 0; index < length; ++index) {
-    sample[index] = static_cast<char>('A' + (seed + index) % 26);
-  }
-  return sample;
-}
-
-/// The value of a number in one round; bytes are at 0x80 in the first and at 0xFF in the second.
-std::int32_t sampleNumber(const Member& member, int round) {
-  const auto offset = static_cast<std::int32_t>(member.offset);
-  switch (member.kind) {
-    case Kind::kInt32:
-      return round == 0 ? 0x70000000 + offset : -1 - offset;
-    case Kind::kInt8:
-      return round == 0 ? -128 + offset % 64 : -1 - offset % 64;
-    default:
-      return round == 0 ? 128 + offset % 64 : 255 - offset % 64;
-  }
-}
-
-/// The raw bytes of a member in one round.
-std::string sampleBytes(const Member& member, int round) {
-  std::string bytes;
-  for (std::size_t index = 0; index < member.width; ++index) {
-    bytes += static_cast<char>((round == 0 ? 0x80 : 0x01) + member.offset % 64 + index);
-  }
-  return bytes;
-}
+/// Who fills a record: the library, whose texts may be without a NUL, or the bridge, which cuts
+/// texts that are too long and ends each in a NUL.
+enum class FilledBy : std::uint8_t { kLibrary, kBridge };
 
 /// A member's value, as bytes of the record and as text in Java.
 struct Sample {
@@ -146,37 +135,44 @@ struct Sample {
   std::string java;
 };
 
-Sample sampleOf(const Member& member, int round) {
+/// ASCII letters that differ from member to member.
+Sample sampleOfText(const Member& member, int round, FilledBy filledBy) {
+  const bool hasNul = round == 0 || filledBy == FilledBy::kBridge;
+  std::string letters(member.width - (hasNul ? 1 : 0), ' ');
+  for (std::size_t index = 0; index < letters.size(); ++index) {
+    letters[index] = static_cast<char>('A' + (member.offset + index) % 26);
+  }
+  const bool isCut = round == 1 && filledBy == FilledBy::kBridge;
+  return {letters + std::string(hasNul ? 1 : 0, '\0'), letters + (isCut ? "too long" : "")};
+}
+
+Sample sampleOfBytes(const Member& member, int round) {
+  Sample sample;
+  for (std::size_t index = 0; index < member.width; ++index) {
+    const auto byte = static_cast<char>((round == 0 ? 0x80 : 0x01) + member.offset % 64 + index);
+    sample.bytes += byte;
+    sample.java += (index == 0 ? "" : ", ") + std::to_string(int{static_cast<signed char>(byte)});
+  }
+  sample.java = '[' + sample.java + ']';
+  return sample;
+}
+
+/// The value of a member in one of two rounds; single bytes are at 0x80 in the first and at 0xFF in
+/// the second.
+Sample sampleOf(const Member& member, int round, FilledBy filledBy) {
+  if (member.kind == Kind::kText) {
+    return sampleOfText(member, round, filledBy);
+  }
   if (member.kind == Kind::kBytes) {
-    Sample sample{sampleBytes(member, round), ""};
-    for (const char byte : sample.bytes) {
-      sample.java += (sample.java.empty() ? "" : ", ") + std::to_string(int{byte});
-    }
-    sample.java = '[' + sample.java + ']';
-    return sample;
+    return sampleOfBytes(member, round);
   }
-  const std::int32_t value = sampleNumber(member, round);
+  const auto offset = static_cast<std::int32_t>(member.offset);
+  std::int32_t value = round == 0 ? 0x70000000 + offset : -1 - offset;
+  if (member.kind != Kind::kInt32) {
+    value = (round == 0 ? -128 + offset % 64 : -1 - offset % 64) +
+            (member.kind == Kind::kUInt8 ? 256 : 0);
+  }
   return {{reinterpret_cast<const char*>(&value), member.width}, std::to_string(value)};
-}
-
-/// What the library returns. The second round's texts are without a NUL: each ends where its member
-/// does.
-Sample builtSample(const Member& member, int round) {
-  if (member.kind != Kind::kText) {
-    return sampleOf(member, round);
-  }
-  const std::string letters = sampleText(member.offset, member.width - (round == 0 ? 1 : 0));
-  return {letters + std::string(round == 0 ? 1 : 0, '\0'), letters};
-}
-
-/// What Java hands over. The second round's texts are longer than their members: each is cut to end
-/// in a NUL.
-Sample readSample(const Member& member, int round) {
-  if (member.kind != Kind::kText) {
-    return sampleOf(member, round);
-  }
-  const std::string letters = sampleText(member.offset, member.width - 1);
-  return {letters + '\0', round == 0 ? letters : letters + "too long"};
 }
 
 /// Sets the field of a member; raw bytes from the last one on, which makes the whole array.
@@ -186,16 +182,13 @@ void setSample(jobject object, const Member& member, const Sample& sample) {
     return;
   }
   for (std::size_t index = member.width; index-- > 0;) {
-    set(object, std::string(member.path) + '[' + std::to_string(index) + ']',
+    set(object, member.path + '[' + std::to_string(index) + ']',
         std::to_string(int{static_cast<signed char>(sample.bytes[index])}));
   }
 }
 
-/// The members that have a value to compare.
 Members withValues(Members members) {
-  members.erase(std::remove_if(members.begin(), members.end(),
-                               [](const Member& member) { return member.kind == Kind::kVisited; }),
-                members.end());
+  std::erase_if(members, [](const Member& member) { return member.kind == Kind::kVisited; });
   return members;
 }
 
@@ -211,14 +204,24 @@ Called callLogged(FieldLog& log, const char* method, const std::vector<jobject>&
   log.start();
   const Called called = call(method, arguments);
   log.stop();
+  EXPECT_EQ(called.failure, "");
   return called;
 }
 
 }  // namespace
 
-const char* kept(const std::string& path) {
-  static std::unordered_set<std::string> paths;
-  return paths.insert(path).first->c_str();
+Members::Members(const char* list) {
+  for (const std::string& part : split(list, "; ")) {
+    const std::vector<std::string> words = split(part, " ");
+    const std::size_t colon = words[0].find(':');
+    Member member = memberOf(words[0].substr(colon + 1));
+    member.offset = colon == std::string::npos ? 0 : std::stoul(words[0]);
+    for (auto path = words.begin() + 1; path != words.end(); ++path) {
+      member.path = *path;
+      push_back(member);
+      member.offset += member.width;
+    }
+  }
 }
 
 Members operator+(Members left, const Members& right) {
@@ -226,60 +229,21 @@ Members operator+(Members left, const Members& right) {
   return left;
 }
 
-Members int32sAt(std::size_t offset, std::initializer_list<const char*> paths) {
-  Members members;
-  for (const char* const path : paths) {
-    members.push_back(int32At(offset, path));
-    offset += 4;
-  }
-  return members;
-}
-
-Members textsAt(std::size_t offset, std::size_t width, const std::string& names) {
-  Members members;
-  for (std::size_t start = 0; start < names.size(); offset += width) {
-    const std::size_t end = std::min(names.find(' ', start), names.size());
-    members.push_back(textAt(offset, width, kept(names.substr(start, end - start))));
-    start = end + 1;
-  }
-  return members;
-}
-
-Members int32sAt(std::size_t offset, const std::string& names) {
-  Members members = textsAt(offset, 4, names);
-  for (Member& member : members) {
-    member.kind = Kind::kInt32;
-  }
-  return members;
-}
-
-Members visited(const std::string& names) {
-  Members members = textsAt(0, 0, names);
-  for (Member& member : members) {
-    member.kind = Kind::kVisited;
-  }
-  return members;
-}
-
-Members at(std::size_t offset, const std::string& path, const Members& members) {
-  return at({{offset, path}}, members);
-}
-
-Members at(std::initializer_list<Location> locations, const Members& members) {
+Members at(const std::string& places, const Members& members) {
   Members all;
-  for (const Location& location : locations) {
-    for (const Member& member : members) {
-      Member& moved = all.emplace_back(member);
-      moved.offset += location.offset;
-      moved.path = kept(std::string(location.path) + member.path);
+  for (const std::string& place : split(places, " ")) {
+    for (Member member : members) {
+      member.offset += std::stoul(place);
+      member.path = place.substr(place.find(':') + 1) + '.' + member.path;
+      all.push_back(member);
     }
   }
   return all;
 }
 
-void expectFields(jobject object, Fields fields) {
+void expectFields(jobject object, const Fields& fields) {
   for (const auto& [path, value] : fields) {
-    EXPECT_EQ(get(object, std::string(path)), value) << path;
+    EXPECT_EQ(get(object, path), value) << path;
   }
 }
 
@@ -293,16 +257,18 @@ void expectBuilt(const char* method, const std::vector<jobject>& arguments, std:
     std::string record(size, '\xEE');
     for (const Member& member : valued) {
       ASSERT_LE(member.offset + member.width, size) << member.path;
-      record.replace(member.offset, member.width, builtSample(member, round).bytes);
+      record.replace(member.offset, member.width,
+                     sampleOf(member, round, FilledBy::kLibrary).bytes);
     }
     quorvelSimPrepareOutput(function, record.data(), record.size());
     FieldLog log;
     const Called called = callLogged(log, method, arguments);
     quorvelSimPrepareOutput(function, nullptr, 0);
-    ASSERT_EQ(called.failure, "");
+    ASSERT_NE(called.result, nullptr);
     expectOrder(log, called.result, members);
     for (const Member& member : valued) {
-      EXPECT_EQ(get(called.result, member.path), builtSample(member, round).java) << member.path;
+      EXPECT_EQ(get(called.result, member.path), sampleOf(member, round, FilledBy::kLibrary).java)
+          << member.path;
       ++compared().values;
     }
   }
@@ -315,16 +281,17 @@ void expectRead(const char* method, const std::vector<jobject>& arguments, jobje
     SCOPED_TRACE(std::string(method) + ", round " + std::to_string(round));
     const LocalFrame frame;
     for (const Member& member : valued) {
-      setSample(object, member, readSample(member, round));
+      setSample(object, member, sampleOf(member, round, FilledBy::kBridge));
     }
     quorvelSimForceResult(method, 0, 1);
     FieldLog log;
-    EXPECT_EQ(callLogged(log, method, arguments).failure, "");
+    callLogged(log, method, arguments);
     expectOrder(log, object, members);
     std::string record(size, '\0');
     ASSERT_EQ(quorvelSimLastInput(method, parameter, record.data(), size), size);
     for (const Member& member : valued) {
-      EXPECT_EQ(record.substr(member.offset, member.width), readSample(member, round).bytes)
+      EXPECT_EQ(record.substr(member.offset, member.width),
+                sampleOf(member, round, FilledBy::kBridge).bytes)
           << member.path;
       ++compared().values;
     }

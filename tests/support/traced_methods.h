@@ -12,61 +12,72 @@
 #include "tests/support/mini_jvm.h"
 #include "tests/support/native_methods.h"
 #include "tests/support/recorder.h"
+#include "tests/support/split.h"
 #include "tests/support/test_runtime.h"
 
 // Calls of native methods on the mini JVM, event by event.
 namespace quorvelj::testing {
 
-using Events = std::vector<std::string>;
+/// Events in their order, as in "malloc 32, QV_KeepSession, free".
+struct Events : std::vector<std::string> {
+  Events() = default;
+  Events(vector events) : vector(std::move(events)) {}
+  Events(const std::string& list) : vector(split(list, ", ")) {}
+  Events(const char* list) : Events(std::string(list)) {}
+};
 
 inline Events operator+(Events left, const Events& right) {
   left.insert(left.end(), right.begin(), right.end());
   return left;
 }
+/// The same events over and over.
+inline Events operator*(std::size_t count, const Events& events) {
+  return count == 0 ? Events() : events + (count - 1) * events;
+}
 
 /// The allocation of a record, or of an array of them.
 template <class Record>
-std::string mallocOf() {
+Events mallocOf() {
   return "malloc " + std::to_string(sizeof(Record));
 }
 
-inline const Events kCopyName{"GetStringUTFLength", "GetStringUTFChars", "ReleaseStringUTFChars"};
-inline const Events kReadSession{"GetObjectClass", "GetFieldID session_id [B", "GetObjectField",
-                                 "DeleteLocalRef", "GetByteArrayRegion 32",    "ExceptionOccurred",
-                                 "DeleteLocalRef"};
-/// The first events of a frame with a unit and a session.
-inline const Events kBegin =
-    Events{"flush"} + kCopyName + Events{mallocOf<QVSessionInfo>()} + kReadSession;
-inline const Events kStore{"SetObjectArrayElement", "ExceptionOccurred", "DeleteLocalRef"};
-inline const Events kThrow{"FindClass tessaly/str/diskarray/DiskArrayException",
-                           "GetMethodID <init> (I)V", "NewObject", "Throw"};
-inline const Events kThrowOutOfMemory{"FindClass java/lang/OutOfMemoryError",
-                                      "ThrowNew java/lang/OutOfMemoryError \"\""};
+inline const Events kCopyName = "GetStringUTFLength, GetStringUTFChars, ReleaseStringUTFChars";
+inline const Events kReadSession =
+    "GetObjectClass, GetFieldID session_id [B, GetObjectField, DeleteLocalRef, "
+    "GetByteArrayRegion 32, ExceptionOccurred, DeleteLocalRef";
+/// The unit and the session, and what comes first in a frame that takes them.
+inline const Events kTakeBoth = kCopyName + mallocOf<QVSessionInfo>() + kReadSession;
+inline const Events kBegin = "flush" + kTakeBoth;
+inline const Events kStore = "SetObjectArrayElement, ExceptionOccurred, DeleteLocalRef";
+inline const Events kThrow =
+    "FindClass tessaly/str/diskarray/DiskArrayException, GetMethodID <init> (I)V, NewObject, Throw";
+inline const Events kThrowOutOfMemory =
+    "FindClass java/lang/OutOfMemoryError, ThrowNew java/lang/OutOfMemoryError \"\"";
 
 inline Events newObject(const std::string& name) {
-  return {"FindClass tessaly/str/diskarray/" + name, "GetMethodID <init> ()V", "NewObject",
-          "DeleteLocalRef"};
+  return "FindClass tessaly/str/diskarray/" + name +
+         ", GetMethodID <init> ()V, NewObject, DeleteLocalRef";
 }
 inline Events newArray(const std::string& name, int length) {
-  return {"FindClass tessaly/str/diskarray/" + name, "NewObjectArray " + std::to_string(length),
-          "DeleteLocalRef"};
+  return "FindClass tessaly/str/diskarray/" + name + ", NewObjectArray " + std::to_string(length) +
+         ", DeleteLocalRef";
 }
 inline Events setInt(const std::string& name) {
-  return {"GetObjectClass", "GetFieldID " + name + " I", "SetIntField", "ExceptionOccurred",
-          "DeleteLocalRef"};
+  return "GetObjectClass, GetFieldID " + name +
+         " I, SetIntField, ExceptionOccurred, DeleteLocalRef";
 }
 
-// Functions, because a macro would split its arguments at the commas of the lists.
 inline void expectEvents(const Events& actual, const Events& expected) {
   EXPECT_EQ(actual, expected);
 }
-inline void expectStart(const Events& actual, const Events& expected) {
-  const auto length = static_cast<std::ptrdiff_t>(std::min(actual.size(), expected.size()));
-  EXPECT_EQ(Events(actual.begin(), actual.begin() + length), expected);
+inline void expectStart(Events actual, const Events& expected) {
+  actual.resize(std::min(actual.size(), expected.size()));
+  EXPECT_EQ(actual, expected);
 }
-inline void expectEnd(const Events& actual, const Events& expected) {
-  const auto length = static_cast<std::ptrdiff_t>(std::min(actual.size(), expected.size()));
-  EXPECT_EQ(Events(actual.end() - length, actual.end()), expected);
+inline void expectEnd(Events actual, const Events& expected) {
+  const std::size_t length = std::min(actual.size(), expected.size());
+  actual.erase(actual.begin(), actual.end() - static_cast<std::ptrdiff_t>(length));
+  EXPECT_EQ(actual, expected);
 }
 inline std::ptrdiff_t countOf(const Events& events, const char* event) {
   return std::count(events.begin(), events.end(), event);
@@ -117,6 +128,11 @@ class TracedMethods : public ::testing::Test {
   }
   Events trace(const char* method) { return trace(method, argumentsOf(method)); }
 
+  /// What a call throws that returns null.
+  std::string failureOf(const char* method) {
+    EXPECT_EQ(invoke(method).l, nullptr) << method;
+    return thrown();
+  }
   /// Takes the pending exception: "DiskArrayException 258", "NoSuchFieldError percent" or "".
   std::string thrown() {
     const auto pending = jvm_.pending();
