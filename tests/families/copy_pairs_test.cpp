@@ -28,12 +28,6 @@ class CopyPairs : public RegisteredUnit {
     quorvelSimPrepareOutput("QV_GetPairInformation", full.data(), full.size());
     return information(method);
   }
-  static void expectAll(const char* value, jobject object, const std::string& path,
-                        const std::vector<const char*>& fields) {
-    for (const char* const field : fields) {
-      EXPECT_EQ(get(object, path + field), value) << path << field;
-    }
-  }
 };
 
 TEST_F(CopyPairs, OperationRecords) {
@@ -82,6 +76,7 @@ TEST_F(CopyPairs, ChangeRecords) {
                   "cycle_time_message queue_inhibit_time");
 }
 
+// The last mirror begins at 812 + 4093 x 6432 + 32 + 31 x 200.
 TEST_F(CopyPairs, FullForm) {
   expectFromUnit(
       "QV_GetPairInformation", 26333420,
@@ -109,13 +104,13 @@ TEST_F(CopyPairs, LightForm) {
                      "copy_speed; 40:int32 synchronized_rate" +
                          at("68:split_time", kTime) + "92:text32 add_message"),
               "QV_GetPairInformation");
-  const jobject form = light("QV_GetPairInformationLite");
-  expectFields(form, "lu=PairLUInfo[4094]; lu[4093].m_info=MirrorLUInfo[32]");
-  expectAll("null", form, "", {"ctl", "sys", "lu[4093].m_info[31].time"});
-  expectAll("0", form, "lu[4093].",
-            {"capacity", "capacity_h", "capacity_l", "pool_usedcapa_h", "pool_usedcapa_l"});
-  expectAll("0", form, "lu[4093].m_info[31].",
-            {"ctl_no", "usedcapa", "usedcapa_h", "usedcapa_l", "changed_rate"});
+  expectFields(light("QV_GetPairInformationLite"),
+               "lu=PairLUInfo[4094]; lu[4093].m_info=MirrorLUInfo[32]; ctl=null; sys=null; "
+               "lu[4093].m_info[31].time=null; lu[4093].capacity=0; lu[4093].capacity_h=0; "
+               "lu[4093].capacity_l=0; lu[4093].pool_usedcapa_h=0; lu[4093].pool_usedcapa_l=0; "
+               "lu[4093].m_info[31].ctl_no=0; lu[4093].m_info[31].usedcapa=0; "
+               "lu[4093].m_info[31].usedcapa_h=0; lu[4093].m_info[31].usedcapa_l=0; "
+               "lu[4093].m_info[31].changed_rate=0");
 }
 
 TEST_F(CopyPairs, SecondLightForm) {
@@ -130,15 +125,15 @@ TEST_F(CopyPairs, SecondLightForm) {
                      "36:int32 changed_rate" +
                          at("44:time", kTime)),
               "QV_GetPairInformation");
-  const jobject form = light("QV_GetPairInformationLite2");
-  expectFields(form, "lu=PairLUInfo[2046]; lu[2045].m_info=MirrorLUInfo[32]");
-  expectAll("null", form, "", {"sys"});
-  expectAll("0", form, "lu[2045].", {"capacity_h", "capacity_l"});
-  expectAll("0", form, "lu[2045].m_info[31].",
-            {"pair_status_detail", "usedcapa_h", "usedcapa_l", "synchronized_rate", "ctg_valid",
-             "ctg_no", "copy_speed"});
-  expectAll("null", form, "lu[2045].m_info[31].",
-            {"split_time", "add_message", "ctg_name", "pair_name"});
+  expectFields(
+      light("QV_GetPairInformationLite2"),
+      "lu=PairLUInfo[2046]; lu[2045].m_info=MirrorLUInfo[32]; sys=null; lu[2045].capacity_h=0; "
+      "lu[2045].capacity_l=0; lu[2045].m_info[31].pair_status_detail=0; "
+      "lu[2045].m_info[31].usedcapa_h=0; lu[2045].m_info[31].usedcapa_l=0; "
+      "lu[2045].m_info[31].synchronized_rate=0; lu[2045].m_info[31].ctg_valid=0; "
+      "lu[2045].m_info[31].ctg_no=0; lu[2045].m_info[31].copy_speed=0; "
+      "lu[2045].m_info[31].split_time=null; lu[2045].m_info[31].add_message=null; "
+      "lu[2045].m_info[31].ctg_name=null; lu[2045].m_info[31].pair_name=null");
 }
 
 TEST_F(CopyPairs, OtherInformationRecords) {

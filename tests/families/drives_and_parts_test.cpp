@@ -105,9 +105,7 @@ TEST_F(DrivesAndParts, PowerSavingAndPinnedDataRecords) {
   table.front() = -7;
   table.back() = 0x7FFFFFFF;
   quorvelSimPrepareOutput("QV_GetPinInfo2", table.data(), table.size() * sizeof table[0]);
-  const jobject ints = information("QV_GetPinInfo2");
-  expectFields(ints, "[0]=-7; [8191]=2147483647");
-  expectFields(ints, "#=8192");
+  expectFields(information("QV_GetPinInfo2"), "[0]=-7; [8191]=2147483647; #=8192");
   expectPassed(
       "QV_FlushPinInfo us; QV_SpinDownDriveByRG usi; QV_SpinUpDriveByRG usi; QV_SetDriveMode "
       "usiii");
@@ -129,9 +127,9 @@ TEST_F(DrivesAndParts, ArraysHaveTheirFullLength) {
                "unit=ENCUnitStatus[64]; download_rev.ext_rev_plus=ENCRevision[1]");
   expectFields(information("QV_GetSpinDownUpInformation"),
                "rg=SpinDownUpRGInfo[200]; lu=SpinDownUpLuInfo[8192]");
-  expectFields(information("QV_GetIntegrationPinInfo"),
-               "single_lu_detail=PINInfoDetail[8192]; unite_lu_detail=PINInfoDetail[8192]");
-  expectFields(information("QV_GetIntegrationPinInfo"), "unite_lu#=8192");
+  expectFields(
+      information("QV_GetIntegrationPinInfo"),
+      "single_lu_detail=PINInfoDetail[8192]; unite_lu_detail=PINInfoDetail[8192]; unite_lu#=8192");
   expectFields(information("QV_GetLocateLEDInformation"), "unit#=60");
 }
 

@@ -128,8 +128,7 @@ TEST_F(PerformanceCollection, Requests) {
              "3032:int32 count mode file_fmt_mode");
   // Without a table of drives the reading of the options ends; the library is called all the same.
   setNull(all, "drive");
-  set(all, "lu[3]", "7");
-  set(all, "count", "77");
+  set(all, "lu[3]=7; count=77");
   quorvelSimForceResult("QV_PerformanceOutputAll", 0, 1);
   EXPECT_EQ(call("QV_PerformanceOutputAll", {unit_, all}).failure, "");
   EXPECT_EQ(lastInput("QV_PerformanceOutputAll", 2)[19], 7);

@@ -140,16 +140,6 @@ jobject newArray(const std::string& signature, jsize length) {
 
 jsize lengthOf(jobject array) { return javaEnv()->GetArrayLength(static_cast<jarray>(array)); }
 
-void copyElement(jobject from, jobject to, jsize index, const std::string& signature) {
-  const Place source{from, nullptr, index, signature.substr(1)};
-  const Place target{to, nullptr, index, signature.substr(1)};
-  if (isNumber(source)) {
-    storeNumber(target, loadNumber(source));
-  } else {
-    store(target, load(source));
-  }
-}
-
 /// The array at a place; in its place a longer one where it has not `length` elements.
 jobject grown(const Place& place, jsize length) {
   const jobject old = load(place);
@@ -159,7 +149,9 @@ jobject grown(const Place& place, jsize length) {
   }
   const jobject array = newArray(place.signature, length);
   for (jsize index = 0; index < oldLength; ++index) {
-    copyElement(old, array, index, place.signature);
+    const Place from{old, nullptr, index, place.signature.substr(1)};
+    const Place to{array, nullptr, index, place.signature.substr(1)};
+    isNumber(from) ? storeNumber(to, loadNumber(from)) : store(to, load(from));
   }
   store(place, array);
   return array;
