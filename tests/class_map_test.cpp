@@ -63,7 +63,7 @@ QUORVELJ_CLASS(Rows, row);
 QUORVELJ_CLASS(Inner, number, text);
 QUORVELJ_CLASS(Sampler, word, negative, positive, text, texts, words, grid, bytes, byteGrid, raw,
                rawCube, inner, list, table, cube);
-// The members that can be read: arrays of three dimensions are only built.
+// The members that can be read: raw bytes of three dimensions are only built.
 QUORVELJ_MAP(kReadSampler, Sampler, QUORVELJ_FIELD(Sampler, word),
              QUORVELJ_FIELD(Sampler, negative), QUORVELJ_FIELD(Sampler, positive),
              QUORVELJ_FIELD(Sampler, text), QUORVELJ_FIELD(Sampler, texts),
@@ -71,6 +71,7 @@ QUORVELJ_MAP(kReadSampler, Sampler, QUORVELJ_FIELD(Sampler, word),
              QUORVELJ_FIELD(Sampler, bytes), QUORVELJ_FIELD(Sampler, byteGrid),
              QUORVELJ_FIELD(Sampler, raw), QUORVELJ_FIELD(Sampler, inner),
              QUORVELJ_FIELD(Sampler, list), QUORVELJ_FIELD(Sampler, table));
+QUORVELJ_MAP(kReadCubes, Sampler, QUORVELJ_FIELD(Sampler, cube), QUORVELJ_FIELD(Sampler, rawCube));
 QUORVELJ_MAP(kLightInner, Inner, QUORVELJ_FIELD(Inner, text));
 QUORVELJ_MAP(kLightSampler, Sampler, QUORVELJ_FIELD(Sampler, list).first(1).as(kLightInner));
 
@@ -227,6 +228,28 @@ TEST_F(ClassMapTest, BuildingFailsOnAnythingButAText) {
   }
   jvm_.removeField("text");
   EXPECT_NE(build(jvm_.env(), ClassOf<Inner>::kMap, &record), nullptr);
+}
+
+TEST_F(ClassMapTest, OfThreeDimensionsRecordsAreReadAndRawBytesAreNot) {
+  const Sampler record = sample();
+  Sampler copy{};
+  const jobject object = build(jvm_.env(), ClassOf<Sampler>::kMap, &record);
+  EXPECT_EQ(read(jvm_.env(), kReadCubes, object, &copy), 2817);
+  EXPECT_EQ(static_cast<std::uint32_t>(copy.cube[0][0][1].number), 0xFFFEFDFCU);
+  EXPECT_EQ(copy.rawCube[0][0][0], std::byte{0});
+}
+
+TEST_F(ClassMapTest, NoMemoryForTheCopyOfATextWithoutANul) {
+  const Sampler record = sample();
+  resetTestRuntime(1);
+  EXPECT_NE(build(jvm_.env(), ClassOf<Inner>::kMap, &record.inner), nullptr);
+  EXPECT_EQ(jvm_.pending()->shown(), "OutOfMemoryError");
+  jvm_.clearPending();
+  // The copy behind that of `text` is that of `texts`, which end the builder.
+  resetTestRuntime(2);
+  EXPECT_EQ(build(jvm_.env(), ClassOf<Sampler>::kMap, &record), nullptr);
+  EXPECT_EQ(jvm_.pending()->shown(), "OutOfMemoryError");
+  EXPECT_EQ(testRuntime().liveRecords, 0);
 }
 
 TEST_F(ClassMapTest, FieldsOfAPartAreThoseOfTheObjectAroundIt) {

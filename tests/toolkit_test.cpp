@@ -1,6 +1,7 @@
 // What each toolkit operation returns, throws and copies.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <cstring>
 #include <map>
@@ -176,6 +177,53 @@ TEST_F(Toolkit, FixedRegionsOfShortArraysFail) {
   EXPECT_EQ(jvm_.pending()->className, "java/lang/ArrayIndexOutOfBoundsException");
   jvm_.profile.objects = 1;
   EXPECT_EQ(getIntMatrixField(env_, object_, "matrix", ints.data(), 2, 2), 2817);
+}
+
+TEST_F(Toolkit, NothingToDo) {
+  EXPECT_EQ(getStringField(env_, object_, "text", nullptr, 0), 0);
+  deleteLocalRef(env_, nullptr);
+  deleteLocalRef(nullptr, object_);
+  EXPECT_EQ(jvm_.misuses(), 0);
+  const auto rows = env_->NewObjectArray(2, env_->FindClass("[B"), nullptr);
+  jvm_.setObject(object_, "rows", "[[B", rows);
+  std::array<std::byte, 4> bytes{};
+  EXPECT_EQ(getByteMatrixField(env_, object_, "rows", bytes.data(), 2, 2), 2817);
+  EXPECT_FALSE(jvm_.pending());
+}
+
+TEST_F(Toolkit, EachFailureEndsAnOperationThatHoldsNothing) {
+  using Operation = int (*)(JNIEnv*, jobject);
+  const std::map<std::string, Operation> operations{
+      {"setSjisStringField",
+       [](JNIEnv* env, jobject object) { return setSjisStringField(env, object, "sjis", "x", 2); }},
+      {"setScaledShortField",
+       [](JNIEnv* env, jobject object) { return setScaledShortField(env, object, "short", 1.5); }},
+      {"getScaledShortArrayField",
+       [](JNIEnv* env, jobject object) {
+         std::array<double, 2> values{};
+         return getScaledShortArrayField(env, object, "shorts", values.data(), 2);
+       }},
+      {"setScaledShortArrayField",
+       [](JNIEnv* env, jobject object) {
+         const std::array<double, 2> values{};
+         return setScaledShortArrayField(env, object, "shorts", values.data(), 2);
+       }},
+  };
+  for (const auto& [name, operation] : operations) {
+    const int before = jvm_.fallibleCalls();
+    resetTestRuntime();
+    EXPECT_EQ(operation(env_, object_), 0) << name;
+    const int calls = jvm_.fallibleCalls() - before;
+    const int allocations = testRuntime().allocations;
+    for (int call = 1; call <= calls + allocations; ++call) {
+      jvm_.clearPending();
+      jvm_.failCall(call <= calls ? jvm_.fallibleCalls() + call : 0);
+      resetTestRuntime(std::max(0, call - calls));
+      EXPECT_EQ(operation(env_, object_), 2817) << name << ", failure " << call;
+      EXPECT_EQ(testRuntime().liveRecords, 0) << name << ", failure " << call;
+    }
+    jvm_.clearPending();
+  }
 }
 
 }  // namespace

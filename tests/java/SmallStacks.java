@@ -46,6 +46,11 @@ public final class SmallStacks {
                 NativeCall.fail("%s overflows the smallest stack", call.name());
             }
             built += thrown == null ? 1 : 0;
+            if (deep) {
+                // Nothing else tells where the process ended.
+                System.out.print(call.name() + " ");
+                System.out.flush();
+            }
             int before = Simulator.calls(call.function());
             if (deep && !stack.descend()) {
                 NativeCall.fail("%s was never called at depth", call.name());
@@ -56,7 +61,7 @@ public final class SmallStacks {
             mostTries = Math.max(mostTries, stack.tries);
         }
         if (deep) {
-            System.out.printf("stacks: result %d: %d methods, %d succeeded, %d called at depth, "
+            System.out.printf("%nstacks: result %d: %d methods, %d succeeded, %d called at depth, "
                             + "%d calls more that overflowed inside, at most %d tries%n",
                     result, calls.size(), built, reached, overflowed, mostTries);
             if (reached != calls.size()) {

@@ -22,7 +22,10 @@ public final class ThreadedCalls {
     private static final int[] INTS = new int[8192];
     private static final byte[] BYTES = new byte[8192];
     private static final int ROWS_ENOUGH = 100;
-    /** What a process may grow by after its warm-up: by itself, and by a call's documented leaks. */
+    /**
+     * What a process may grow by after its warm-up: by itself, and by a call's documented leaks. That
+     * tells a leak in a run of a minute or more.
+     */
     private static final long GROWTH = 64_000_000;
     private static final long GROWTH_OF_A_CALL = 8;
 
