@@ -2,7 +2,7 @@
 BUILD := build/linux
 JAVA := java -Djava.library.path=$(BUILD)/lib
 
-.PHONY: tour test check benchmark dist reference clean
+.PHONY: tour test check mutants benchmark dist reference clean
 .PHONY: packages-build packages-test packages-check packages-dist
 
 tour: packages-build
@@ -15,6 +15,9 @@ test: packages-test
 
 check: packages-check
 	scripts/check.sh
+
+mutants: packages-test
+	scripts/mutants.sh
 
 benchmark: packages-test
 	cmake --preset linux -DQUORVELJ_TESTS=ON -DQUORVELJ_BENCHMARKS=ON
