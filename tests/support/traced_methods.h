@@ -56,6 +56,12 @@ inline Events setInt(const std::string& name) {
           "DeleteLocalRef"};
 }
 
+/// Leaves bytes where the next function has its buffers.
+[[gnu::noinline]] inline void dirtyStack() {
+  volatile char stale[64 * 1024];
+  std::fill(std::begin(stale), std::end(stale), '?');
+}
+
 // Functions, because a macro would split its arguments at the commas of the lists.
 inline void expectEvents(const Events& actual, const Events& expected) {
   EXPECT_EQ(actual, expected);
