@@ -6,7 +6,7 @@ SOAK_JAVA := MALLOC_MMAP_THRESHOLD_=131072 $(JAVA) -cp $(BUILD)/lib/quorvelj.jar
   -Xms512m -Xmx512m -XX:+AlwaysPreTouch
 SOAK_SECONDS := 1800
 
-.PHONY: tour test check benchmark coverage soak dist reference clean
+.PHONY: tour test check mutants benchmark coverage soak dist reference clean
 .PHONY: packages-build packages-test packages-check packages-coverage packages-dist
 
 tour: packages-build
@@ -19,6 +19,9 @@ test: packages-test
 
 check: packages-check
 	scripts/check.sh
+
+mutants: packages-test
+	scripts/mutants.sh
 
 benchmark: packages-test
 	cmake --preset linux -DQUORVELJ_TESTS=ON -DQUORVELJ_BENCHMARKS=ON

@@ -136,6 +136,19 @@ TEST_F(ClassMapTest, ATextEndsAtItsNulOrWhereItsMemberDoes) {
   EXPECT_STREQ(env->GetStringUTFChars(static_cast<jstring>(texts[1]), nullptr), "bcd");
 }
 
+TEST_F(ClassMapTest, TextsWithoutMemoryForTheirCopyThrow) {
+  const Sampler record = sample();
+  // The first copy is of a text, the second of a list.
+  for (const int copy : {1, 2}) {
+    resetTestRuntime(copy);
+    MiniJvm jvm;
+    EXPECT_EQ(build(jvm.env(), ClassOf<Sampler>::kMap, &record), nullptr);
+    ASSERT_TRUE(jvm.pending());
+    EXPECT_EQ(jvm.pending()->className, "java/lang/OutOfMemoryError");
+    EXPECT_EQ(testRuntime().liveRecords, 0);
+  }
+}
+
 TEST_F(ClassMapTest, ReadsBackWhatItBuilt) {
   const Sampler record = sample();
   const jobject object = build(jvm_.env(), ClassOf<Sampler>::kMap, &record);

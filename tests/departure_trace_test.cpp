@@ -1,5 +1,6 @@
 // The order of calls in the methods that depart from the frames, and how they fail.
 #include <cstdint>
+#include <utility>
 
 #include "arraylib/firmware.h"
 #include "arraylib/hosts.h"
@@ -102,6 +103,21 @@ TEST_F(DepartureTrace, ClockKeepsTheSession) {
   expectEvents(trace("QV_SetUnitTime", arguments), kTakeBoth + kThrow);
   EXPECT_EQ(thrown(), "DiskArrayException -1");
   expectEvents(trace("QV_SetUnitTimeNow"), kTakeBoth + "QV_SetUnitTimeNow");
+}
+
+TEST_F(DepartureTrace, WhatIsMissingIsEmptyAndNotWhatLayOnTheStack) {
+  // The argument that is null stands in the place of the library's parameter.
+  for (const auto& [method, place] : {std::pair{"QV_LoginQVUnit", 2},
+                                      {"QV_PerformanceOutputAll", 1},
+                                      {"QV_PerformanceOutputLU", 7}}) {
+    std::vector<jvalue> arguments = argumentsOf(method);
+    arguments[static_cast<std::size_t>(place)].l = nullptr;
+    dirtyStack();
+    invoke(method, arguments);
+    char first = '?';
+    EXPECT_NE(quorvelSimLastInput(method, place, &first, 1), 0U);
+    EXPECT_EQ(first, '\0') << method;
+  }
 }
 
 TEST_F(DepartureTrace, FlatStatusKeepsTheSessionAndStoresEveryElement) {

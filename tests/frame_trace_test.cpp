@@ -1,6 +1,8 @@
 // The exact order of JNI calls, allocations, releases, flushes and library calls in every frame.
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
+#include <utility>
 
 #include "arraylib/accounts.h"
 #include "arraylib/all_information.h"
@@ -45,6 +47,23 @@ TEST_F(FrameTrace, QueryReadsEachInputBeforeItAllocatesTheNext) {
                            mallocOf<ArrayAllInfo_HG>());
 }
 
+TEST_F(FrameTrace, InputsAreReadBehindANullAndNotBehindAnException) {
+  const Events inputs{"GetFieldID session_id", "GetFieldID mode", "GetFieldID requestCTL"};
+  const std::vector<std::pair<const char*, const char*>> methods{
+      {"QV_AddAdditionalUnit", "GetFieldID mode I"},
+      {"QV_GetAllInfo_HG", "GetFieldID requestCTL I"}};
+  for (const auto& [method, field] : methods) {
+    std::vector<jvalue> arguments = argumentsOf(method);
+    arguments[1].l = nullptr;
+    expectEvents(only(trace(method, arguments), inputs), {field});
+  }
+  jvm_.removeField("session_id");
+  for (const auto& [method, field] : methods) {
+    expectEvents(only(trace(method), inputs), {"GetFieldID session_id [B"});
+    jvm_.clearPending();
+  }
+}
+
 TEST_F(FrameTrace, NestedObjectsAndArrays) {
   Events expected = kBegin + mallocOf<QVAccountRoleInformation>() +
                     "QV_GetQVAccountRoleInformation, free, flush" +
@@ -69,6 +88,20 @@ TEST_F(FrameTrace, Update) {
                    "ExceptionOccurred, QV_AddAdditionalUnit, free, free, flush");
   resetTestRuntime(1);
   expectEvents(trace("QV_AddAdditionalUnit"), head + kThrowOutOfMemory + "free null, free");
+}
+
+TEST_F(FrameTrace, NothingIsFlushedBehindAFailure) {
+  jvm_.profile = {.text = "", .primitives = 0, .objects = 0};
+  for (const NativeMethod& method : nativeMethods()) {
+    quorvelSimForceResult("*", 7, 1);
+    const Events events = trace(method.name);
+    const auto called = std::find_if(events.begin(), events.end(), [](const std::string& event) {
+      return event.starts_with("QV_");
+    });
+    const bool departs = std::string(method.name) == "QV_GetUnitParamTable";
+    EXPECT_EQ(std::count(called, events.end(), "flush"), departs ? 1 : 0) << method.name;
+    jvm_.clearPending();
+  }
 }
 
 TEST_F(FrameTrace, Plain) {

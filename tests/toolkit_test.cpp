@@ -17,6 +17,7 @@ namespace {
 class Toolkit : public ::testing::Test {
  protected:
   Toolkit() { resetTestRuntime(); }
+  ~Toolkit() override { EXPECT_EQ(jvm_.misuses(), 0) << "JNI was called with what it forbids"; }
 
   std::string thrownBy(int code) {
     throwArrayException(env_, code);
@@ -135,9 +136,10 @@ TEST_F(Toolkit, TextsAreCutTerminatedAndZeroFilled) {
 TEST_F(Toolkit, IntArraysAsBytes) {
   std::array<std::int8_t, 4> bytes{9, 9, 9, 9};
   jvm_.setObject(object_, "list", "[I", jvm_.newInts({}));
+  EXPECT_EQ(getIntArrayFieldAsBytes(env_, object_, "list", bytes.data(), 0), 0);
+  EXPECT_EQ(bytes[0], 9);
   EXPECT_EQ(getIntArrayFieldAsBytes(env_, object_, "list", bytes.data()), 0);
   EXPECT_EQ(bytes, (std::array<std::int8_t, 4>{0, 9, 9, 9}));
-  EXPECT_EQ(getIntArrayFieldAsBytes(env_, object_, "list", bytes.data(), 0), 0);
   jvm_.setObject(object_, "list", "[I", jvm_.newInts({0x1FF, 0x80, 0x17F}));
   EXPECT_EQ(getIntArrayFieldAsBytes(env_, object_, "list", bytes.data()), 0);
   EXPECT_EQ(bytes, (std::array<std::int8_t, 4>{-1, -128, 127, 9}));
@@ -224,6 +226,21 @@ TEST_F(Toolkit, EachFailureEndsAnOperationThatHoldsNothing) {
     }
     jvm_.clearPending();
   }
+}
+
+TEST_F(Toolkit, MatricesEndAtAMissingRow) {
+  std::array<std::int32_t, 4> ints{9, 9, 9, 9};
+  const int references = jvm_.liveReferences();
+  EXPECT_EQ(getIntMatrixField(env_, object_, "matrix", ints.data(), 2, 2), 0);
+  EXPECT_EQ(jvm_.liveReferences(), references);
+  const jobjectArray rows = newObjectArrayByName(env_, "[I", 3);
+  env_->SetObjectArrayElement(rows, 0, jvm_.newInts({1, 2}));
+  env_->SetObjectArrayElement(rows, 2, jvm_.newInts({3, 4}));
+  jvm_.setObject(object_, "matrix", "[[I", rows);
+  ints = {9, 9, 9, 9};
+  EXPECT_EQ(getIntMatrixField(env_, object_, "matrix", ints.data(), 3, 1), 2817);
+  EXPECT_EQ(ints, (std::array<std::int32_t, 4>{1, 9, 9, 9}));
+  EXPECT_FALSE(jvm_.pending());
 }
 
 }  // namespace

@@ -1,11 +1,15 @@
 // What only a real Java virtual machine shows of the toolkit and the native methods.
 #include <gtest/gtest.h>
+#include <malloc.h>
+#include <stdio_ext.h>
 
+#include <cstdio>
 #include <cstring>
 
 #include "bridge/jni_toolkit.h"
 #include "simulator/control.h"
 #include "tests/support/caller.h"
+#include "tests/support/native_methods.h"
 
 namespace quorvelj::testing {
 namespace {
@@ -63,6 +67,41 @@ TEST_F(HotSpot, ObjectOfAClassWithoutTheFields) {
   callUnchecked("QV_UnitAdd", signature, env_->AllocObject(env_->FindClass("MistypedUnit")));
   EXPECT_EQ(pending(), "java.lang.NoSuchFieldError: MistypedUnit.unit_name Ljava/lang/String;");
   EXPECT_EQ(quorvelSimCallCount("QV_UnitAdd"), before + 2);
+}
+
+TEST_F(HotSpot, EveryMethodDeclaresItsException) {
+  const jclass type = env_->FindClass("tessaly/str/diskarray/DiskArrayUtilityJNI");
+  const jclass declared = env_->FindClass("tessaly/str/diskarray/DiskArrayException");
+  const jmethodID exceptionTypes = env_->GetMethodID(env_->FindClass("java/lang/reflect/Method"),
+                                                     "getExceptionTypes", "()[Ljava/lang/Class;");
+  for (const NativeMethod& method : nativeMethods()) {
+    env_->PushLocalFrame(8);
+    const jobject reflected = env_->ToReflectedMethod(
+        type, env_->GetMethodID(type, method.name, method.signature), JNI_FALSE);
+    const auto types = static_cast<jobjectArray>(env_->CallObjectMethod(reflected, exceptionTypes));
+    EXPECT_TRUE(env_->GetArrayLength(types) == 1 &&
+                env_->IsSameObject(env_->GetObjectArrayElement(types, 0), declared) == JNI_TRUE)
+        << method.name;
+    env_->PopLocalFrame(nullptr);
+  }
+}
+
+TEST_F(HotSpot, ElementsBehindTheUnitsAreEmpty) {
+  const struct Perturbed {
+    Perturbed() { mallopt(M_PERTURB, 0x5A); }  // fills what malloc returns
+    ~Perturbed() { mallopt(M_PERTURB, 0); }
+  } perturbed;
+  quorvelSimReset();
+  const jobject table = call("QV_GetUnitParamTable", {number(3)}).result;
+  EXPECT_EQ(get(table, "[2].unit_name"), "");
+  EXPECT_EQ(get(table, "[2].ssl_used"), "0");
+}
+
+TEST_F(HotSpot, StandardOutputIsFlushed) {
+  std::fputc(' ', stdout);
+  ASSERT_GT(__fpending(stdout), 0U);
+  EXPECT_EQ(call("QV_CancelMicroFileConcat", {}).failure, "");
+  EXPECT_EQ(__fpending(stdout), 0U);
 }
 
 TEST_F(HotSpot, ShiftJisIsDecoded) {

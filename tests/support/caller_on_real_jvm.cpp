@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 
 #include "tests/support/caller.h"
 #include "tests/support/callers_jvm.h"
@@ -56,12 +57,13 @@ std::string textFrom(jobject object, jmethodID method) {
   return copy;
 }
 
-/// Ends the test run where Java would not compile a call with such an argument.
-void checkArgument(const std::string& signature, jobject argument) {
+/// Ends the test run where Java's declaration has another class in the place of an argument or of
+/// the result.
+void checkClass(const std::string& signature, jobject object) {
   const std::string name =
       signature[0] == 'L' ? signature.substr(1, signature.size() - 2) : signature;
-  if (javaEnv()->IsInstanceOf(argument, classNamed(name.c_str())) == JNI_FALSE) {
-    std::fprintf(stderr, "a %s is not a %s\n", classOf(argument).c_str(), name.c_str());
+  if (javaEnv()->IsInstanceOf(object, classNamed(name.c_str())) == JNI_FALSE) {
+    std::fprintf(stderr, "a %s is not a %s\n", classOf(object).c_str(), name.c_str());
     std::abort();
   }
 }
@@ -71,7 +73,7 @@ jvalue callByWayOfJava(const NativeMethod& method, JNIEnv* env,
   const std::vector<std::string> types = method.argumentTypes();
   for (std::size_t index = 0; index < types.size(); ++index) {
     if (types[index] != "I") {
-      checkArgument(types[index], arguments[index].l);
+      checkClass(types[index], arguments[index].l);
     }
   }
   const jclass type = classNamed("tessaly/str/diskarray/DiskArrayUtilityJNI");
@@ -87,6 +89,9 @@ jvalue callByWayOfJava(const NativeMethod& method, JNIEnv* env,
       break;
     default:
       result.l = env->CallObjectMethodA(array, id, arguments.data());
+      if (env->ExceptionCheck() == JNI_FALSE) {
+        checkClass(std::strchr(method.signature, ')') + 1, result.l);
+      }
   }
   return result;
 }
