@@ -48,18 +48,18 @@ TEST_F(FrameTrace, QueryReadsEachInputBeforeItAllocatesTheNext) {
 }
 
 TEST_F(FrameTrace, InputsAreReadBehindANullAndNotBehindAnException) {
-  const Events inputs{"GetFieldID session_id", "GetFieldID mode", "GetFieldID requestCTL"};
+  const Events inputs = "GetFieldID session_id, GetFieldID mode, GetFieldID requestCTL";
   const std::vector<std::pair<const char*, const char*>> methods{
       {"QV_AddAdditionalUnit", "GetFieldID mode I"},
       {"QV_GetAllInfo_HG", "GetFieldID requestCTL I"}};
   for (const auto& [method, field] : methods) {
     std::vector<jvalue> arguments = argumentsOf(method);
     arguments[1].l = nullptr;
-    expectEvents(only(trace(method, arguments), inputs), {field});
+    expectEvents(only(trace(method, arguments), inputs), field);
   }
   jvm_.removeField("session_id");
   for (const auto& [method, field] : methods) {
-    expectEvents(only(trace(method), inputs), {"GetFieldID session_id [B"});
+    expectEvents(only(trace(method), inputs), "GetFieldID session_id [B");
     jvm_.clearPending();
   }
 }
