@@ -103,6 +103,10 @@ TEST_F(DepartureTrace, ClockKeepsTheSession) {
   expectEvents(trace("QV_SetUnitTime", arguments), kTakeBoth + kThrow);
   EXPECT_EQ(thrown(), "DiskArrayException -1");
   expectEvents(trace("QV_SetUnitTimeNow"), kTakeBoth + "QV_SetUnitTimeNow");
+  // Behind a session that left an exception pending no time is read.
+  jvm_.removeField("session_id");
+  expectEvents(only(trace("QV_SetUnitTime"), "GetFieldID, QV_"), "GetFieldID session_id [B");
+  EXPECT_EQ(thrown(), "DiskArrayException 2817");
 }
 
 TEST_F(DepartureTrace, WhatIsMissingIsEmptyAndNotWhatLayOnTheStack) {
@@ -240,6 +244,15 @@ TEST_F(DepartureTrace, MappingOfAGroup) {
           "NewIntArray 2048, SetIntArrayRegion 2048, ExceptionOccurred, GetObjectClass, GetFieldID "
           "lu [I, SetObjectField, ExceptionOccurred, DeleteLocalRef, DeleteLocalRef" +
           kStore + "free, flush");
+}
+
+TEST_F(DepartureTrace, ResultsOfTheirOwnThatCannotBeMadeAre2817) {
+  jvm_.removeField("lu");
+  EXPECT_EQ(invoke("QV_GetLuMappingList").l, nullptr);
+  EXPECT_EQ(thrown(), "DiskArrayException 2817");
+  jvm_.failCall(jvm_.fallibleCalls() + 1);
+  EXPECT_EQ(invoke("QV_GetNewMicroRevision").l, nullptr);
+  EXPECT_EQ(thrown(), "DiskArrayException 2817");
 }
 
 TEST_F(DepartureTrace, WholeMappingIsOneRecord) {
