@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Plants the faults of tests/mutants/table.txt, one at a time, in a copy of the tree, and tells what
+# Plants the faults of scripts/mutants.txt, one at a time, in a copy of the tree, and tells what
 # sees each: the compiler, or the first test that fails, crashes or hangs.
 # Usage: mutants.sh [--only NAME]... | [--some N]
 # --some picks N rows that are spread over the table and change with the commit.
@@ -39,7 +39,7 @@ sub content {
   local $/;
   return <$file>;
 }
-for my $row (split /\n\n+/, content("$tree/tests/mutants/table.txt")) {
+for my $row (split /\n\n+/, content("$tree/scripts/mutants.txt")) {
   my ($head, $path, @lines) = grep { !/^#/ } split /\n/, $row;
   next unless defined $path;
   my ($name, $why) = $head =~ /^([a-z0-9-]+): (.+)$/ or die "no name and reason: $head\n";
