@@ -34,8 +34,9 @@ void* allocateGuarded(std::size_t bytes, int fill) {
   if (block == nullptr) {
     return nullptr;
   }
-  std::memset(block, kGuard, bytes + 2 * kGuardBytes);
+  std::memset(block, kGuard, kGuardBytes);
   std::memset(block + kGuardBytes, fill, bytes);
+  std::memset(block + kGuardBytes + bytes, kGuard, kGuardBytes);
   liveBlocks()[block + kGuardBytes] = bytes;
   ++testRuntime().liveRecords;
   testRuntime().liveBytes += bytes;

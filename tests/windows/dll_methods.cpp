@@ -69,6 +69,7 @@ jvalue callExported(const NativeMethod& method, JNIEnv* env, const std::vector<j
   frame.words = words.data();
   frame.count = static_cast<std::uint32_t>(words.size());
   frame.padding = 4 * (static_cast<std::uint32_t>(counted.calls) % 4);
+  callersFrame = static_cast<const char*>(__builtin_frame_address(0));
   callStdcall(frame);
   ++counted.calls;
   counted.methods.insert(method.name);
