@@ -26,7 +26,7 @@ constexpr int kOrdinaryCode = 1234;
 struct AtLibrary {
   const MiniJvm* jvm = nullptr;
   std::string function;
-  int callsWhilePending = 0;
+  int callsUnderException = 0;
   bool pending = false;
 };
 AtLibrary atLibrary;
@@ -107,7 +107,7 @@ class Fuzz : public ::testing::Test {
     quorvelSimReset();
     quorvelSimObserve([](const char* function) {
       atLibrary.function = function;
-      atLibrary.callsWhilePending = atLibrary.jvm->callsWhilePending();
+      atLibrary.callsUnderException = atLibrary.jvm->callsUnderException();
       atLibrary.pending = atLibrary.jvm->pending().has_value();
     });
     // What fills a result is not what is asked here.
@@ -121,7 +121,7 @@ class Fuzz : public ::testing::Test {
     const std::vector<jvalue> arguments = jvm.newArguments(method);
     const int misuses = jvm.misuses();
     const int unreleased = jvm.unreleased();
-    const int before = jvm.callsWhilePending();
+    const int before = jvm.callsUnderException();
     atLibrary = {&jvm, "", before, false};
     method.invoke(jvm.env(), arguments);
 
@@ -133,7 +133,7 @@ class Fuzz : public ::testing::Test {
               testRuntime().allocations == 0 ? 0 : departure.neverReleased);
     EXPECT_EQ(jvm.misuses(), misuses) << "a dead, null or wrong reference or field was used";
     EXPECT_EQ(jvm.unreleased() - unreleased, libraryCalls * departure.neverReleasedCharacters);
-    EXPECT_EQ(atLibrary.callsWhilePending, before) << "read on while an exception was pending";
+    EXPECT_EQ(atLibrary.callsUnderException, before) << "read on while an exception was pending";
     expectException(method, jvm.pending(), libraryCalls == 1, libraryResult);
     if (libraryCalls == 1) {
       expectInputs(method, jvm, arguments);

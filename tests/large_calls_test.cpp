@@ -32,6 +32,7 @@ TEST_P(LargeCalls, HoldOneRecordAndFewReferences) {
   const auto& [name, recordBytes, references] = GetParam();
   constexpr std::size_t kSessionBytes = 32;
   MiniJvm jvm;
+  jvm.forgetResults();
   const NativeMethod& method = nativeMethod(name);
   std::vector<jvalue> arguments(method.argumentTypes().size());
   arguments[0].l = jvm.newText("north");

@@ -25,6 +25,7 @@ jvalue callAs(const NativeMethod& method, JNIEnv* env, const std::vector<jvalue>
   const auto function = reinterpret_cast<Function<Result, Argument...>>(method.function);
   return [&]<std::size_t... Index>(std::index_sequence<Index...>) {
     jvalue result{};
+    callersFrame = static_cast<const char*>(__builtin_frame_address(0));
     if constexpr (std::is_same_v<Result, void>) {
       function(env, nullptr, unpack<Argument>(arguments[Index])...);
     } else if constexpr (std::is_same_v<Result, jint>) {

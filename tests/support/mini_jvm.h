@@ -29,6 +29,17 @@ struct InputProfile {
   mini::RandomInputs* random = nullptr;
 };
 
+/// A JNI function that is called for a field, or for no field by the method itself.
+struct CallSite {
+  std::string className;  // "" without a field
+  std::string field;
+  std::string function;  // with "[]" for every array of the field's value around it
+  /// The numbers, among the calls that can fail, of its first call and of its last: that for the
+  /// last element of the first array that holds the field's object, if any does.
+  int first;
+  int last;
+};
+
 /// A Java virtual machine of the JNI functions that the bridge may use, over objects in memory. A
 /// class, a field or a method comes into being when native code asks for it. Any other JNI function
 /// ends the process.
@@ -48,7 +59,7 @@ class MiniJvm {
 
   /// Objects for a test to hand over. An input's fields follow the profile until they are set.
   jstring newText(const std::string& text);
-  jobject newInput();
+  jobject newInput(const std::string& signature = "Ljava/lang/Object;");
   /// The arguments of a method after the profile: ints of 3, texts, inputs, and arrays of inputs.
   std::vector<jvalue> newArguments(const NativeMethod& method);
   jintArray newInts(const std::vector<jint>& values);
@@ -69,14 +80,25 @@ class MiniJvm {
   void removeClass(const std::string& name);
   void removeField(const std::string& name);
 
+  /// Releases what native code makes and no longer refers to. It saves time and memory in a test
+  /// that does not look at results.
+  void forgetResults();
+
   /// Lets one JNI call fail: the n-th of those that can, counted from 1. 0 lets none fail.
   void failCall(int call);
+  /// The JNI function that failed so, or "".
+  std::string failedFunction() const;
   /// The JNI calls so far that could have failed.
   int fallibleCalls() const;
-  /// All JNI calls so far.
+  /// All JNI calls so far, and those that JNI forbids while an exception is pending.
   int calls() const;
-  /// Those that JNI does not allow while an exception is pending, as one was.
-  int callsWhilePending() const;
+  int callsUnderException() const;
+  /// The address of the deepest frame of a JNI function so far.
+  const char* deepestFrame() const;
+
+  /// From now on finds out for which field each call is made.
+  void recordCallSites();
+  std::vector<CallSite> callSites() const;
 
   std::optional<PendingException> pending() const;
   void clearPending();

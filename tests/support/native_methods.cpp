@@ -8,6 +8,8 @@
 
 namespace quorvelj::testing {
 
+thread_local const char* callersFrame = nullptr;
+
 std::vector<std::string> NativeMethod::argumentTypes() const {
   const std::string_view whole = signature;
   std::vector<std::string> types;

@@ -32,6 +32,9 @@ struct NativeMethod {
   [[nodiscard]] char resultKind() const;
 };
 
+/// The frame from which the last native method of this thread was called.
+extern thread_local const char* callersFrame;
+
 /// How GoogleTest shows a method.
 void PrintTo(const NativeMethod& method, std::ostream* out);
 

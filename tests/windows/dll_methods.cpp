@@ -69,6 +69,7 @@ jvalue callExported(const NativeMethod& method, JNIEnv* env, const std::vector<j
   stack.words = words.data();
   stack.count = static_cast<std::uint32_t>(words.size());
   stack.padding = 4 * (static_cast<std::uint32_t>(counted.calls) % 4);
+  callersFrame = static_cast<const char*>(__builtin_frame_address(0));
   callStdcall(stack);
   ++counted.calls;
   counted.methods.insert(method.name);

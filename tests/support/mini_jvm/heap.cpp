@@ -14,8 +14,8 @@ std::string keyOf(const std::string& name, const std::string& signature) {
 }  // namespace
 
 bool Class::sees(const Member& field) const {
-  return field.owner == this || (parent != nullptr && parent->sees(field) &&
-                                 !members.contains(keyOf(field.name, field.signature)));
+  return field.type == this || (parent != nullptr && parent->sees(field) &&
+                                !members.contains(keyOf(field.name, field.signature)));
 }
 
 std::size_t Object::length() const {
@@ -39,12 +39,34 @@ Slot* Object::findSet(std::string_view name) {
   return nullptr;
 }
 
+namespace {
+
+/// A place among the recent ones for what the text at this address names.
+std::size_t placeOf(const char* name, const void* within, std::size_t places) {
+  return (reinterpret_cast<std::uintptr_t>(name) ^
+          (reinterpret_cast<std::uintptr_t>(within) >> 4)) %
+         places;
+}
+
+/// Without a call: sanitizers look at every byte that the C runtime's comparison is given.
+bool same(const std::string& known, const char* text) {
+  const char* left = known.c_str();
+  for (; *left == *text; ++left, ++text) {
+    if (*left == '\0') {
+      return true;
+    }
+  }
+  return false;
+}
+
+}  // namespace
+
 // The bridge asks by the same constants over and over. What an address named before is tried first,
 // and compared by its text, because the texts of a test come and go.
 
 Class* Heap::findClass(const char* name) {
-  Class*& recent = recentClasses_[name];
-  if (recent != nullptr && recent->name == name) {
+  Class*& recent = recentClasses_[placeOf(name, nullptr, kRecent)];
+  if (recent != nullptr && same(recent->name, name)) {
     return recent;
   }
   std::unique_ptr<Class>& type = classes_[name];
@@ -53,14 +75,16 @@ Class* Heap::findClass(const char* name) {
     type->name = name;
     type->mirror = make(nullptr);
     type->mirror->mirrored = type.get();
+    type->mirror->held = true;
   }
   recent = type.get();
   return recent;
 }
 
 Member* Heap::findMember(Class* type, const char* name, const char* signature) {
-  Member*& recent = type->recentMembers[name];
-  if (recent != nullptr && recent->name == name && recent->signature == signature) {
+  Member*& recent = recentMembers_[placeOf(name, type, kRecent)];
+  if (recent != nullptr && recent->type == type && same(recent->name, name) &&
+      same(recent->signature, signature)) {
     return recent;
   }
   const auto found = type->members.find(keyOf(name, signature));
@@ -82,7 +106,7 @@ Member* Heap::addMember(Class* type, const std::string& name, const std::string&
   std::unique_ptr<Member>& member = type->members[keyOf(name, signature)];
   if (member == nullptr) {
     member = std::make_unique<Member>(
-        Member{name, signature, inherited + type->members.size() - 1, -1, type});
+        Member{type, name, signature, inherited + type->members.size() - 1, -1});
   }
   return member.get();
 }
@@ -110,9 +134,50 @@ bool Heap::isRemoved(std::string_view name) const {
 }
 
 Object* Heap::make(Class* type) {
+  if (type != nullptr && !type->recycled.empty()) {
+    Object* const object = type->recycled.back();
+    type->recycled.pop_back();
+    return object;
+  }
   Object& object = objects_.emplace_back();
   object.type = type;
   return &object;
+}
+
+void Heap::recycle(Object* object) {
+  mergeCalls(callsOfRecycled_, object->calls, 0);
+  object->calls.clear();
+  object->holder = nullptr;
+  object->depth = 0;
+  object->held = false;
+  for (const Slot& slot : object->slots) {
+    // Of what native code stored nothing is kept: these are the arrays of the constructor.
+    if (slot.object != nullptr && slot.object->references == 0) {
+      recycle(slot.object);
+    }
+  }
+  object->slots.clear();
+  object->type->recycled.push_back(object);
+}
+
+void Heap::endFirstArray(int firstCall) {
+  for (const auto& [name, type] : classes_) {
+    for (const auto& [key, member] : type->members) {
+      for (Calls& calls : member->calls) {
+        if (calls.lastElement == 0 && calls.first >= firstCall && calls.last > calls.first) {
+          calls.lastElement = calls.last;
+        }
+      }
+    }
+  }
+}
+
+CallList Heap::unheldCalls() const {
+  CallList calls = callsOfRecycled_;
+  for (const Object& object : objects_) {
+    mergeCalls(calls, object.calls, 0);
+  }
+  return calls;
 }
 
 jobject Heap::refer(Object* object) {
@@ -120,6 +185,7 @@ jobject Heap::refer(Object* object) {
     return nullptr;
   }
   mostReferences_ = std::max(mostReferences_, ++liveReferences_);
+  ++object->references;
   // A deleted reference stays dead for a while, so that its use is noticed.
   constexpr std::size_t kStaysDead = 4096;
   if (deleted_.size() < kStaysDead) {
@@ -132,11 +198,15 @@ jobject Heap::refer(Object* object) {
 }
 
 void Heap::deleteReference(jobject reference) {
-  if (resolve(reference) != nullptr) {
+  Object* const object = resolve(reference);
+  if (object != nullptr) {
     auto* const dead = reinterpret_cast<Reference*>(reference);
     dead->live = false;
     deleted_.push_back(dead);
     --liveReferences_;
+    if (--object->references == 0 && forgets_ && !object->held) {
+      recycle(object);
+    }
   }
 }
 

@@ -3,14 +3,17 @@
 #include <jni.h>
 
 #include <algorithm>
+#include <array>
+#include <cstdint>
 #include <deque>
 #include <map>
 #include <memory>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <variant>
 #include <vector>
+
+#include "tests/support/mini_jvm/call_sites.h"
 
 // The objects and classes of the mini JVM, and the local references to them.
 namespace quorvelj::testing::mini {
@@ -20,14 +23,18 @@ struct Object;
 
 /// A field or a method.
 struct Member {
+  /// The class that declares it.
+  Class* type;
   std::string name;
   std::string signature;
   /// The place of a field's value in the slots of an object.
   std::size_t index;
   /// The length of the array that the constructor makes, or -1.
   int madeLength;
-  /// The class that declares it.
-  const Class* owner;
+  /// What the field cost.
+  CallList calls{};
+  /// Held an array before.
+  bool heldArray = false;
 
   [[nodiscard]] bool holdsObject() const { return signature[0] == 'L' || signature[0] == '['; }
 };
@@ -37,7 +44,6 @@ struct Class {
   /// The superclass, which must be a declared one; null for none.
   Class* parent = nullptr;
   std::map<std::string, std::unique_ptr<Member>> members;
-  std::unordered_map<const void*, Member*> recentMembers;
   /// The fields whose arrays the constructor makes.
   std::vector<Member*> made;
   /// The class has its declared fields and no others.
@@ -47,6 +53,9 @@ struct Class {
   /// Whether a look-up in this class finds the field: it is the class's own or a superclass's, and
   /// nothing in between hides it.
   [[nodiscard]] bool sees(const Member& field) const;
+
+  /// Objects of the class that are no more.
+  std::vector<Object*> recycled{};
 };
 
 /// The value of a field.
@@ -62,6 +71,16 @@ struct Object {
   Class* mirrored = nullptr;
   /// The fields follow the input profile until they are set.
   bool input = false;
+  /// Held by another object or by a test.
+  bool held = false;
+  /// Local references to it.
+  int references = 0;
+  /// The field that holds it, and how many arrays of that field lie around it; null until it is
+  /// stored or read.
+  Member* holder = nullptr;
+  int depth = 0;
+  /// What it cost while no field held it.
+  CallList calls{};
   std::vector<Slot> slots;
   std::variant<std::monostate, std::string, std::vector<jint>, std::vector<jbyte>,
                std::vector<jshort>, std::vector<Object*>>
@@ -90,6 +109,9 @@ class Heap {
  public:
   /// The class of a name in slash form, which is made at the first request.
   Class* findClass(const char* name);
+  [[nodiscard]] const std::map<std::string, std::unique_ptr<Class>>& classes() const {
+    return classes_;
+  }
   /// The member of a class or of its superclasses, which is made at the first request; null for a
   /// field that a declared class does not have.
   Member* findMember(Class* type, const char* name, const char* signature);
@@ -111,6 +133,39 @@ class Heap {
     object->payload = std::move(payload);
     return object;
   }
+  /// An array of equal elements.
+  template <class Element>
+  Object* makeArray(const char* className, std::size_t length, Element element) {
+    Object* const object = make(findClass(className));
+    if (auto* const used = object->get<std::vector<Element>>()) {
+      used->assign(length, element);
+    } else {
+      object->payload = std::vector<Element>(length, element);
+    }
+    return object;
+  }
+
+  /// Lets the objects that native code makes go when their last local reference does: what it
+  /// stores is not to be had.
+  void forgetResults() { forgets_ = true; }
+  /// What a field or an array keeps of a value that native code stores there.
+  Object* keep(Object* value) {
+    if (value != nullptr && forgets_ && !value->held) {
+      return nullptr;
+    }
+    return hold(value);
+  }
+  static Object* hold(Object* value) {
+    if (value != nullptr) {
+      value->held = true;
+    }
+    return value;
+  }
+  /// What the objects that no field holds cost.
+  [[nodiscard]] CallList unheldCalls() const;
+  /// Notes that an array is complete, whose making began with this call.
+  void endFirstArray(int firstCall);
+
   /// The int that java/lang/Integer and DiskArrayException are made with.
   Slot& codeOf(Object* object) { return object->slot(*findMember(object->type, "code", "I")); }
 
@@ -138,8 +193,14 @@ class Heap {
     bool live;
   };
 
+  void recycle(Object* object);
+
+  static constexpr std::size_t kRecent = 1024;
   std::map<std::string, std::unique_ptr<Class>> classes_;
-  std::unordered_map<const void*, Class*> recentClasses_;
+  std::array<Class*, kRecent> recentClasses_{};
+  std::array<Member*, kRecent> recentMembers_{};
+  bool forgets_ = false;
+  CallList callsOfRecycled_;
   std::vector<std::string> removed_;
   std::deque<Object> objects_;
   std::deque<Reference> references_;

@@ -23,26 +23,27 @@ Object* makeInput(Heap& heap, const InputProfile& profile, const std::string& si
     return profile.random->make(heap, signature);
   }
   if (signature == "Ljava/lang/String;") {
-    return heap.make("java/lang/String", profile.text);
+    return Heap::hold(heap.make("java/lang/String", profile.text));
   }
   if (signature == "[I") {
-    return heap.make("[I", std::vector<jint>(profile.primitives, 0x01020381));
+    return Heap::hold(heap.makeArray("[I", profile.primitives, jint{0x01020381}));
   }
   if (signature == "[B") {
-    return heap.make("[B", std::vector<jbyte>(profile.primitives, jbyte{0x42}));
+    return Heap::hold(heap.makeArray("[B", profile.primitives, jbyte{0x42}));
   }
   if (signature == "[S") {
-    return heap.make("[S", std::vector<jshort>(profile.primitives, jshort{1234}));
+    return Heap::hold(heap.makeArray("[S", profile.primitives, jshort{1234}));
   }
   if (signature[0] == '[') {
     std::vector<Object*> elements(lengthOf(profile, signature));
     std::generate(elements.begin(), elements.end(),
                   [&] { return makeInput(heap, profile, signature.substr(1)); });
-    return heap.make(signature.c_str(), std::move(elements));
+    return Heap::hold(heap.make(signature.c_str(), std::move(elements)));
   }
-  Object* const object = heap.make(heap.findClass("Input"));
+  const std::string name = signature.substr(1, signature.size() - 2);
+  Object* const object = heap.make(heap.findClass(name.c_str()));
   object->input = true;
-  return object;
+  return Heap::hold(object);
 }
 
 }  // namespace quorvelj::testing::mini

@@ -4,9 +4,9 @@
 #include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
-#include <iterator>
+#include <functional>
 #include <sstream>
+#include <utility>
 
 #include "tests/support/mini_jvm/inputs.h"
 #include "tests/support/recorder.h"
@@ -19,11 +19,20 @@ constexpr char kNoMemory[] = "java/lang/OutOfMemoryError";
 
 /// The elements of an array in the names of JNI's functions.
 template <class Element>
-constexpr const char* kNameOf = "Int";
+struct Region {
+  static constexpr char kGet[] = "GetIntArrayRegion ";
+  static constexpr char kSet[] = "SetIntArrayRegion ";
+};
 template <>
-constexpr const char* kNameOf<jshort> = "Short";
+struct Region<jshort> {
+  static constexpr char kGet[] = "GetShortArrayRegion ";
+  static constexpr char kSet[] = "SetShortArrayRegion ";
+};
 template <>
-constexpr const char* kNameOf<jbyte> = "Byte";
+struct Region<jbyte> {
+  static constexpr char kGet[] = "GetByteArrayRegion ";
+  static constexpr char kSet[] = "SetByteArrayRegion ";
+};
 
 template <class Pointer>
 Pointer as(jobject reference) {
@@ -35,29 +44,92 @@ Pointer as(jobject reference) {
   std::abort();
 }
 
-/// Whether JNI allows the call while an exception is pending.
-bool allowedWhilePending(const char* call) {
-  constexpr const char* kAllowed[] = {"ExceptionOccurred", "DeleteLocalRef",
-                                      "ReleaseStringUTFChars", "ReleaseIntArrayElements"};
-  return std::any_of(std::begin(kAllowed), std::end(kAllowed),
-                     [call](const char* allowed) { return std::strcmp(call, allowed) == 0; });
+JniTable& tableOf(JNIEnv* env) { return *reinterpret_cast<JniTable::Env*>(env)->table; }
+
+/// Notes how deep the stack of native code is, from the JNI function that it called.
+[[gnu::always_inline]] inline void noteStack(JNIEnv* env) {
+  const auto* const frame = static_cast<const char*>(__builtin_frame_address(0));
+  const char*& deepest = tableOf(env).deepestFrame;
+  if (std::less<>()(frame, deepest)) {
+    deepest = frame;
+  }
 }
 
-JniTable& tableOf(JNIEnv* env) { return *reinterpret_cast<JniTable::Env*>(env)->table; }
+/// Any of these may be called while an exception is pending: ExceptionOccurred, DeleteLocalRef, and
+/// the functions that release.
+bool allowedUnderException(const char* call) {
+  return *call == 'E' || *call == 'D' || *call == 'R';
+}
 
 }  // namespace
 
 template <class... Detail>
 bool JniTable::enter(bool fallible, const char* call, const Detail&... detail) {
   ++calls;
-  callsWhilePending += pending != nullptr && !allowedWhilePending(call) ? 1 : 0;
+  if (pending != nullptr && !allowedUnderException(call)) {
+    ++callsUnderException;
+  }
   if (recorder().tracing) {
     std::ostringstream event;
     event << call;
     static_cast<void>((event << ... << detail));
     recorder().add(event.str());
   }
-  return fallible && ++fallibleCalls == failingCall;
+  if (fallible && ++fallibleCalls == failingCall) {
+    failedFunction = call;
+    return true;
+  }
+  return false;
+}
+
+// What a call costs its field.
+
+void JniTable::costs(Member& field, const char* call, int depth) {
+  if (recording) {
+    addCalls(field.calls, {call, depth, fallibleCalls, fallibleCalls});
+  }
+}
+void JniTable::costs(Object* object, const char* call) {
+  if (!recording) {
+    return;
+  }
+  if (object->holder != nullptr) {
+    costs(*object->holder, call, object->depth);
+  } else {
+    addCalls(object->calls, {call, 0, fallibleCalls, fallibleCalls});
+  }
+}
+void JniTable::costsWhatIsMadeNext(const char* call) {
+  if (recording) {
+    addCalls(unclaimed, {call, 0, fallibleCalls, fallibleCalls});
+  }
+}
+Object* JniTable::made(Object* object, const char* call) {
+  if (recording) {
+    object->calls = std::exchange(unclaimed, {});
+    costs(object, call);
+  }
+  return object;
+}
+void JniTable::holds(Member& field, int depth, Object* value) {
+  if (recording && value != nullptr && value->holder == nullptr) {
+    mergeCalls(field.calls, value->calls, depth);
+    if (value->elements() != nullptr && !field.heldArray && !value->calls.empty()) {
+      heap.endFirstArray(value->calls.front().first);
+      field.heldArray = true;
+    }
+    value->calls.clear();
+    value->holder = &field;
+    value->depth = depth;
+  }
+}
+void JniTable::holds(Object* array, Object* value) {
+  if (array->holder != nullptr) {
+    holds(*array->holder, array->depth + 1, value);
+  } else if (recording && value != nullptr) {
+    mergeCalls(array->calls, value->calls, 1);
+    value->calls.clear();
+  }
 }
 
 namespace {
@@ -65,15 +137,18 @@ namespace {
 /// The JNI functions. Each enters its call, then fails or does its work.
 struct Functions {
   static jclass JNICALL findClass(JNIEnv* env, const char* name) {
+    noteStack(env);
     JniTable& jvm = tableOf(env);
     if (jvm.enter(true, "FindClass ", name) || jvm.heap.isRemoved(name)) {
       jvm.throwNew("java/lang/NoClassDefFoundError", name);
       return nullptr;
     }
+    jvm.costsWhatIsMadeNext("FindClass ");
     return as<jclass>(jvm.heap.refer(jvm.heap.findClass(name)->mirror));
   }
 
   static jclass JNICALL getObjectClass(JNIEnv* env, jobject object) {
+    noteStack(env);
     JniTable& jvm = tableOf(env);
     jvm.enter(false, "GetObjectClass");
     Object* const target = jvm.heap.resolve(object);
@@ -92,21 +167,28 @@ struct Functions {
     Member* const found = jvm.heap.findMember(mirror->mirrored, name, signature);
     if (found == nullptr) {
       jvm.throwNew(error, name);
+    } else if (*signature == '(') {
+      jvm.costsWhatIsMadeNext(call);
+    } else {
+      jvm.costs(*found, call);
     }
     return found;
   }
   static jfieldID JNICALL getFieldId(JNIEnv* env, jclass type, const char* name,
                                      const char* signature) {
+    noteStack(env);
     return reinterpret_cast<jfieldID>(
         member(env, "GetFieldID ", type, name, signature, "java/lang/NoSuchFieldError"));
   }
   static jmethodID JNICALL getMethodId(JNIEnv* env, jclass type, const char* name,
                                        const char* signature) {
+    noteStack(env);
     return reinterpret_cast<jmethodID>(
         member(env, "GetMethodID ", type, name, signature, "java/lang/NoSuchMethodError"));
   }
 
   static jobject JNICALL newObjectV(JNIEnv* env, jclass type, jmethodID id, va_list arguments) {
+    noteStack(env);
     JniTable& jvm = tableOf(env);
     if (jvm.enter(true, "NewObject")) {
       jvm.throwNew(kNoMemory);
@@ -115,9 +197,8 @@ struct Functions {
     const auto* const constructor = reinterpret_cast<Member*>(id);
     Object* const object = jvm.heap.make(jvm.heap.resolve(type)->mirrored);
     for (const Member* const member : object->type->made) {
-      object->slot(*member) = {
-          true, 0,
-          jvm.heap.make("[B", std::vector<jbyte>(static_cast<std::size_t>(member->madeLength)))};
+      const auto length = static_cast<std::size_t>(member->madeLength);
+      object->slot(*member) = {true, 0, Heap::hold(jvm.heap.makeArray("[B", length, jbyte{0}))};
     }
     if (constructor->signature == "(I)V") {
       jvm.heap.codeOf(object) = {true, va_arg(arguments, jint), nullptr};
@@ -133,16 +214,18 @@ struct Functions {
       object->payload = std::string(all.begin() + static_cast<std::ptrdiff_t>(offset),
                                     all.begin() + static_cast<std::ptrdiff_t>(offset + count));
     }
-    return jvm.heap.refer(object);
+    return jvm.heap.refer(jvm.made(object, "NewObject"));
   }
 
   static jint JNICALL throwObject(JNIEnv* env, jthrowable throwable) {
+    noteStack(env);
     JniTable& jvm = tableOf(env);
     jvm.enter(false, "Throw");
-    jvm.pending = jvm.heap.resolve(throwable);
+    jvm.pending = Heap::hold(jvm.heap.resolve(throwable));
     return 0;
   }
   static jint JNICALL throwNewObject(JNIEnv* env, jclass type, const char* message) {
+    noteStack(env);
     JniTable& jvm = tableOf(env);
     const std::string& name = jvm.heap.resolve(type)->mirrored->name;
     if (jvm.enter(true, "ThrowNew ", name.c_str(), " \"", message, "\"")) {
@@ -153,11 +236,13 @@ struct Functions {
     return 0;
   }
   static jthrowable JNICALL exceptionOccurred(JNIEnv* env) {
+    noteStack(env);
     JniTable& jvm = tableOf(env);
     jvm.enter(false, "ExceptionOccurred");
     return jvm.pending == nullptr ? nullptr : as<jthrowable>(jvm.heap.refer(jvm.pending));
   }
   static void JNICALL deleteLocalRef(JNIEnv* env, jobject reference) {
+    noteStack(env);
     JniTable& jvm = tableOf(env);
     jvm.enter(false, "DeleteLocalRef");
     jvm.heap.deleteReference(reference);
@@ -167,7 +252,7 @@ struct Functions {
   static Slot* access(JNIEnv* env, const char* call, jobject object, jfieldID id,
                       const char* signature) {
     JniTable& jvm = tableOf(env);
-    const auto* const field = reinterpret_cast<Member*>(id);
+    auto* const field = reinterpret_cast<Member*>(id);
     const bool fails = jvm.enter(true, call);
     Object* const target = jvm.heap.resolve(object);
     if (fails || target == nullptr) {
@@ -178,6 +263,7 @@ struct Functions {
         !target->type->sees(*field)) {
       jvm.heap.countMisuse();
     }
+    jvm.costs(*field, call);
     Slot& slot = target->slot(*field);
     if (!slot.set && *call == 'G' &&
         (target->input || (!target->type->declared && field->signature == "[B"))) {
@@ -188,16 +274,23 @@ struct Functions {
     return &slot;
   }
   static jint JNICALL getIntField(JNIEnv* env, jobject object, jfieldID id) {
+    noteStack(env);
     const Slot* const slot = access(env, "GetIntField", object, id, "I");
     return slot == nullptr ? 0 : slot->number;
   }
   static jshort JNICALL getShortField(JNIEnv* env, jobject object, jfieldID id) {
+    noteStack(env);
     const Slot* const slot = access(env, "GetShortField", object, id, "S");
     return slot == nullptr ? jshort{0} : static_cast<jshort>(slot->number);
   }
   static jobject JNICALL getObjectField(JNIEnv* env, jobject object, jfieldID id) {
+    noteStack(env);
     const Slot* const slot = access(env, "GetObjectField", object, id, "L");
-    return slot == nullptr ? nullptr : tableOf(env).heap.refer(slot->object);
+    if (slot == nullptr) {
+      return nullptr;
+    }
+    tableOf(env).holds(*reinterpret_cast<Member*>(id), 0, slot->object);
+    return tableOf(env).heap.refer(slot->object);
   }
   static void store(Slot* slot, jint number, Object* object) {
     if (slot != nullptr) {
@@ -205,36 +298,51 @@ struct Functions {
     }
   }
   static void JNICALL setIntField(JNIEnv* env, jobject object, jfieldID id, jint value) {
+    noteStack(env);
     store(access(env, "SetIntField", object, id, "I"), value, nullptr);
   }
   static void JNICALL setShortField(JNIEnv* env, jobject object, jfieldID id, jshort value) {
+    noteStack(env);
     store(access(env, "SetShortField", object, id, "S"), value, nullptr);
   }
   static void JNICALL setObjectField(JNIEnv* env, jobject object, jfieldID id, jobject value) {
+    noteStack(env);
     Slot* const slot = access(env, "SetObjectField", object, id, "L");
-    store(slot, 0, value == nullptr ? nullptr : tableOf(env).heap.resolve(value));
+    if (slot == nullptr || value == nullptr) {
+      store(slot, 0, nullptr);
+      return;
+    }
+    Object* const stored = tableOf(env).heap.resolve(value);
+    tableOf(env).holds(*reinterpret_cast<Member*>(id), 0, stored);
+    store(slot, 0, tableOf(env).heap.keep(stored));
   }
 
   static jstring JNICALL newStringUtf(JNIEnv* env, const char* text) {
+    noteStack(env);
     JniTable& jvm = tableOf(env);
     if (jvm.enter(true, "NewStringUTF ", text)) {
       jvm.throwNew(kNoMemory);
       return nullptr;
     }
-    return as<jstring>(jvm.heap.refer(jvm.heap.make("java/lang/String", std::string(text))));
+    Object* const made = jvm.heap.make("java/lang/String", std::string(text));
+    return as<jstring>(jvm.heap.refer(jvm.made(made, "NewStringUTF ")));
   }
   static jsize JNICALL getStringUtfLength(JNIEnv* env, jstring text) {
+    noteStack(env);
     JniTable& jvm = tableOf(env);
     jvm.enter(false, "GetStringUTFLength");
     return static_cast<jsize>(jvm.heap.resolve(text)->length());
   }
   static const char* JNICALL getStringUtfChars(JNIEnv* env, jstring text, jboolean*) {
+    noteStack(env);
     JniTable& jvm = tableOf(env);
     if (jvm.enter(true, "GetStringUTFChars")) {
       jvm.throwNew(kNoMemory);
       return nullptr;
     }
-    const std::string& source = *jvm.heap.resolve(text)->text();
+    Object* const object = jvm.heap.resolve(text);
+    jvm.costs(object, "GetStringUTFChars");
+    const std::string& source = *object->text();
     std::vector<char> copy(source.c_str(), source.c_str() + source.size() + 1);
     const char* const characters = copy.data();
     jvm.characters[characters] = std::move(copy);
@@ -242,48 +350,53 @@ struct Functions {
     return characters;
   }
   static void JNICALL releaseStringUtfChars(JNIEnv* env, jstring, const char* characters) {
+    noteStack(env);
     tableOf(env).enter(false, "ReleaseStringUTFChars");
     tableOf(env).characters.erase(characters);
     --tableOf(env).unreleased;
   }
 
   static jsize JNICALL getArrayLength(JNIEnv* env, jarray array) {
+    noteStack(env);
     JniTable& jvm = tableOf(env);
     jvm.enter(false, "GetArrayLength");
     return static_cast<jsize>(jvm.heap.resolve(array)->length());
   }
   /// A new array of `length` elements of one payload type.
-  template <class Payload, class Array>
+  template <class Element, class Array>
   static Array newArray(JNIEnv* env, const char* call, const char* className, jsize length) {
     JniTable& jvm = tableOf(env);
     if (jvm.enter(true, call, length) || length < 0) {
       jvm.throwNew(length < 0 ? "java/lang/NegativeArraySizeException" : kNoMemory);
       return nullptr;
     }
-    return as<Array>(
-        jvm.heap.refer(jvm.heap.make(className, Payload(static_cast<std::size_t>(length)))));
+    Object* const made = jvm.heap.makeArray(className, static_cast<std::size_t>(length), Element{});
+    return as<Array>(jvm.heap.refer(jvm.made(made, call)));
   }
   static jintArray JNICALL newIntArray(JNIEnv* env, jsize length) {
-    return newArray<std::vector<jint>, jintArray>(env, "NewIntArray ", "[I", length);
+    noteStack(env);
+    return newArray<jint, jintArray>(env, "NewIntArray ", "[I", length);
   }
   static jshortArray JNICALL newShortArray(JNIEnv* env, jsize length) {
-    return newArray<std::vector<jshort>, jshortArray>(env, "NewShortArray ", "[S", length);
+    noteStack(env);
+    return newArray<jshort, jshortArray>(env, "NewShortArray ", "[S", length);
   }
   static jbyteArray JNICALL newByteArray(JNIEnv* env, jsize length) {
-    return newArray<std::vector<jbyte>, jbyteArray>(env, "NewByteArray ", "[B", length);
+    noteStack(env);
+    return newArray<jbyte, jbyteArray>(env, "NewByteArray ", "[B", length);
   }
   static jobjectArray JNICALL newObjectArray(JNIEnv* env, jsize length, jclass type, jobject) {
+    noteStack(env);
     const std::string element = tableOf(env).heap.resolve(type)->mirrored->name;
     const std::string name = element[0] == '[' ? '[' + element : "[L" + element + ';';
-    return newArray<std::vector<Object*>, jobjectArray>(env, "NewObjectArray ", name.c_str(),
-                                                        length);
+    return newArray<Object*, jobjectArray>(env, "NewObjectArray ", name.c_str(), length);
   }
 
   /// The elements of a region, or null with the exception where it cannot be accessed.
   template <class Element>
   static Element* region(JNIEnv* env, const char* call, jarray array, jsize start, jsize count) {
     JniTable& jvm = tableOf(env);
-    const bool fails = jvm.enter(true, call, kNameOf<Element>, "ArrayRegion ", count);
+    const bool fails = jvm.enter(true, call, count);
     Object* const target = jvm.heap.resolve(array);
     auto* const payload = target == nullptr ? nullptr : target->get<std::vector<Element>>();
     if (payload == nullptr) {
@@ -295,12 +408,14 @@ struct Functions {
       jvm.throwNew(kBounds);
       return nullptr;
     }
+    jvm.costs(target, call);
     return payload->data() + start;
   }
   template <class Array, class Element>
   static void JNICALL getRegion(JNIEnv* env, Array array, jsize start, jsize count,
                                 Element* values) {
-    const Element* const first = region<Element>(env, "Get", array, start, count);
+    noteStack(env);
+    const Element* const first = region<Element>(env, Region<Element>::kGet, array, start, count);
     if (first != nullptr) {
       std::copy_n(first, count, values);
     }
@@ -308,25 +423,30 @@ struct Functions {
   template <class Array, class Element>
   static void JNICALL setRegion(JNIEnv* env, Array array, jsize start, jsize count,
                                 const Element* values) {
-    Element* const first = region<Element>(env, "Set", array, start, count);
+    noteStack(env);
+    Element* const first = region<Element>(env, Region<Element>::kSet, array, start, count);
     if (first != nullptr) {
       std::copy_n(values, count, first);
     }
   }
 
   static jint* JNICALL getIntElements(JNIEnv* env, jintArray array, jboolean*) {
+    noteStack(env);
     JniTable& jvm = tableOf(env);
     if (jvm.enter(true, "GetIntArrayElements")) {
       jvm.throwNew(kNoMemory);
       return nullptr;
     }
-    const auto& source = std::get<std::vector<jint>>(jvm.heap.resolve(array)->payload);
+    Object* const held = jvm.heap.resolve(array);
+    jvm.costs(held, "GetIntArrayElements");
+    const auto& source = std::get<std::vector<jint>>(held->payload);
     auto* const copy = new jint[source.size()];
     std::copy(source.begin(), source.end(), copy);
     ++jvm.unreleased;
     return copy;
   }
   static void JNICALL releaseIntElements(JNIEnv* env, jintArray array, jint* elements, jint) {
+    noteStack(env);
     JniTable& jvm = tableOf(env);
     jvm.enter(false, "ReleaseIntArrayElements");
     auto& target = std::get<std::vector<jint>>(jvm.heap.resolve(array)->payload);
@@ -339,29 +459,45 @@ struct Functions {
   static Object** element(JNIEnv* env, const char* call, jobjectArray array, jsize index) {
     JniTable& jvm = tableOf(env);
     const bool fails = jvm.enter(true, call);
-    auto& elements = *jvm.heap.resolve(array)->elements();
+    Object* const target = jvm.heap.resolve(array);
+    auto& elements = *target->elements();
     if (fails || index < 0 || static_cast<std::size_t>(index) >= elements.size()) {
       jvm.throwNew(kBounds);
       return nullptr;
     }
+    jvm.costs(target, call);
     return &elements[static_cast<std::size_t>(index)];
   }
   static jobject JNICALL getElement(JNIEnv* env, jobjectArray array, jsize index) {
+    noteStack(env);
     Object** const place = element(env, "GetObjectArrayElement", array, index);
-    return place == nullptr ? nullptr : tableOf(env).heap.refer(*place);
+    if (place == nullptr) {
+      return nullptr;
+    }
+    JniTable& jvm = tableOf(env);
+    jvm.holds(jvm.heap.resolve(array), *place);
+    return jvm.heap.refer(*place);
   }
   static void JNICALL setElement(JNIEnv* env, jobjectArray array, jsize index, jobject value) {
+    noteStack(env);
     Object** const place = element(env, "SetObjectArrayElement", array, index);
-    if (place != nullptr) {
-      *place = value == nullptr ? nullptr : tableOf(env).heap.resolve(value);
+    if (place == nullptr || value == nullptr) {
+      if (place != nullptr) {
+        *place = nullptr;
+      }
+      return;
     }
+    JniTable& jvm = tableOf(env);
+    Object* const stored = jvm.heap.resolve(value);
+    jvm.holds(jvm.heap.resolve(array), stored);
+    *place = jvm.heap.keep(stored);
   }
 };
 
 }  // namespace
 
 void JniTable::throwNew(const std::string& className, const std::string& message) {
-  pending = heap.make(className.c_str(), message);
+  pending = Heap::hold(heap.make(className.c_str(), message));
 }
 
 JniTable::JniTable(const InputProfile& inputs)

@@ -2,6 +2,7 @@
 
 #include <jni.h>
 
+#include <cstdint>
 #include <map>
 #include <memory>
 #include <string>
@@ -25,6 +26,17 @@ struct JniTable {
   bool enter(bool fallible, const char* call, const Detail&... detail);
   void throwNew(const std::string& className, const std::string& message = "");
 
+  // While recording, each call that can fail is put down to the field that it is made for. What
+  // makes a value is put down when a field holds the value.
+
+  void costs(Member& field, const char* call, int depth = 0);
+  void costs(Object* object, const char* call);
+  void costsWhatIsMadeNext(const char* call);
+  /// An object that this call made.
+  Object* made(Object* object, const char* call);
+  void holds(Member& field, int depth, Object* value);
+  void holds(Object* array, Object* value);
+
   struct Env {
     JNIEnv env;
     JniTable* table;
@@ -40,10 +52,15 @@ struct JniTable {
   /// Characters and elements that native code holds.
   int unreleased = 0;
   int failingCall = 0;
+  const char* failedFunction = "";
   int fallibleCalls = 0;
   int calls = 0;
-  /// Those that JNI does not allow while an exception is pending, as one was.
-  int callsWhilePending = 0;
+  /// Those that JNI forbids while an exception is pending, as one was.
+  int callsUnderException = 0;
+  bool recording = false;
+  CallList unclaimed;
+  /// The frame of the deepest JNI function that native code called.
+  const char* deepestFrame = reinterpret_cast<const char*>(UINTPTR_MAX);
 };
 
 }  // namespace quorvelj::testing::mini
