@@ -346,10 +346,10 @@ std::vector<std::string> callsFor(const Field& field, bool built) {
   std::vector<std::string> calls{"GetFieldID", built ? "SetObjectField" : "GetObjectField"};
   std::string within;
   for (int array = isObject ? 0 : 1; array < field.rank; ++array, within += "[]") {
-    for (const char* const call :
-         built ? std::initializer_list<const char*>{"FindClass", "NewObjectArray",
-                                                    "SetObjectArrayElement"}
-               : std::initializer_list<const char*>{"GetObjectArrayElement"}) {
+    const std::vector<std::string> ofArray =
+        built ? std::vector<std::string>{"FindClass", "NewObjectArray", "SetObjectArrayElement"}
+              : std::vector<std::string>{"GetObjectArrayElement"};
+    for (const std::string& call : ofArray) {
       calls.push_back(call + within);
     }
   }
