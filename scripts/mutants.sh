@@ -187,7 +187,7 @@ while IFS=$'\t' read -r name file why; do
   table plant "$name" 2>/dev/null || true
   if ! make_targets mini_jvm_tests || { run_tests "$file" && [ "$seen" = compiler ]; }; then
     by_compiler=$((by_compiler + 1))
-    seen="the compiler: $(grep -m 1 -oE '(error|FAILED): .*' "$log")"
+    seen="the compiler: $(grep -m 1 -oE 'error: .*' "$log" || grep -m 1 FAILED "$log")"
   elif [ -n "$seen" ]; then
     by_tests=$((by_tests + 1))
   else
