@@ -161,7 +161,10 @@ class Argument<const Record*> {
     record_ = quorvelj::allocate<Record>();
     return record_ != nullptr;
   }
-  int read(JNIEnv* env) { return quorvelj::read(env, ClassOf<Record>::kMap, object_, record_); }
+  /// A null object leaves the record as it is.
+  int read(JNIEnv* env) {
+    return object_ == nullptr ? kOk : quorvelj::read(env, ClassOf<Record>::kMap, object_, record_);
+  }
   void release() { releaseRecord(record_); }
   const Record* get() { return record_; }
 
