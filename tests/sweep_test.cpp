@@ -131,6 +131,8 @@ Outcome play(const NativeMethod& method, const Fault& fault) {
   outcome.libraryCalls = quorvelSimCallCount("*");
   outcome.newReferences = jvm.liveReferences() - references;
 
+  quorvelSimObserve(nullptr);
+  playing = nullptr;
   const char* const deepest = std::min(jvm.deepestFrame(), libraryFrame);
   const std::ptrdiff_t stack = deepest == kNoFrame ? 0 : callersFrame - deepest;
   if (stack > totals.stack) {
