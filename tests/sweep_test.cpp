@@ -221,15 +221,14 @@ bool isText(const Bytes& input) {
                      [](unsigned char byte) { return byte == 0; });
 }
 
-/// What the library was given last, parameter by parameter.
-std::vector<Bytes> inputsOf(const std::string& function) {
-  constexpr int kMostParameters = 10;
-  std::vector<Bytes> inputs;
-  for (int index = 0; index < kMostParameters; ++index) {
-    Bytes& bytes = inputs.emplace_back(quorvelSimLastInput(function.c_str(), index, nullptr, 0));
-    quorvelSimLastInput(function.c_str(), index, bytes.data(), bytes.size());
+/// What the library was given last, parameter by parameter, into `inputs`, whose memory is kept.
+void takeInputs(const std::string& function, std::vector<Bytes>& inputs) {
+  constexpr std::size_t kMostParameters = 10;
+  inputs.resize(kMostParameters);
+  for (int index = 0; Bytes & bytes : inputs) {
+    bytes.resize(quorvelSimLastInput(function.c_str(), index, nullptr, 0));
+    quorvelSimLastInput(function.c_str(), index++, bytes.data(), bytes.size());
   }
-  return inputs;
 }
 
 /// The library's parameters that are the texts of a method.
@@ -270,10 +269,10 @@ void expectUnreadBehindFault(const Bytes& input, const Bytes& whole, const Bytes
 class Inputs {
  public:
   Inputs(const NativeMethod& method, const Outcome& faultlessOutcome)
-      : texts_(textParameters(method)),
-        whole_(inputsOf(faultlessOutcome.function)),
-        earlier_(whole_.size()),
-        fresh_(whole_.size(), departureOf(method).nullOfZeros ? 0 : kUnread) {
+      : texts_(textParameters(method)) {
+    takeInputs(faultlessOutcome.function, whole_);
+    earlier_.resize(whole_.size());
+    fresh_.resize(whole_.size(), departureOf(method).nullOfZeros ? 0 : kUnread);
     // What lies on the stack begins as zeros, like the array of this argument.
     const std::vector<std::string> types = method.argumentTypes();
     const auto array = std::find(types.begin(), types.end(), "[B");
@@ -284,10 +283,10 @@ class Inputs {
 
   /// After a fault in a call before the library's. The texts are what a method asks for first.
   void expectAfterFault(int jniCall, const Outcome& outcome) {
-    std::vector<Bytes> inputs = inputsOf(outcome.function);
+    takeInputs(outcome.function, inputs_);
     const auto failedText = static_cast<std::size_t>(jniCall - 1);
     for (std::size_t text = 0; text < texts_.size(); ++text) {
-      Bytes& input = inputs[texts_[text]];
+      Bytes& input = inputs_[texts_[text]];
       EXPECT_STREQ(reinterpret_cast<const char*>(input.data()),
                    text == failedText ? "" : InputProfile{}.text.c_str());
       input = whole_[texts_[text]];
@@ -295,15 +294,15 @@ class Inputs {
     if (failedText < texts_.size() || isPassedOver(outcome.failedFunction)) {
       return;
     }
-    EXPECT_TRUE(isLater_ || inputs != whole_) << "all was read";
-    for (std::size_t index = 0; index < inputs.size(); ++index) {
+    EXPECT_TRUE(isLater_ || inputs_ != whole_) << "all was read";
+    for (std::size_t index = 0; index < inputs_.size(); ++index) {
       SCOPED_TRACE("parameter " + std::to_string(index));
-      if (isText(whole_[index]) && inputs[index][0] == '\0') {
+      if (isText(whole_[index]) && inputs_[index][0] == '\0') {
         continue;  // A name that a request holds: the library gets it by itself.
       }
-      expectUnreadBehindFault(inputs[index], whole_[index], earlier_[index], fresh_[index]);
+      expectUnreadBehindFault(inputs_[index], whole_[index], earlier_[index], fresh_[index]);
     }
-    earlier_ = std::move(inputs);
+    std::swap(earlier_, inputs_);
     isLater_ = true;
   }
 
@@ -311,6 +310,7 @@ class Inputs {
   std::vector<std::size_t> texts_;
   std::vector<Bytes> whole_;
   std::vector<Bytes> earlier_;
+  std::vector<Bytes> inputs_;
   Bytes fresh_;
   bool isLater_ = false;
 };

@@ -195,7 +195,7 @@ class Heap {
 
   void recycle(Object* object);
 
-  static constexpr std::size_t kRecent = 1024;
+  static constexpr std::size_t kRecent = 4096;
   std::map<std::string, std::unique_ptr<Class>> classes_;
   std::array<Class*, kRecent> recentClasses_{};
   std::array<Member*, kRecent> recentMembers_{};

@@ -35,10 +35,10 @@ Object* makeInput(Heap& heap, const InputProfile& profile, const std::string& si
     return Heap::hold(heap.makeArray("[S", profile.primitives, jshort{1234}));
   }
   if (signature[0] == '[') {
-    std::vector<Object*> elements(lengthOf(profile, signature));
-    std::generate(elements.begin(), elements.end(),
-                  [&] { return makeInput(heap, profile, signature.substr(1)); });
-    return Heap::hold(heap.make(signature.c_str(), std::move(elements)));
+    // The same element in every place: to make each of a table's rows would take most of the time.
+    const std::size_t length = lengthOf(profile, signature);
+    Object* const element = length == 0 ? nullptr : makeInput(heap, profile, signature.substr(1));
+    return Heap::hold(heap.makeArray(signature.c_str(), length, element));
   }
   const std::string name = signature.substr(1, signature.size() - 2);
   Object* const object = heap.make(heap.findClass(name.c_str()));
