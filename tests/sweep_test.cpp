@@ -70,13 +70,6 @@ struct Totals {
   std::set<std::string> methods;
 } totals;
 
-/// Leaves bytes on the stack where the next function has its buffers.
-[[gnu::noinline]] void dirtyStack() {
-  char stale[64 * 1024];
-  std::memset(stale, '?', sizeof stale);
-  asm volatile("" : : "r"(stale) : "memory");
-}
-
 const char* const kNoFrame = reinterpret_cast<const char*>(UINTPTR_MAX);
 
 /// What the simulator's observer looks at.

@@ -65,6 +65,12 @@ void resetTestRuntime(int refusedAllocation) {
   testRuntime() = {.refusedAllocation = refusedAllocation};
 }
 
+void dirtyStack() {
+  char stale[64 * 1024];
+  std::memset(stale, '?', sizeof stale);
+  asm volatile("" : : "r"(stale) : "memory");
+}
+
 }  // namespace quorvelj::testing
 
 namespace quorvelj {

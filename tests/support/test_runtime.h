@@ -28,4 +28,7 @@ TestRuntime& testRuntime();
 /// Begins anew, and frees the records that the calls before left behind.
 void resetTestRuntime(int refusedAllocation = 0);
 
+/// Leaves bytes on the stack where the next function has its buffers.
+void dirtyStack();
+
 }  // namespace quorvelj::testing

@@ -67,12 +67,6 @@ inline Events setInt(const std::string& name) {
          " I, SetIntField, ExceptionOccurred, DeleteLocalRef";
 }
 
-/// Leaves bytes where the next function has its buffers.
-[[gnu::noinline]] inline void dirtyStack() {
-  volatile char stale[64 * 1024];
-  std::fill(std::begin(stale), std::end(stale), '?');
-}
-
 inline void expectEvents(const Events& actual, const Events& expected) {
   EXPECT_EQ(actual, expected);
 }
