@@ -172,6 +172,7 @@ Call::~Call() { simulator().lock.unlock(); }
 
 }  // namespace quorvelsim
 
+using quorvelsim::Control;
 using quorvelsim::simulator;
 
 void quorvelSimReset() {
@@ -179,7 +180,9 @@ void quorvelSimReset() {
   simulator().state = {};
   for (auto& [function, control] : simulator().controls) {
     control.forgetInputs();
-    control = {.lastInputs = std::move(control.lastInputs)};
+    Control fresh;
+    fresh.lastInputs.swap(control.lastInputs);
+    control = std::move(fresh);
   }
   simulator().observer = nullptr;
 }
