@@ -50,41 +50,40 @@ struct OwnPasswordChange {
 };
 QUORVEL_RECORD(OwnPasswordChange, 771);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct AccountOptionInfo {
   std::int32_t password_min_length;
   std::int32_t session_timeout_used;
   std::int32_t session_timeout;
 };
 QUORVEL_RECORD(AccountOptionInfo, 12);
+QUORVEL_ASSUMED(AccountOptionInfo);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct AccountAdditionalInfo {
   std::int32_t keep_alive_time;
 };
 QUORVEL_RECORD(AccountAdditionalInfo, 4);
+QUORVEL_ASSUMED(AccountAdditionalInfo);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct AccountOption {
   AccountOptionInfo option_info;
   AccountAdditionalInfo additional_info;
 };
 QUORVEL_RECORD(AccountOption, 16);
+QUORVEL_ASSUMED(AccountOption);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct QVAccountRole {
   char role_name[257];
 };
 QUORVEL_RECORD(QVAccountRole, 257);
+QUORVEL_ASSUMED(QVAccountRole);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct QVAccountRoleInformation {
   std::int32_t role_valid_index;
   QVAccountRole role_info[32];
 };
 QUORVEL_RECORD(QVAccountRoleInformation, 8228);
+QUORVEL_ASSUMED(QVAccountRoleInformation);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct QVAccountBaseInfo {
   char user_id[257];
   std::int32_t set_passwd;
@@ -94,28 +93,29 @@ struct QVAccountBaseInfo {
   std::int32_t account_enable;
 };
 QUORVEL_RECORD(QVAccountBaseInfo, 536);
+QUORVEL_ASSUMED(QVAccountBaseInfo);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct QVAccountInfoList {
   QVAccountBaseInfo account_info[21];
   std::byte reserved[172];
 };
 QUORVEL_RECORD(QVAccountInfoList, 11428);
+QUORVEL_ASSUMED(QVAccountInfoList);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct OwnUserPermission {
   std::int32_t operation_auth[9];
   std::int32_t original_operation_auth[9];
   std::int32_t role;
 };
 QUORVEL_RECORD(OwnUserPermission, 76);
+QUORVEL_ASSUMED(OwnUserPermission);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct AccountBanner {
   std::int32_t warning_banner_display;
   char warning_banner[6000];
 };
 QUORVEL_RECORD(AccountBanner, 6004);
+QUORVEL_ASSUMED(AccountBanner);
 
 QUORVEL_API int QV_LoginQVAccount(const UnitName* unit, const LoginRequest* request,
                                   QVSessionInfo* session);

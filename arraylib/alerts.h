@@ -72,9 +72,9 @@ QUORVEL_API int QV_GetEmailInfo(EmailInfo* info);
 QUORVEL_API int QV_SetEmailInfo(const EmailInfo* info);
 QUORVEL_API int QV_AlertCheck(const UnitName* unit, const QVSessionInfo* session,
                               std::int32_t option, std::int32_t* alert);
-// Assumed layout: not confirmed by the library's own declarations. The arguments of QV_AlertCheck.
 QUORVEL_API int QV_AlertCheckEx(const UnitName* unit, const QVSessionInfo* session,
                                 std::int32_t option, AlertCheckEx* alert);
+QUORVEL_ASSUMED_FUNCTION(QV_AlertCheckEx);
 QUORVEL_API int QV_GetAlertInterval(std::int32_t* interval);
 QUORVEL_API int QV_SetAlertInterval(std::int32_t interval);
 QUORVEL_API int QV_GetAlertCheckUser(AlertCheckUser* user);
@@ -106,9 +106,9 @@ QUORVEL_API int QV_SaveSnmpConfig(const FilePath* pathA, const FilePath* pathB,
                                   const SnmpConfigInformation* config);
 QUORVEL_API int QV_SetSnmpConfigonMemory(const UnitName* unit, const QVSessionInfo* session,
                                          const SnmpConfigInformation* config);
-// Assumed layout: not confirmed by the library's own declarations. The paths are in Java's order.
 QUORVEL_API int QV_SetSnmpConfig(const UnitName* unit, const QVSessionInfo* session,
                                  const FilePath* first, const FilePath* second);
-// Assumed layout: not confirmed by the library's own declarations. The paths are in Java's order.
+QUORVEL_ASSUMED_FUNCTION(QV_SetSnmpConfig);
 QUORVEL_API int QV_SnmpConfigOutput(const UnitName* unit, const QVSessionInfo* session,
                                     const FilePath* first, const FilePath* second);
+QUORVEL_ASSUMED_FUNCTION(QV_SnmpConfigOutput);

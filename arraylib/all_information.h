@@ -13,95 +13,95 @@
 
 // Records of which only the size is known: what is inside is left alone.
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct PrefetchInformation {
   std::int32_t opaque[5];
 };
 QUORVEL_RECORD(PrefetchInformation, 20);
+QUORVEL_ASSUMED(PrefetchInformation);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct OnlineVerify {
   std::int32_t opaque[3];
 };
 QUORVEL_RECORD(OnlineVerify, 12);
+QUORVEL_ASSUMED(OnlineVerify);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct NowWZParameter {
   std::int32_t opaque[12];
 };
 QUORVEL_RECORD(NowWZParameter, 48);
+QUORVEL_ASSUMED(NowWZParameter);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct BootOption {
   std::int32_t opaque[14];
 };
 QUORVEL_RECORD(BootOption, 56);
+QUORVEL_ASSUMED(BootOption);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct OnlineSystemParam {
   std::int32_t opaque[21];
 };
 QUORVEL_RECORD(OnlineSystemParam, 84);
+QUORVEL_ASSUMED(OnlineSystemParam);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct OnlineTuningParam {
   std::int32_t opaque[525];
 };
 QUORVEL_RECORD(OnlineTuningParam, 2100);
+QUORVEL_ASSUMED(OnlineTuningParam);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct TuningParam {
   std::int32_t opaque[4];
 };
 QUORVEL_RECORD(TuningParam, 16);
+QUORVEL_ASSUMED(TuningParam);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct PrefetchTuning {
   std::int32_t opaque[57353];
 };
 QUORVEL_RECORD(PrefetchTuning, 229412);
+QUORVEL_ASSUMED(PrefetchTuning);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct CachePartition {
   std::int32_t opaque[903];
 };
 QUORVEL_RECORD(CachePartition, 3612);
+QUORVEL_ASSUMED(CachePartition);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct TimeZoneList {
   std::int32_t opaque[3301];
 };
 QUORVEL_RECORD(TimeZoneList, 13204);
+QUORVEL_ASSUMED(TimeZoneList);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct NASSystemLUAll {
   std::int32_t opaque[51];
 };
 QUORVEL_RECORD(NASSystemLUAll, 204);
+QUORVEL_ASSUMED(NASSystemLUAll);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct NASUserLUAll {
   std::int32_t opaque[8193];
 };
 QUORVEL_RECORD(NASUserLUAll, 32772);
+QUORVEL_ASSUMED(NASUserLUAll);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct NASOSStatusList {
   std::int32_t opaque[12];
 };
 QUORVEL_RECORD(NASOSStatusList, 48);
+QUORVEL_ASSUMED(NASOSStatusList);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct TurboLu {
   std::int32_t opaque[11];
 };
 QUORVEL_RECORD(TurboLu, 44);
+QUORVEL_ASSUMED(TurboLu);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct UnitPowerSavingInfo {
   std::int32_t opaque[187];
 };
 QUORVEL_RECORD(UnitPowerSavingInfo, 748);
+QUORVEL_ASSUMED(UnitPowerSavingInfo);
 
 struct ArrayAllInformation {
   UnitCondition unit_conditions[2];
@@ -258,7 +258,6 @@ QUORVEL_OFFSET(ArrayAllInformation, cfg, 76038748);
 QUORVEL_OFFSET(ArrayAllInformation, ctrl_condition, 76038752);
 QUORVEL_OFFSET(ArrayAllInformation, last_lu, 76038760);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct ArrayAllInfo_Base {
   std::int32_t valid_index;
   UnitCondition unit_conditions[2];
@@ -284,8 +283,8 @@ struct ArrayAllInfo_Base {
   std::int32_t connectedCTL;
 };
 QUORVEL_RECORD(ArrayAllInfo_Base, 1552072);
+QUORVEL_ASSUMED(ArrayAllInfo_Base);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct ArrayAllInfo_BaseAdditional {
   std::int32_t valid_index;
   HGParameterID hgparamid[2];
@@ -295,16 +294,16 @@ struct ArrayAllInfo_BaseAdditional {
   LuMappingPortAssignInfo lumap_lun;
 };
 QUORVEL_RECORD(ArrayAllInfo_BaseAdditional, 98804);
+QUORVEL_ASSUMED(ArrayAllInfo_BaseAdditional);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct ArrayAllInfo_HG {
   std::int32_t valid_index;
   HGList hg;
   WWNHGInformation wwnhg;
 };
 QUORVEL_RECORD(ArrayAllInfo_HG, 225436);
+QUORVEL_ASSUMED(ArrayAllInfo_HG);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct ArrayAllInfo_iSCSI {
   std::int32_t valid_index;
   QViSCSIPortInformation iscsi_port;
@@ -315,16 +314,16 @@ struct ArrayAllInfo_iSCSI {
   QViSNSInformation isns;
 };
 QUORVEL_RECORD(ArrayAllInfo_iSCSI, 7204432);
+QUORVEL_ASSUMED(ArrayAllInfo_iSCSI);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct ArrayAllInfo_Mapping {
   std::int32_t valid_index;
   MappingGuardList mapguard;
   LuMapping lumap;
 };
 QUORVEL_RECORD(ArrayAllInfo_Mapping, 33431696);
+QUORVEL_ASSUMED(ArrayAllInfo_Mapping);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct ArrayAllInfo_Host {
   std::int32_t valid_index;
   HGOption hgopt;
@@ -332,8 +331,8 @@ struct ArrayAllInfo_Host {
   HGParameterList2 hgparamlist2;
 };
 QUORVEL_RECORD(ArrayAllInfo_Host, 176692);
+QUORVEL_ASSUMED(ArrayAllInfo_Host);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct ArrayAllInfo_Config {
   std::int32_t valid_index;
   FibreInformation fibre_info[2];
@@ -352,8 +351,8 @@ struct ArrayAllInfo_Config {
   std::byte reserved[4];
 };
 QUORVEL_RECORD(ArrayAllInfo_Config, 627648);
+QUORVEL_ASSUMED(ArrayAllInfo_Config);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct ArrayAllInfo_PP {
   std::int32_t valid_index;
   TurboLu turbo_lu;
@@ -369,8 +368,8 @@ struct ArrayAllInfo_PP {
   UnitPowerSavingInfo unit_powersaving;
 };
 QUORVEL_RECORD(ArrayAllInfo_PP, 699924);
+QUORVEL_ASSUMED(ArrayAllInfo_PP);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct ArrayAllInfo_Replication {
   std::int32_t valid_index;
   PoolInfo pool_info;
@@ -385,8 +384,8 @@ struct ArrayAllInfo_Replication {
   QViSCSIRemotePathInfo iscsi_rmt;
 };
 QUORVEL_RECORD(ArrayAllInfo_Replication, 30774116);
+QUORVEL_ASSUMED(ArrayAllInfo_Replication);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct ArrayAllInfo_Tuning {
   std::int32_t valid_index;
   OnlineTuningParam on_tuning;
@@ -394,6 +393,7 @@ struct ArrayAllInfo_Tuning {
   LuOwnership luowner;
 };
 QUORVEL_RECORD(ArrayAllInfo_Tuning, 460896);
+QUORVEL_ASSUMED(ArrayAllInfo_Tuning);
 
 QUORVEL_API int QV_GetAllInformation(const UnitName* unit, const QVSessionInfo* session,
                                      ArrayAllInformation* information);

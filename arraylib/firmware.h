@@ -45,12 +45,12 @@ struct NNCBiosRevision {
 };
 QUORVEL_RECORD(NNCBiosRevision, 9);
 
-// Assumed layout: not confirmed by the library's own declarations. The name `nnc_revision` only.
 struct NNCBiosRevisionList {
   std::int32_t mount[4];
   NNCBiosRevision nnc_revision[4];
 };
 QUORVEL_RECORD(NNCBiosRevisionList, 52);
+QUORVEL_ASSUMED(NNCBiosRevisionList, nnc_revision);
 
 struct NNCBiosDownloadStatus {
   std::int32_t downloadStatus;
@@ -68,7 +68,6 @@ struct NNCUpgradeStatusList {
 };
 QUORVEL_RECORD(NNCUpgradeStatusList, 16);
 
-// Assumed layout: not confirmed by the library's own declarations.
 /// The text buffer for the revision of a firmware file.
 using MicroRevisionText = char[64];
 
@@ -111,7 +110,9 @@ QUORVEL_API int QV_CompleteMicroReplace(const UnitName* unit, const QVSessionInf
                                         std::int32_t option);
 QUORVEL_API int QV_GetMicroFileInformation(MicroFileInformation* information);
 QUORVEL_API int QV_GetNewMicroRevision(MicroRevisionText* revision);
+QUORVEL_ASSUMED_FUNCTION(QV_GetNewMicroRevision);
 QUORVEL_API int QV_GetNewMicroRevision2(const FilePath* path, MicroRevisionText* revision);
+QUORVEL_ASSUMED_FUNCTION(QV_GetNewMicroRevision2);
 
 // Firmware of the enclosures
 
@@ -120,17 +121,17 @@ QUORVEL_API int QV_ENCMicroFileConcat(const UnitName* unit, const QVSessionInfo*
 QUORVEL_API int QV_ENCMicroFileConcatEx(const UnitName* unit, const QVSessionInfo* session,
                                         const FilePath* path, std::int32_t option);
 QUORVEL_API int QV_CancelENCMicroFileConcat();
-// Assumed layout: not confirmed by the library's own declarations. The method returns `number`.
 QUORVEL_API int QV_ENCMicroDownload(const UnitName* unit, const QVSessionInfo* session,
                                     std::int32_t option1, std::int32_t option2,
                                     std::int32_t* number);
+QUORVEL_ASSUMED_FUNCTION(QV_ENCMicroDownload);
 QUORVEL_API int QV_GetENCMicroDownloadCount(const UnitName* unit, const QVSessionInfo* session,
                                             std::int32_t* count);
 QUORVEL_API int QV_ENCMicroReplace(const UnitName* unit, const QVSessionInfo* session,
                                    std::int32_t option);
-// Assumed layout: not confirmed by the library's own declarations. The 4-byte record is an int.
 QUORVEL_API int QV_ENCMicroReplaceEx(const UnitName* unit, const QVSessionInfo* session,
                                      std::int32_t option, const std::int32_t* record);
+QUORVEL_ASSUMED_FUNCTION(QV_ENCMicroReplaceEx);
 QUORVEL_API int QV_GetENCMicroInformation(ENCMicroInformation* information);
 QUORVEL_API int QV_GetENCMicroInformationEx(const UnitName* unit, const QVSessionInfo* session,
                                             ENCMicroInformation* information);

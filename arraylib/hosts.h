@@ -43,44 +43,44 @@ QUORVEL_RECORD(HGList, 69649);
 QUORVEL_OFFSET(HGList, ctl, 1);
 
 /// The host groups of a port to delete.
-// Assumed layout: not confirmed by the library's own declarations.
 struct DeleteHGPortList {
   std::byte hg[64];
 };
 QUORVEL_RECORD(DeleteHGPortList, 64);
+QUORVEL_ASSUMED(DeleteHGPortList);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct DeleteHGCtlList {
   DeleteHGPortList port[8];
 };
 QUORVEL_RECORD(DeleteHGCtlList, 512);
+QUORVEL_ASSUMED(DeleteHGCtlList);
 
 /// The host groups to delete.
-// Assumed layout: not confirmed by the library's own declarations.
 struct DeleteHGList {
   DeleteHGCtlList ctl[2];
 };
 QUORVEL_RECORD(DeleteHGList, 1024);
+QUORVEL_ASSUMED(DeleteHGList);
 
 /// The host groups of a port to set back.
-// Assumed layout: not confirmed by the library's own declarations.
 struct InitHGPortList {
   std::byte hg[64];
 };
 QUORVEL_RECORD(InitHGPortList, 64);
+QUORVEL_ASSUMED(InitHGPortList);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct InitHGCtlList {
   InitHGPortList port[8];
 };
 QUORVEL_RECORD(InitHGCtlList, 512);
+QUORVEL_ASSUMED(InitHGCtlList);
 
 /// The host groups to set back.
-// Assumed layout: not confirmed by the library's own declarations.
 struct InitHGList {
   InitHGCtlList ctl[2];
 };
 QUORVEL_RECORD(InitHGList, 1024);
+QUORVEL_ASSUMED(InitHGList);
 
 /// What is mapped to a host group or target.
 struct LuMappingHGInfo {
@@ -121,18 +121,18 @@ QUORVEL_RECORD(LuMappingPortList, 2088976);
 QUORVEL_OFFSET(LuMappingPortList, port, 8);
 
 /// The controllers that a request asks of.
-// Assumed layout: not confirmed by the library's own declarations.
 struct ControllerRequest {
   std::int32_t requestCTL;
 };
 QUORVEL_RECORD(ControllerRequest, 4);
+QUORVEL_ASSUMED(ControllerRequest);
 
 /// The ports through which each LU is mapped.
-// Assumed layout: not confirmed by the library's own declarations.
 struct LuMappingPortAssignInfo {
   std::int32_t lu_assign[8192][2];
 };
 QUORVEL_RECORD(LuMappingPortAssignInfo, 65536);
+QUORVEL_ASSUMED(LuMappingPortAssignInfo);
 
 /// The mapping guard, a byte an LU.
 struct MappingGuardList {
@@ -140,14 +140,13 @@ struct MappingGuardList {
 };
 QUORVEL_RECORD(MappingGuardList, 8192);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct HGOptionValidIndex {
   std::byte reserved[80];
 };
 QUORVEL_RECORD(HGOptionValidIndex, 80);
+QUORVEL_ASSUMED(HGOptionValidIndex);
 
 /// The options of a host group.
-// Assumed layout: not confirmed by the library's own declarations.
 struct HGOptionInfo {
   std::int32_t option;
   std::int32_t option2;
@@ -160,21 +159,21 @@ struct HGOptionInfo {
   std::byte reserved[4];
 };
 QUORVEL_RECORD(HGOptionInfo, 36);
+QUORVEL_ASSUMED(HGOptionInfo);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct HGOptionPortInfo {
   HGOptionInfo hg[255];
 };
 QUORVEL_RECORD(HGOptionPortInfo, 9180);
+QUORVEL_ASSUMED(HGOptionPortInfo);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct HGOptionCtlInfo {
   HGOptionPortInfo port[8];
 };
 QUORVEL_RECORD(HGOptionCtlInfo, 73440);
+QUORVEL_ASSUMED(HGOptionCtlInfo);
 
 /// The options of all host groups.
-// Assumed layout: not confirmed by the library's own declarations.
 struct HGOption {
   HGOptionValidIndex support_index;
   HGOptionValidIndex valid_index;
@@ -182,44 +181,44 @@ struct HGOption {
   HGOptionCtlInfo ctl[2];
 };
 QUORVEL_RECORD(HGOption, 147044);
+QUORVEL_ASSUMED(HGOption);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct PortOptionValidIndex {
   std::byte reserved[8];
 };
 QUORVEL_RECORD(PortOptionValidIndex, 8);
+QUORVEL_ASSUMED(PortOptionValidIndex);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct PortOptionCtlInfo {
   std::int32_t lip_mode[8];
   std::int32_t port_common_opt[8];
 };
 QUORVEL_RECORD(PortOptionCtlInfo, 64);
+QUORVEL_ASSUMED(PortOptionCtlInfo);
 
 /// The options of all ports.
-// Assumed layout: not confirmed by the library's own declarations.
 struct PortOption {
   PortOptionValidIndex support_index;
   PortOptionValidIndex valid_index;
   PortOptionCtlInfo ctl[2];
 };
 QUORVEL_RECORD(PortOption, 144);
+QUORVEL_ASSUMED(PortOption);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct PlatformInfo {
   std::byte reserved[16188];
 };
 QUORVEL_RECORD(PlatformInfo, 16188);
+QUORVEL_ASSUMED(PlatformInfo);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct SpecialmodeInfo {
   std::int32_t specialmode_id;
   HGOptionInfo hgoptinfo;
 };
 QUORVEL_RECORD(SpecialmodeInfo, 40);
+QUORVEL_ASSUMED(SpecialmodeInfo);
 
 /// The host group parameters that there are to choose from.
-// Assumed layout: not confirmed by the library's own declarations.
 struct HGParameterList {
   std::int32_t platform_count;
   PlatformInfo platinfo[20];
@@ -227,63 +226,63 @@ struct HGParameterList {
   SpecialmodeInfo specialinfo[20];
 };
 QUORVEL_RECORD(HGParameterList, 324568);
+QUORVEL_ASSUMED(HGParameterList);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct MiddlewareInfo {
   std::byte reserved[40];
 };
 QUORVEL_RECORD(MiddlewareInfo, 40);
+QUORVEL_ASSUMED(MiddlewareInfo);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct PlatformInfo2 {
   std::int32_t platform_id;
   std::int32_t middleware_count;
   MiddlewareInfo middlewareinfo[20];
 };
 QUORVEL_RECORD(PlatformInfo2, 808);
+QUORVEL_ASSUMED(PlatformInfo2);
 
 /// The same in the second form, with middleware.
-// Assumed layout: not confirmed by the library's own declarations.
 struct HGParameterList2 {
   std::int32_t platform_count;
   PlatformInfo2 platinfo[20];
 };
 QUORVEL_RECORD(HGParameterList2, 16164);
+QUORVEL_ASSUMED(HGParameterList2);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct PlatFormID {
   std::byte reserved[84];
 };
 QUORVEL_RECORD(PlatFormID, 84);
+QUORVEL_ASSUMED(PlatFormID);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct AlternatePathID {
   std::byte reserved[84];
 };
 QUORVEL_RECORD(AlternatePathID, 84);
+QUORVEL_ASSUMED(AlternatePathID);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct FailOverID {
   std::byte reserved[84];
 };
 QUORVEL_RECORD(FailOverID, 84);
+QUORVEL_ASSUMED(FailOverID);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct SpecialModeID {
   std::byte reserved[84];
 };
 QUORVEL_RECORD(SpecialModeID, 84);
+QUORVEL_ASSUMED(SpecialModeID);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct MiddlewareID {
   std::int32_t middleware_id;
   char middleware_name[40];
   char middleware_name_str[40];
 };
 QUORVEL_RECORD(MiddlewareID, 84);
+QUORVEL_ASSUMED(MiddlewareID);
 
 /// The identifiers of the host group parameters.
-// Assumed layout: not confirmed by the library's own declarations.
 struct HGParameterID {
   std::int32_t plat_id_count;
   PlatFormID platform[16];
@@ -297,83 +296,84 @@ struct HGParameterID {
   MiddlewareID middleware[16];
 };
 QUORVEL_RECORD(HGParameterID, 6740);
+QUORVEL_ASSUMED(HGParameterID);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct WWNPortInfo {
   std::byte reserved[18566];
 };
 QUORVEL_RECORD(WWNPortInfo, 18566);
+QUORVEL_ASSUMED(WWNPortInfo);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct WWNCtlInfo {
   WWNPortInfo port[8];
 };
 QUORVEL_RECORD(WWNCtlInfo, 148528);
+QUORVEL_ASSUMED(WWNCtlInfo);
 
 /// The hosts known at the ports.
-// Assumed layout: not confirmed by the library's own declarations.
 struct WWNInformation {
   std::int32_t lun_security_opt;
   WWNCtlInfo ctl[2];
 };
 QUORVEL_RECORD(WWNInformation, 297060);
+QUORVEL_ASSUMED(WWNInformation);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct WWNHGPortInfo {
   std::byte reserved[9736];
 };
 QUORVEL_RECORD(WWNHGPortInfo, 9736);
+QUORVEL_ASSUMED(WWNHGPortInfo);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct WWNHGCtlInfo {
   WWNHGPortInfo port[8];
 };
 QUORVEL_RECORD(WWNHGCtlInfo, 77888);
+QUORVEL_ASSUMED(WWNHGCtlInfo);
 
 /// The hosts of the host groups.
-// Assumed layout: not confirmed by the library's own declarations.
 struct WWNHGInformation {
   std::int32_t lun_manage;
   WWNHGCtlInfo ctl[2];
 };
 QUORVEL_RECORD(WWNHGInformation, 155780);
+QUORVEL_ASSUMED(WWNHGInformation);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct TargetLunList {
   std::byte reserved[512];
 };
 QUORVEL_RECORD(TargetLunList, 512);
+QUORVEL_ASSUMED(TargetLunList);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct TargetConfig {
   std::int32_t single;
   std::int32_t multi[16];
   TargetLunList mapping[16];
 };
 QUORVEL_RECORD(TargetConfig, 8260);
+QUORVEL_ASSUMED(TargetConfig);
 
 /// The target IDs of a controller.
-// Assumed layout: not confirmed by the library's own declarations.
 struct TargetId {
   std::int32_t ctrl_flag;
   std::int32_t target_id_mode;
   TargetConfig target_config;
 };
 QUORVEL_RECORD(TargetId, 8268);
+QUORVEL_ASSUMED(TargetId);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct WZTargetConfig {
   std::byte reserved[8260];
 };
 QUORVEL_RECORD(WZTargetConfig, 8260);
+QUORVEL_ASSUMED(WZTargetConfig);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct WZTargetId {
   std::int32_t ctrl_flag;
   std::int32_t target_id_mode;
   WZTargetConfig target_config;
 };
 QUORVEL_RECORD(WZTargetId, 8268);
+QUORVEL_ASSUMED(WZTargetId);
 
 // Where a port or a host group is named, the ints are the controller, the port of it and the group
 // of that, as many as are needed: also an assumption.
@@ -478,11 +478,11 @@ struct QViSCSIPortCTLInfo {
 };
 QUORVEL_RECORD(QViSCSIPortCTLInfo, 1344);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct QViSCSIPortInformation {
   QViSCSIPortCTLInfo ctl[2];
 };
 QUORVEL_RECORD(QViSCSIPortInformation, 2688);
+QUORVEL_ASSUMED(QViSCSIPortInformation);
 
 /// A target and how it authenticates.
 struct QViSCSITargetInfo {
@@ -515,19 +515,19 @@ struct QViSCSITargetCTLInfo {
 };
 QUORVEL_RECORD(QViSCSITargetCTLInfo, 1158848);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct QViSCSITargetInformationAll {
   std::int32_t option;
   QViSCSITargetCTLInfo ctl[2];
 };
 QUORVEL_RECORD(QViSCSITargetInformationAll, 2317700);
+QUORVEL_ASSUMED(QViSCSITargetInformationAll);
 
 /// Which targets of a port to delete: a word for each.
-// Assumed layout: not confirmed by the library's own declarations.
 struct DeleteTargetList {
   std::int32_t target[255];
 };
 QUORVEL_RECORD(DeleteTargetList, 1020);
+QUORVEL_ASSUMED(DeleteTargetList);
 
 /// A registered initiator and the targets that it may use, a bit for each.
 struct QViSCSIInitiatorInfo {
@@ -550,18 +550,18 @@ struct QViSCSIInitiatorPortInfo {
 };
 QUORVEL_RECORD(QViSCSIInitiatorPortInfo, 76816);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct QViSCSIInitiatorCTLInfo {
   QViSCSIInitiatorPortInfo port[8];
 };
 QUORVEL_RECORD(QViSCSIInitiatorCTLInfo, 614528);
+QUORVEL_ASSUMED(QViSCSIInitiatorCTLInfo);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct QViSCSIInitiatorInformationAll {
   std::int32_t option;
   QViSCSIInitiatorCTLInfo ctl[2];
 };
 QUORVEL_RECORD(QViSCSIInitiatorInformationAll, 1229060);
+QUORVEL_ASSUMED(QViSCSIInitiatorInformationAll);
 
 struct QViSCSIInitiatorPortInformation {
   std::int32_t option;
@@ -584,17 +584,17 @@ struct QViSCSILoginInitiatorPortInfo {
 };
 QUORVEL_RECORD(QViSCSILoginInitiatorPortInfo, 58380);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct QViSCSILoginInitiatorCTLInfo {
   QViSCSILoginInitiatorPortInfo port[8];
 };
 QUORVEL_RECORD(QViSCSILoginInitiatorCTLInfo, 467040);
+QUORVEL_ASSUMED(QViSCSILoginInitiatorCTLInfo);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct QViSCSILoginInitiatorInformationAll {
   QViSCSILoginInitiatorCTLInfo ctl[2];
 };
 QUORVEL_RECORD(QViSCSILoginInitiatorInformationAll, 934080);
+QUORVEL_ASSUMED(QViSCSILoginInitiatorInformationAll);
 
 /// A CHAP user and the targets that it may use, a bit for each.
 struct QViSCSICHAPUserInfo {
@@ -617,18 +617,18 @@ struct QViSCSICHAPUserPortInfo {
 };
 QUORVEL_RECORD(QViSCSICHAPUserPortInfo, 170000);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct QViSCSICHAPUserCTLInfo {
   QViSCSICHAPUserPortInfo port[8];
 };
 QUORVEL_RECORD(QViSCSICHAPUserCTLInfo, 1360000);
+QUORVEL_ASSUMED(QViSCSICHAPUserCTLInfo);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct QViSCSICHAPUserInformationAll {
   std::int32_t option;
   QViSCSICHAPUserCTLInfo ctl[2];
 };
 QUORVEL_RECORD(QViSCSICHAPUserInformationAll, 2720004);
+QUORVEL_ASSUMED(QViSCSICHAPUserInformationAll);
 
 struct QViSCSICHAPUserPortInformation {
   std::int32_t option;
@@ -646,17 +646,17 @@ struct QViSNSPortInfo {
 };
 QUORVEL_RECORD(QViSNSPortInfo, 56);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct QViSNSCTLInfo {
   QViSNSPortInfo port[8];
 };
 QUORVEL_RECORD(QViSNSCTLInfo, 448);
+QUORVEL_ASSUMED(QViSNSCTLInfo);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct QViSNSInformation {
   QViSNSCTLInfo ctl[2];
 };
 QUORVEL_RECORD(QViSNSInformation, 896);
+QUORVEL_ASSUMED(QViSNSInformation);
 
 /// A ping from one port, and how far it came.
 struct QViSCSIPingPort {
@@ -670,32 +670,32 @@ struct QViSCSIPingPort {
 };
 QUORVEL_RECORD(QViSCSIPingPort, 64);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct QViSCSIPingCTL {
   QViSCSIPingPort port[8];
 };
 QUORVEL_RECORD(QViSCSIPingCTL, 512);
+QUORVEL_ASSUMED(QViSCSIPingCTL);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct QViSCSIPing {
   QViSCSIPingCTL ctl[2];
 };
 QUORVEL_RECORD(QViSCSIPing, 1024);
+QUORVEL_ASSUMED(QViSCSIPing);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct QViSCSIRemotePathSecret {
   char secret[33];
 };
 QUORVEL_RECORD(QViSCSIRemotePathSecret, 33);
+QUORVEL_ASSUMED(QViSCSIRemotePathSecret);
 
 /// The paths to another array.
-// Assumed layout: not confirmed by the library's own declarations.
 struct QViSCSIRemotePath {
   std::int32_t path_valid;
   char other_serial_no[9];
   QViSCSIRemotePathSecret path[2];
 };
 QUORVEL_RECORD(QViSCSIRemotePath, 80);
+QUORVEL_ASSUMED(QViSCSIRemotePath);
 
 struct QViSCSIRemotePathInfo {
   QViSCSIRemotePath arrayunit[8];
@@ -714,10 +714,10 @@ QUORVEL_API int QV_CreateiSCSITarget(const UnitName* unit, const QVSessionInfo* 
 QUORVEL_API int QV_ChangeiSCSITarget(const UnitName* unit, const QVSessionInfo* session,
                                      std::int32_t controller, std::int32_t port,
                                      std::int32_t number, const QViSCSITargetInfo* target);
-// Assumed layout: not confirmed by the library's own declarations.
 QUORVEL_API int QV_DeleteiSCSITarget(const UnitName* unit, const QVSessionInfo* session,
                                      std::int32_t controller, std::int32_t port,
                                      const DeleteTargetList* targets);
+QUORVEL_ASSUMED_FUNCTION(QV_DeleteiSCSITarget);
 QUORVEL_API int QV_InitiSCSITarget(const UnitName* unit, const QVSessionInfo* session,
                                    std::int32_t controller, std::int32_t port);
 QUORVEL_API int QV_ChangeiSCSITargetSecurity(const UnitName* unit, const QVSessionInfo* session,
@@ -745,9 +745,9 @@ QUORVEL_API int QV_GetiSCSICHAPUserInformation(const UnitName* unit, const QVSes
 QUORVEL_API int QV_SetiSCSICHAPUserInformation(const UnitName* unit, const QVSessionInfo* session,
                                                std::int32_t controller, std::int32_t port,
                                                const QViSCSICHAPUserPortInfo* users);
-// Assumed layout: not confirmed by the library's own declarations.
 QUORVEL_API int QV_iSCSICHAPUserImport(const UnitName* unit, const QVSessionInfo* session,
                                        const FilePath* path);
+QUORVEL_ASSUMED_FUNCTION(QV_iSCSICHAPUserImport);
 QUORVEL_API int QV_GetiSNSInformation(const UnitName* unit, const QVSessionInfo* session,
                                       QViSNSInformation* servers);
 QUORVEL_API int QV_SetiSNSInformation(const UnitName* unit, const QVSessionInfo* session,
@@ -758,12 +758,12 @@ QUORVEL_API int QV_GetiSCSIPingStatus(const UnitName* unit, const QVSessionInfo*
                                       QViSCSIPing* status);
 QUORVEL_API int QV_GetiSCSIRemotePath(const UnitName* unit, const QVSessionInfo* session,
                                       QViSCSIRemotePathInfo* paths);
-// Assumed layout: not confirmed by the library's own declarations.
 QUORVEL_API int QV_SetiSCSIRemotePath(const UnitName* unit, const QVSessionInfo* session,
                                       const QViSCSIRemotePath* path);
-// Assumed layout: not confirmed by the library's own declarations.
+QUORVEL_ASSUMED_FUNCTION(QV_SetiSCSIRemotePath);
 QUORVEL_API int QV_DeliSCSIRemotePath(const UnitName* unit, const QVSessionInfo* session,
                                       const QViSCSIRemotePath* path);
+QUORVEL_ASSUMED_FUNCTION(QV_DeliSCSIRemotePath);
 
 // Fibre ports and LAN settings
 
@@ -813,15 +813,14 @@ struct LANPortNumberCtl {
 QUORVEL_RECORD(LANPortNumberCtl, 16);
 
 /// The management port numbers.
-// Assumed layout: not confirmed by the library's own declarations.
 struct LANPortNumber {
   LANPortNumberCtl ctl[2];
   std::int32_t logout_instruction;
   std::int32_t mode;
 };
 QUORVEL_RECORD(LANPortNumber, 40);
+QUORVEL_ASSUMED(LANPortNumber);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct QVUserLANDetail {
   std::int32_t support_index;
   std::int32_t valid_index;
@@ -842,9 +841,9 @@ struct QVUserLANDetail {
   std::byte reserved[92];
 };
 QUORVEL_RECORD(QVUserLANDetail, 496);
+QUORVEL_ASSUMED(QVUserLANDetail);
 
 /// The user LAN of both controllers.
-// Assumed layout: not confirmed by the library's own declarations.
 struct QVUserLANInformation {
   QVUserLANDetail ctl[2];
   std::int32_t mainte_ip_change_mode;
@@ -854,15 +853,16 @@ struct QVUserLANInformation {
   std::int32_t set_ipversion;
 };
 QUORVEL_RECORD(QVUserLANInformation, 1012);
+QUORVEL_ASSUMED(QVUserLANInformation);
 QUORVEL_OFFSET(QVUserLANInformation, mainte_ip_change_mode, 992);
 
 /// The file that LAN settings are written to or read from.
-// Assumed layout: not confirmed by the library's own declarations.
 struct LANFile {
   char filename[256];
   std::byte reserved[8];
 };
 QUORVEL_RECORD(LANFile, 264);
+QUORVEL_ASSUMED(LANFile);
 
 struct MainteLanInfoDetail {
   std::int32_t valid_index;
@@ -878,31 +878,30 @@ QUORVEL_RECORD(MainteLanInfoDetail, 212);
 QUORVEL_OFFSET(MainteLanInfoDetail, subnet_prefix, 164);
 
 /// The maintenance LAN of the controllers and of the network controllers.
-// Assumed layout: not confirmed by the library's own declarations.
 struct MainteLanInfo {
   MainteLanInfoDetail ctl[2];
   MainteLanInfoDetail nnc[4];
   std::byte reserved[48];
 };
 QUORVEL_RECORD(MainteLanInfo, 1320);
+QUORVEL_ASSUMED(MainteLanInfo);
 
 /// An address for the maintenance LAN.
-// Assumed layout: not confirmed by the library's own declarations.
 struct MainteIPAddress {
   std::int32_t set_ipversion;
   char ip_addr[40];
   std::int32_t logout_instruction;
 };
 QUORVEL_RECORD(MainteIPAddress, 48);
+QUORVEL_ASSUMED(MainteIPAddress);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct MainteHostAddress {
   std::int32_t host_address;
 };
 QUORVEL_RECORD(MainteHostAddress, 4);
+QUORVEL_ASSUMED(MainteHostAddress);
 
 /// Addresses that the maintenance LAN may be given.
-// Assumed layout: not confirmed by the library's own declarations.
 struct MainteLanAvailableList {
   std::int32_t available_count;
   MainteIPAddress available_address[5];
@@ -921,6 +920,7 @@ struct MainteLanAvailableList {
   std::byte reserved[8];
 };
 QUORVEL_RECORD(MainteLanAvailableList, 552);
+QUORVEL_ASSUMED(MainteLanAvailableList);
 
 struct NNCLANInformationDetail {
   std::int32_t valid_index;
@@ -934,7 +934,6 @@ QUORVEL_RECORD(NNCLANInformationDetail, 96);
 QUORVEL_OFFSET(NNCLANInformationDetail, mtu, 84);
 
 /// The LAN of the network controllers.
-// Assumed layout: not confirmed by the library's own declarations.
 struct NNCLANInformation {
   std::int8_t nnclaninfo_valid[4];
   std::int32_t set_valid;
@@ -942,14 +941,14 @@ struct NNCLANInformation {
   NNCLANInformationDetail set_nnclaninfo[4];
 };
 QUORVEL_RECORD(NNCLANInformation, 776);
+QUORVEL_ASSUMED(NNCLANInformation);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct FibreInformationConnector {
   std::int32_t topology_ref;
 };
 QUORVEL_RECORD(FibreInformationConnector, 4);
+QUORVEL_ASSUMED(FibreInformationConnector);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct FibreInformationPort {
   char node_name[17];
   char port_name[17];
@@ -964,9 +963,9 @@ struct FibreInformationPort {
   FibreInformationConnector connector[2];
 };
 QUORVEL_RECORD(FibreInformationPort, 80);
+QUORVEL_ASSUMED(FibreInformationPort);
 
 /// Firmware levels of a port's adapter.
-// Assumed layout: not confirmed by the library's own declarations.
 struct FibreInformationSfc {
   char biu[5];
   char sequence[5];
@@ -976,9 +975,9 @@ struct FibreInformationSfc {
   char fc_ph[5];
 };
 QUORVEL_RECORD(FibreInformationSfc, 30);
+QUORVEL_ASSUMED(FibreInformationSfc);
 
 /// A host that may use a port, and its logical units, a bit for each.
-// Assumed layout: not confirmed by the library's own declarations.
 struct FibreInformationPermission {
   char node_name[17];
   char port_name[17];
@@ -986,11 +985,11 @@ struct FibreInformationPermission {
   std::byte lun_security_bitmap[256];
 };
 QUORVEL_RECORD(FibreInformationPermission, 297);
+QUORVEL_ASSUMED(FibreInformationPermission);
 
 /// The permitted hosts of a port.
 using PermittedHosts = FibreInformationPermission[128];
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct FibreInformationSecurity {
   std::int32_t access_guard;
   std::int32_t all_lun_security;
@@ -999,9 +998,9 @@ struct FibreInformationSecurity {
   FibreInformationPermission permission[128];
 };
 QUORVEL_RECORD(FibreInformationSecurity, 38032);
+QUORVEL_ASSUMED(FibreInformationSecurity);
 
 /// The fibre ports of one controller.
-// Assumed layout: not confirmed by the library's own declarations.
 struct FibreInformation {
   std::int32_t lun_security;
   std::int32_t port_valid;
@@ -1014,30 +1013,31 @@ struct FibreInformation {
   char product_number[8];
 };
 QUORVEL_RECORD(FibreInformation, 305256);
+QUORVEL_ASSUMED(FibreInformation);
 QUORVEL_OFFSET(FibreInformation, product_number, 305248);
 
-// Assumed layout: not confirmed by the library's own declarations.
 QUORVEL_API int QV_GetLANInformation(const UnitName* unit, const QVSessionInfo* session,
                                      std::int32_t controller, LANInformation* information);
-// Assumed layout: not confirmed by the library's own declarations.
+QUORVEL_ASSUMED_FUNCTION(QV_GetLANInformation);
 QUORVEL_API int QV_SetLANInformation(const UnitName* unit, const QVSessionInfo* session,
                                      std::int32_t controller, std::int32_t port,
                                      const LANInformation* information);
+QUORVEL_ASSUMED_FUNCTION(QV_SetLANInformation);
 QUORVEL_API int QV_GetLANInformationEx(const UnitName* unit, LANInformationEx* information);
 QUORVEL_API int QV_SetLANInformationEx(const UnitName* unit, const LANInformationEx* information);
 QUORVEL_API int QV_GetLANPortNumber(const UnitName* unit, const QVSessionInfo* session,
                                     LANPortNumber* numbers);
-// Assumed layout: not confirmed by the library's own declarations.
 QUORVEL_API int QV_SetLANPortNumber(const UnitName* unit, const QVSessionInfo* session,
                                     std::int32_t controller, const LANPortNumber* numbers);
+QUORVEL_ASSUMED_FUNCTION(QV_SetLANPortNumber);
 QUORVEL_API int QV_GetQVUserLANInformation(const UnitName* unit, const QVSessionInfo* session,
                                            QVUserLANInformation* information);
 QUORVEL_API int QV_SetQVUserLANInformation(const UnitName* unit, const QVSessionInfo* session,
                                            const QVUserLANInformation* information);
-// Assumed layout: not confirmed by the library's own declarations.
 QUORVEL_API int QV_LoadQVUserLANInformation(const UnitName* unit, const QVSessionInfo* session,
                                             const FilePath* path,
                                             QVUserLANInformation* information);
+QUORVEL_ASSUMED_FUNCTION(QV_LoadQVUserLANInformation);
 QUORVEL_API int QV_LANExport(const UnitName* unit, const QVSessionInfo* session,
                              const LANFile* file);
 QUORVEL_API int QV_LANImport(const UnitName* unit, const QVSessionInfo* session,
@@ -1057,6 +1057,6 @@ QUORVEL_API int QV_GetFibreInformation(const UnitName* unit, const QVSessionInfo
 QUORVEL_API int QV_SetFibreInformation(const UnitName* unit, const QVSessionInfo* session,
                                        const FibreInformation* first,
                                        const FibreInformation* second);
-// Assumed layout: not confirmed by the library's own declarations.
 QUORVEL_API int QV_FibreInfoPermissionImport(const UnitName* unit, const FilePath* path,
                                              std::int32_t port, PermittedHosts* permissions);
+QUORVEL_ASSUMED_FUNCTION(QV_FibreInfoPermissionImport);

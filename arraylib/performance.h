@@ -256,7 +256,6 @@ struct PerformanceTime {
 QUORVEL_RECORD(PerformanceTime, 24);
 
 /// The content of a collection's management file.
-// Assumed layout: not confirmed by the library's own declarations.
 struct PerformanceMngInfo {
   char dampver[16];
   char unitname[65];
@@ -284,9 +283,9 @@ struct PerformanceMngInfo {
   PerformanceTime totime;
 };
 QUORVEL_RECORD(PerformanceMngInfo, 232);
+QUORVEL_ASSUMED(PerformanceMngInfo);
 
 /// What an output of all counters writes, for LUs up to 2,047.
-// Assumed layout: not confirmed by the library's own declarations.
 struct PerformanceOutputAllRequest {
   std::byte port[8];
   std::byte backend[8];
@@ -301,9 +300,9 @@ struct PerformanceOutputAllRequest {
   std::byte reserved[44];
 };
 QUORVEL_RECORD(PerformanceOutputAllRequest, 3088);
+QUORVEL_ASSUMED(PerformanceOutputAllRequest);
 
 /// What an output of all counters writes of one controller.
-// Assumed layout: not confirmed by the library's own declarations.
 struct PerformanceOutputSpecifyInfo {
   std::byte port[8];
   std::byte backend[8];
@@ -314,9 +313,9 @@ struct PerformanceOutputSpecifyInfo {
   std::byte drive_opr_rate[60][30];
 };
 QUORVEL_RECORD(PerformanceOutputSpecifyInfo, 11816);
+QUORVEL_ASSUMED(PerformanceOutputSpecifyInfo);
 
 /// What an output of all counters writes.
-// Assumed layout: not confirmed by the library's own declarations.
 struct PerformanceOutputAllExRequest {
   PerformanceOutputSpecifyInfo specifyinfo[2];
   std::int32_t count;
@@ -325,6 +324,7 @@ struct PerformanceOutputAllExRequest {
   std::byte reserved[412];
 };
 QUORVEL_RECORD(PerformanceOutputAllExRequest, 24056);
+QUORVEL_ASSUMED(PerformanceOutputAllExRequest);
 
 /// The file of an output request, handed over beside its options.
 struct PerformanceOutputFile {
@@ -332,14 +332,13 @@ struct PerformanceOutputFile {
 };
 QUORVEL_PART(PerformanceOutputFile, 1024);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct PerformanceCSVOutputOpt {
   std::byte reserved[4];
 };
 QUORVEL_RECORD(PerformanceCSVOutputOpt, 4);
+QUORVEL_ASSUMED(PerformanceCSVOutputOpt);
 
 /// The part of a collection to write as CSV, and where to.
-// Assumed layout: not confirmed by the library's own declarations.
 struct PerformanceOutputCSVRequest {
   char dirname[1024];
   PerformanceTime fromtime;
@@ -349,87 +348,87 @@ struct PerformanceOutputCSVRequest {
   PerformanceCSVOutputOpt outputopt[64];
 };
 QUORVEL_RECORD(PerformanceOutputCSVRequest, 1336);
+QUORVEL_ASSUMED(PerformanceOutputCSVRequest);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct PerformanceCollectGraphPort {
   std::byte reserved[24];
 };
 QUORVEL_RECORD(PerformanceCollectGraphPort, 24);
+QUORVEL_ASSUMED(PerformanceCollectGraphPort);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct PerformanceCollectGraphLU {
   std::byte reserved[24];
 };
 QUORVEL_RECORD(PerformanceCollectGraphLU, 24);
+QUORVEL_ASSUMED(PerformanceCollectGraphLU);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct PerformanceCollectGraphCache {
   std::byte reserved[12];
 };
 QUORVEL_RECORD(PerformanceCollectGraphCache, 12);
+QUORVEL_ASSUMED(PerformanceCollectGraphCache);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct PerformanceCollectGraphBackend {
   std::byte reserved[16];
 };
 QUORVEL_RECORD(PerformanceCollectGraphBackend, 16);
+QUORVEL_ASSUMED(PerformanceCollectGraphBackend);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct PerformanceCollectGraphDrive {
   std::byte reserved[24];
 };
 QUORVEL_RECORD(PerformanceCollectGraphDrive, 24);
+QUORVEL_ASSUMED(PerformanceCollectGraphDrive);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct PerformanceCollectGraphProcessor {
   std::byte reserved[8];
 };
 QUORVEL_RECORD(PerformanceCollectGraphProcessor, 8);
+QUORVEL_ASSUMED(PerformanceCollectGraphProcessor);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct PerformanceCollectGraphDriveOpr {
   std::byte reserved[16];
 };
 QUORVEL_RECORD(PerformanceCollectGraphDriveOpr, 16);
+QUORVEL_ASSUMED(PerformanceCollectGraphDriveOpr);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct PerformanceCollectGraphRG {
   std::byte reserved[24];
 };
 QUORVEL_RECORD(PerformanceCollectGraphRG, 24);
+QUORVEL_ASSUMED(PerformanceCollectGraphRG);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct PerformanceCollectGraphCache2 {
   std::byte reserved[20];
 };
 QUORVEL_RECORD(PerformanceCollectGraphCache2, 20);
+QUORVEL_ASSUMED(PerformanceCollectGraphCache2);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct PerformanceCollectGraphLUEx {
   std::byte reserved[48];
 };
 QUORVEL_RECORD(PerformanceCollectGraphLUEx, 48);
+QUORVEL_ASSUMED(PerformanceCollectGraphLUEx);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct PerformanceCollectGraphCachePartition {
   std::byte reserved[12];
 };
 QUORVEL_RECORD(PerformanceCollectGraphCachePartition, 12);
+QUORVEL_ASSUMED(PerformanceCollectGraphCachePartition);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct PerformanceCollectGraphVUPort {
   std::byte reserved[16];
 };
 QUORVEL_RECORD(PerformanceCollectGraphVUPort, 16);
+QUORVEL_ASSUMED(PerformanceCollectGraphVUPort);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct PerformanceCollectGraphVULU {
   std::byte reserved[24];
 };
 QUORVEL_RECORD(PerformanceCollectGraphVULU, 24);
+QUORVEL_ASSUMED(PerformanceCollectGraphVULU);
 
 /// Counter differences, computed for a graph.
-// Assumed layout: not confirmed by the library's own declarations.
 struct PerformanceCollectGraph {
   QVTime mtime[2];
   PerformanceCollectGraphPort port[8];
@@ -447,6 +446,7 @@ struct PerformanceCollectGraph {
   PerformanceCollectGraphVULU vu_lu[8192];
 };
 QUORVEL_RECORD(PerformanceCollectGraph, 864560);
+QUORVEL_ASSUMED(PerformanceCollectGraph);
 
 /// A graph as Java holds it.
 struct PerformanceCollectGraphInfo {
@@ -552,13 +552,12 @@ struct StatisticalCommandStatus {
 };
 QUORVEL_RECORD(StatisticalCommandStatus, 147456);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct StatisticalCachePartition {
   std::byte reserved[8];
 };
 QUORVEL_RECORD(StatisticalCachePartition, 8);
+QUORVEL_ASSUMED(StatisticalCachePartition);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct StatisticalCache {
   std::int32_t wrt_inhcnt;
   std::int32_t wrt_outhcnt;
@@ -567,14 +566,14 @@ struct StatisticalCache {
   StatisticalCachePartition cachepartition[64];
 };
 QUORVEL_RECORD(StatisticalCache, 528);
+QUORVEL_ASSUMED(StatisticalCache);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct StatisticalWriteAfter_PDEVInfo {
   std::byte reserved[16];
 };
 QUORVEL_RECORD(StatisticalWriteAfter_PDEVInfo, 16);
+QUORVEL_ASSUMED(StatisticalWriteAfter_PDEVInfo);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct StatisticalWriteAfter {
   std::int32_t raid0_stripe_cnt;
   std::int32_t raid0_stripe_job[450];
@@ -585,6 +584,7 @@ struct StatisticalWriteAfter {
   StatisticalWriteAfter_PDEVInfo pdev[15][30];
 };
 QUORVEL_RECORD(StatisticalWriteAfter, 14408);
+QUORVEL_ASSUMED(StatisticalWriteAfter);
 
 /// Restorations of drives.
 struct StatisticalDriveRestoration {
@@ -594,7 +594,6 @@ struct StatisticalDriveRestoration {
 };
 QUORVEL_RECORD(StatisticalDriveRestoration, 12);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct StatisticalCacheMemory {
   std::int32_t battery;
   std::int32_t threshold;
@@ -602,31 +601,32 @@ struct StatisticalCacheMemory {
   std::int32_t segment[64];
 };
 QUORVEL_RECORD(StatisticalCacheMemory, 312);
+QUORVEL_ASSUMED(StatisticalCacheMemory);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct StatisticalDrive_Info {
   std::byte reserved[76];
 };
 QUORVEL_RECORD(StatisticalDrive_Info, 76);
+QUORVEL_ASSUMED(StatisticalDrive_Info);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct StatisticalDrive {
   std::int32_t err_rtry;
   StatisticalDrive_Info drive[15][30];
 };
 QUORVEL_RECORD(StatisticalDrive, 34204);
+QUORVEL_ASSUMED(StatisticalDrive);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct StatisticalHostSpc_Info {
   std::byte reserved[12];
 };
 QUORVEL_RECORD(StatisticalHostSpc_Info, 12);
+QUORVEL_ASSUMED(StatisticalHostSpc_Info);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct StatisticalHostSpc {
   StatisticalHostSpc_Info port[4];
 };
 QUORVEL_RECORD(StatisticalHostSpc, 48);
+QUORVEL_ASSUMED(StatisticalHostSpc);
 
 /// Errors of the drive interface.
 struct StatisticalDriveSpc {
@@ -636,25 +636,24 @@ struct StatisticalDriveSpc {
 };
 QUORVEL_RECORD(StatisticalDriveSpc, 32);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct StatisticalDriveFpc_Info {
   std::byte reserved[24];
 };
 QUORVEL_RECORD(StatisticalDriveFpc_Info, 24);
+QUORVEL_ASSUMED(StatisticalDriveFpc_Info);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct StatisticalDriveFpc {
   StatisticalDriveFpc_Info port[4];
 };
 QUORVEL_RECORD(StatisticalDriveFpc, 96);
+QUORVEL_ASSUMED(StatisticalDriveFpc);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct StatisticalDriveDma_Error {
   std::byte reserved[24];
 };
 QUORVEL_RECORD(StatisticalDriveDma_Error, 24);
+QUORVEL_ASSUMED(StatisticalDriveDma_Error);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct StatisticalDriveDma {
   std::int32_t dma_retry;
   std::int32_t dma_path_retry;
@@ -662,6 +661,7 @@ struct StatisticalDriveDma {
   StatisticalDriveDma_Error error[4];
 };
 QUORVEL_RECORD(StatisticalDriveDma, 108);
+QUORVEL_ASSUMED(StatisticalDriveDma);
 
 /// Errors of the host interface's transfers.
 struct StatisticalHostDma {
@@ -707,18 +707,18 @@ struct StatisticalDual {
 };
 QUORVEL_RECORD(StatisticalDual, 12);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct StatisticalFibre_Info {
   std::byte reserved[276];
 };
 QUORVEL_RECORD(StatisticalFibre_Info, 276);
+QUORVEL_ASSUMED(StatisticalFibre_Info);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct StatisticalFibre {
   StatisticalFibre_Info Install[4];
   StatisticalFibre_Info Pson[4];
 };
 QUORVEL_RECORD(StatisticalFibre, 2208);
+QUORVEL_ASSUMED(StatisticalFibre);
 
 /// Errors of the units.
 struct StatisticalUnit {
@@ -729,24 +729,24 @@ struct StatisticalUnit {
 };
 QUORVEL_RECORD(StatisticalUnit, 20);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct StatisticalDriveError_LimitInfo {
   std::byte reserved[60];
 };
 QUORVEL_RECORD(StatisticalDriveError_LimitInfo, 60);
+QUORVEL_ASSUMED(StatisticalDriveError_LimitInfo);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct StatisticalDriveError_Info {
   std::byte reserved[84];
 };
 QUORVEL_RECORD(StatisticalDriveError_Info, 84);
+QUORVEL_ASSUMED(StatisticalDriveError_Info);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct StatisticalDriveError {
   StatisticalDriveError_LimitInfo limit;
   StatisticalDriveError_Info drive[15][30];
 };
 QUORVEL_RECORD(StatisticalDriveError, 37860);
+QUORVEL_ASSUMED(StatisticalDriveError);
 
 /// The array's internal counters, an element a controller.
 struct StatisticalInformation {

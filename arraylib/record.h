@@ -43,6 +43,31 @@ struct ClassOf;
 #define QUORVEL_OFFSET(Record, member, bytes) \
   static_assert(offsetof(Record, member) == (bytes), "the place of " #Record "." #member)
 
+namespace quorvelj {
+
+/// The members of a record whose places the library's own declarations have not confirmed: names
+/// with commas between them, "" for all of the record; null where all are confirmed.
+template <class Record>
+inline constexpr const char* kAssumedMembers = nullptr;
+
+/// Whether the arguments of a library function, or their order, are not confirmed so.
+template <auto Function>
+inline constexpr bool kAssumedFunction = false;
+
+}  // namespace quorvelj
+
+/// Marks a layout as assumed: of the whole record, or of the members that follow. It stands behind
+/// the `QUORVEL_RECORD`, and goes when the layout is confirmed; docs/open-points.md gives the
+/// reasons.
+#define QUORVEL_ASSUMED(Record, ...) \
+  template <>                        \
+  inline constexpr const char* quorvelj::kAssumedMembers<Record> = #__VA_ARGS__
+
+/// The same for the arguments of a function.
+#define QUORVEL_ASSUMED_FUNCTION(function) \
+  template <>                              \
+  inline constexpr bool quorvelj::kAssumedFunction<function> = true
+
 // How a function of the library is declared. The simulator exports them.
 #ifndef QUORVEL_API
 #define QUORVEL_API extern "C"

@@ -615,12 +615,12 @@ struct CouplingInfo {
 };
 QUORVEL_RECORD(CouplingInfo, 1'441'800);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct SyncPort {
   std::int8_t board_type;
   std::int8_t rate;
 };
 QUORVEL_RECORD(SyncPort, 2);
+QUORVEL_ASSUMED(SyncPort, rate);
 
 /// The synchronisation of a controller's ports.
 struct SyncControl {

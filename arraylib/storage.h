@@ -359,12 +359,12 @@ QUORVEL_RECORD(PoolDetailInfo, 292);
 QUORVEL_OFFSET(PoolDetailInfo, lu, 36);
 
 /// The pool of one controller.
-// Assumed layout: not confirmed by the library's own declarations.
 struct PoolCtlInfo {
   std::int32_t pool_enable_count;
   PoolDetailInfo pool[1];
 };
 QUORVEL_RECORD(PoolCtlInfo, 296);
+QUORVEL_ASSUMED(PoolCtlInfo, pool);
 
 /// The pools of the whole array.
 struct PoolSysInfo {
@@ -517,10 +517,10 @@ QUORVEL_API int QV_ChangePoolInformation(const UnitName* unit, const QVSessionIn
                                          const PoolChangeRequest* request);
 QUORVEL_API int QV_PoolLUAdd(const UnitName* unit, const QVSessionInfo* session, std::int32_t first,
                              std::int32_t second, std::int32_t third);
-// Assumed arguments: not confirmed by the library's own declarations.
 QUORVEL_API int QV_PoolLUAddList(const UnitName* unit, const QVSessionInfo* session,
                                  std::int32_t controller, std::int32_t pool,
                                  const PoolLUListRequest* list);
+QUORVEL_ASSUMED_FUNCTION(QV_PoolLUAddList);
 QUORVEL_API int QV_PoolLUAllDelete(const UnitName* unit, const QVSessionInfo* session,
                                    std::int32_t first, std::int32_t second);
 QUORVEL_API int QV_CreateVVOL(const UnitName* unit, const QVSessionInfo* session,

@@ -211,25 +211,25 @@ QUORVEL_RECORD(UnitInformation, 508);
 QUORVEL_OFFSET(UnitInformation, l_info, 56);
 QUORVEL_OFFSET(UnitInformation, p_info, 320);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct ControllerInfo {
   std::int32_t unknown[4];
 };
 QUORVEL_RECORD(ControllerInfo, 16);
+QUORVEL_ASSUMED(ControllerInfo);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct UnitIdentifier {
   char equipment_id[5];
   ControllerInfo ctl[2];
 };
 QUORVEL_RECORD(UnitIdentifier, 40);
+QUORVEL_ASSUMED(UnitIdentifier);
 QUORVEL_OFFSET(UnitIdentifier, ctl, 8);
 
-// Assumed layout: not confirmed by the library's own declarations.
 struct TimeInfo {
   std::byte unknown[660];
 };
 QUORVEL_RECORD(TimeInfo, 660);
+QUORVEL_ASSUMED(TimeInfo);
 
 QUORVEL_API int QV_UnitAdd(const QVUnitParam* param);
 QUORVEL_API int QV_UnitAddByIP(const QVUnitParam* param);
