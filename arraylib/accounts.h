@@ -91,13 +91,14 @@ struct QVAccountBaseInfo {
   std::int32_t account_type;
   std::int32_t role;
   std::int32_t account_enable;
+  std::byte reserved[8];
 };
-QUORVEL_RECORD(QVAccountBaseInfo, 536);
+QUORVEL_RECORD(QVAccountBaseInfo, 544);
 QUORVEL_ASSUMED(QVAccountBaseInfo);
 
 struct QVAccountInfoList {
+  std::int32_t reserved;
   QVAccountBaseInfo account_info[21];
-  std::byte reserved[172];
 };
 QUORVEL_RECORD(QVAccountInfoList, 11428);
 QUORVEL_ASSUMED(QVAccountInfoList);

@@ -91,12 +91,6 @@ struct NASOSStatusList {
 QUORVEL_RECORD(NASOSStatusList, 48);
 QUORVEL_ASSUMED(NASOSStatusList);
 
-struct TurboLu {
-  std::int32_t opaque[11];
-};
-QUORVEL_RECORD(TurboLu, 44);
-QUORVEL_ASSUMED(TurboLu);
-
 struct UnitPowerSavingInfo {
   std::int32_t opaque[187];
 };

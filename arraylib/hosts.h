@@ -1008,8 +1008,8 @@ struct FibreInformation {
   std::int32_t topology_ref[8];
   FibreInformationPort port[8];
   FibreInformationSfc sfc[8];
-  FibreInformationSecurity security[8];
   std::byte reserved[40];
+  FibreInformationSecurity security[8];
   char product_number[8];
 };
 QUORVEL_RECORD(FibreInformation, 305256);

@@ -292,12 +292,12 @@ struct PerformanceOutputAllRequest {
   std::byte lu[2048];
   std::int32_t cache;
   std::int32_t processor;
-  std::byte drive[16][30];
-  std::byte drive_opr_rate[16][30];
+  std::byte drive[15][30];
+  std::byte drive_opr_rate[15][30];
   std::int32_t count;
   std::int32_t mode;
   std::int32_t file_fmt_mode;
-  std::byte reserved[44];
+  std::byte reserved[104];
 };
 QUORVEL_RECORD(PerformanceOutputAllRequest, 3088);
 QUORVEL_ASSUMED(PerformanceOutputAllRequest);

@@ -511,6 +511,13 @@ struct LuAccessLevelRequest {
 };
 QUORVEL_RECORD(LuAccessLevelRequest, 12);
 
+/// The cache-resident LUs.
+struct TurboLu {
+  std::int32_t opaque[11];
+};
+QUORVEL_RECORD(TurboLu, 44);
+QUORVEL_ASSUMED(TurboLu);
+
 QUORVEL_API int QV_GetPoolInformation(const UnitName* unit, const QVSessionInfo* session,
                                       PoolInfo* info);
 QUORVEL_API int QV_ChangePoolInformation(const UnitName* unit, const QVSessionInfo* session,
@@ -550,3 +557,8 @@ QUORVEL_API int QV_ExtendRetentionTerm(const UnitName* unit, const QVSessionInfo
                                        std::int32_t first, std::int32_t second);
 QUORVEL_API int QV_SetExpirationLock(const UnitName* unit, const QVSessionInfo* session,
                                      std::int32_t value);
+QUORVEL_API int QV_GetTurboLU(const UnitName* unit, const QVSessionInfo* session, TurboLu* turbo);
+QUORVEL_ASSUMED_FUNCTION(QV_GetTurboLU);
+QUORVEL_API int QV_SetTurboLU(const UnitName* unit, const QVSessionInfo* session,
+                              const TurboLu* turbo);
+QUORVEL_ASSUMED_FUNCTION(QV_SetTurboLU);

@@ -317,6 +317,14 @@ TEST_F(DepartureTrace, FormatStatusListIsFlushedByItsBuildersAlone) {
   EXPECT_EQ(failureOf("QV_LogicalUnitFormatStatusList"), "NoSuchFieldError percent");
 }
 
+TEST_F(DepartureTrace, CacheResidentLusAreNotFlushedOnEntry) {
+  expectEvents(trace("QV_GetTurboLU"), kTakeBoth + mallocOf<TurboLu>() +
+                                           "QV_GetTurboLU, free, flush" + newObject("TurboLu") +
+                                           "free, flush");
+  expectEvents(trace("QV_SetTurboLU"), kCopyName + mallocOf<QVSessionInfo>() + mallocOf<TurboLu>() +
+                                           kReadSession + "QV_SetTurboLU, free, free, flush");
+}
+
 TEST_F(DepartureTrace, SnapshotsWithoutMemoryAreLeftNull) {
   resetTestRuntime(2);
   expectEvents(trace("QV_GetPerformanceAll"),

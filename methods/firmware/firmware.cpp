@@ -168,17 +168,37 @@ NATIVE_METHOD(jobject, MicroReplaceCrosscall, jstring unit, jobject session, job
                                 : finishQuery(env, library.call(information), information);
 }
 
-DEPARTS(
-    ENCMicroReplaceEx,
-    "the last int is handed over as a record of 4 bytes, and a record that was allocated before "
-    "one that could not be had stays");
+namespace {
+
+/// An int that the library gets as a record of its own.
+struct IntRecord {
+  jint value;
+
+  class Argument {
+   public:
+    explicit Argument(IntRecord record) : value_(record.value) {}
+    bool accept(JNIEnv*) { return true; }
+    bool allocate() {
+      record_ = quorvelj::allocate<std::int32_t>();
+      return record_ != nullptr;
+    }
+    int read(JNIEnv*) {
+      *record_ = value_;
+      return kOk;
+    }
+    void release() { releaseRecord(record_); }
+    const std::int32_t* get() { return record_; }
+
+   private:
+    jint value_;
+    std::int32_t* record_ = nullptr;
+  };
+};
+
+}  // namespace
+
 NATIVE_METHOD(void, ENCMicroReplaceEx, jstring unit, jobject session, jint option, jint record) {
-  LibraryCall library(env, QV_ENCMicroReplaceEx, unit, session, option);
-  if (!library.begin()) {
-    return;
-  }
-  const std::int32_t recorded = record;
-  finishUpdate(env, library.call(&recorded));
+  update(env, QV_ENCMicroReplaceEx, unit, session, option, IntRecord{record});
 }
 
 namespace {

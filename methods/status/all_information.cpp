@@ -22,7 +22,6 @@ QUORVELJ_OPAQUE_CLASS(TimeZoneList);
 QUORVELJ_OPAQUE_CLASS(NASSystemLUAll);
 QUORVELJ_OPAQUE_CLASS(NASUserLUAll);
 QUORVELJ_OPAQUE_CLASS(NASOSStatusList);
-QUORVELJ_OPAQUE_CLASS(TurboLu);
 QUORVELJ_OPAQUE_CLASS(UnitPowerSavingInfo);
 QUORVELJ_CLASS(ArrayAllInformation, unit_conditions, drive_status, drive_info, raid, raid_info, lu,
                lu_coup, integration_lu, integration_lu2, turbo_lu, dm_lu, target_id, lan_info,

@@ -26,6 +26,7 @@ QUORVELJ_CLASS(LuGuard, lu_valid, capacity, capacity_h, capacity_l, access_level
                changeable_attr, retention_term);
 QUORVELJ_CLASS(LuGuardInformation, option, expirationlock, lu);
 QUORVELJ_CLASS(LuAccessLevelRequest, lu, access_level, retention_term);
+QUORVELJ_OPAQUE_CLASS(TurboLu);
 
 NATIVE_METHOD(jobject, GetPoolInformation, jstring unit, jobject session) {
   return query(env, QV_GetPoolInformation, unit, session);
@@ -103,4 +104,24 @@ NATIVE_METHOD(void, ExtendRetentionTerm, jstring unit, jobject session, jint fir
 
 NATIVE_METHOD(void, SetExpirationLock, jstring unit, jobject session, jint value) {
   update(env, QV_SetExpirationLock, unit, session, value);
+}
+
+constexpr char kTurboDeparts[] =
+    "does not flush standard output on entry, and takes a null name for an empty one";
+
+DEPARTS(GetTurboLU, kTurboDeparts, .acceptsNullText = true);
+NATIVE_METHOD(jobject, GetTurboLU, jstring unit, jobject session) {
+  LibraryCall library(env, QV_GetTurboLU, OptionalUnit{unit}, session);
+  if (!library.beginQuietly()) {
+    return nullptr;
+  }
+  auto* const turbo = library.output();
+  return turbo == nullptr ? nullptr : finishQuery(env, library.call(turbo), turbo);
+}
+
+DEPARTS(SetTurboLU, kTurboDeparts, .acceptsNullText = true);
+NATIVE_METHOD(void, SetTurboLU, jstring unit, jobject session, jobject turbo) {
+  LibraryCall library(env, QV_SetTurboLU, OptionalUnit{unit}, session, turbo);
+  library.enterQuietly();
+  updateEntered(env, library);
 }

@@ -36,9 +36,9 @@ TEST_F(AccountAuthentication, ResultRecords) {
   expectFromUnit("QV_GetQVAccountRoleInformation", 8228,
                  "0:int32 role_valid_index; 4:text257 role_info[0].role_name; 7971:text257 "
                  "role_info[31].role_name");
-  // 21 accounts of 536 bytes.
+  // 21 accounts of 544 bytes behind a word.
   expectFromUnit("QV_GetAccountInformation", 11428,
-                 at("0:account_info[0] 10720:account_info[20]", kAccount));
+                 at("4:account_info[0] 10884:account_info[20]", kAccount));
   EXPECT_EQ(get(information("QV_GetAccountInformation"), "account_info"), "QVAccountBaseInfo[21]");
   expectFromUnit("QV_GetOwnUserPermission", 76,
                  "0:int32 operation_auth[0]; 32:int32 operation_auth[8] "

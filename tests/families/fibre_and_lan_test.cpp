@@ -49,7 +49,7 @@ const Members kFibre =
     "0:int32 lun_security port_valid topology[0]; 36:int32 topology[7] topology_ref[0]; 68:int32 "
     "topology_ref[7]" +
     at("72:port[0] 632:port[7]", kFibrePort) + at("712:sfc[0] 922:sfc[7]", kSfc) +
-    at("952:security[0] 267176:security[7]", kSecurity) + "305248:text8 product_number";
+    at("992:security[0] 267216:security[7]", kSecurity) + "305248:text8 product_number";
 
 TEST_F(FibreAndLan, ResultRecords) {
   expectFromUnit("QV_GetLANInformation", 80, kLan, {1});

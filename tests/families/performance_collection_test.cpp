@@ -120,19 +120,19 @@ TEST_F(PerformanceCollection, SnapshotsInRequests) {
 }
 
 TEST_F(PerformanceCollection, Requests) {
-  const jobject all = requestWith("PerformanceOutputAllRequest", 16, {"drive", "drive_opr_rate"});
+  const jobject all = requestWith("PerformanceOutputAllRequest", 15, {"drive", "drive_opr_rate"});
   expectRead("QV_PerformanceOutputAll", {unit_, all}, all, 1, 1024, "0:text1024 filename");
   expectRead("QV_PerformanceOutputAll", {unit_, all}, all, 2, 3088,
              "0:bytes8 port backend; 16:bytes2048 lu; 2064:int32 cache processor; 2072:bytes30 "
-             "drive[0]; 2522:bytes30 drive[15] drive_opr_rate[0]; 3002:bytes30 drive_opr_rate[15]; "
-             "3032:int32 count mode file_fmt_mode");
+             "drive[0]; 2492:bytes30 drive[14] drive_opr_rate[0]; 2942:bytes30 drive_opr_rate[14]; "
+             "2972:int32 count mode file_fmt_mode");
   // Without a table of drives the reading of the options ends; the library is called all the same.
   setNull(all, "drive");
   set(all, "lu[3]=7; count=77");
   quorvelSimForceResult("QV_PerformanceOutputAll", 0, 1);
   EXPECT_EQ(call("QV_PerformanceOutputAll", {unit_, all}).failure, "");
   EXPECT_EQ(lastInput("QV_PerformanceOutputAll", 2)[19], 7);
-  EXPECT_NE(lastInt("QV_PerformanceOutputAll", 2, 3032), 77);
+  EXPECT_NE(lastInt("QV_PerformanceOutputAll", 2, 2972), 77);
 
   const jobject allEx = requestWith("PerformanceOutputAllExRequest", 60,
                                     {"specifyinfo[0].drive", "specifyinfo[0].drive_opr_rate",

@@ -34,6 +34,7 @@ TEST_F(PoolsAndSpecialLus, BuiltRecords) {
                  "0:int32 integration_lu parent_count parent_lu[0]; 32772:int32 parent_lu[8191]" +
                      at("32776:unite_info[0] 262124:unite_info[8191]", kUnited2));
   expectGetAndSet("DMLU", "DMLUInformation", 32, kManagement);
+  expectGetAndSet("TurboLU", "TurboLu", 44, "");
   expectFromUnit("QV_GetLuGuardInformation", 393224,
                  "0:int32 option expirationlock" + at("8:lu[0] 393176:lu[8191]", kGuard));
 }
@@ -62,6 +63,9 @@ TEST_F(PoolsAndSpecialLus, Arguments) {
       "QV_PoolLUAdd usiii; QV_PoolLUAllDelete usii; QV_CreateVVOL usiii; QV_DeleteVVOL usii; "
       "QV_IntegrationLUInfo u; QV_SetSvolDisableMode usii; QV_ExtendRetentionTerm usii; "
       "QV_SetExpirationLock usi");
+  // The cache-resident LUs of no array.
+  EXPECT_EQ(call("QV_GetTurboLU", {nullptr, session_}).failure, "DiskArrayException 20001");
+  EXPECT_EQ(lastText("QV_GetTurboLU", 0), "");
 }
 
 TEST_F(PoolsAndSpecialLus, WhatIsSetIsReadBack) {

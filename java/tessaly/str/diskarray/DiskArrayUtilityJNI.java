@@ -678,6 +678,17 @@ public class DiskArrayUtilityJNI {
     public native void QV_SetExpirationLock(String unit, QVSessionInfo session, int value)
             throws DiskArrayException;
 
+    /** Returns the cache-resident LUs; layout assumed. */
+    public native TurboLu QV_GetTurboLU(String unit, QVSessionInfo session)
+            throws DiskArrayException;
+
+    /**
+     * Sets the cache-resident LUs; layout assumed. No field of {@link TurboLu} is known: the array
+     * would be given the 44 bytes as they lay in memory. Do not call it before the layout is settled.
+     */
+    public native void QV_SetTurboLU(String unit, QVSessionInfo session, TurboLu turbo)
+            throws DiskArrayException;
+
     // Host groups and LU mapping
 
     /** Returns all host groups. */
