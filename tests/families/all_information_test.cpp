@@ -64,7 +64,7 @@ const std::map<std::string, Members> kEnds{
     {"auditlog_info", "0:int32 option; 100:int32 auditlog_internallog.internallog_used"},
     {"lu_migration", "0:int32 option; 180188:int32 pair_lu[4094].migration_error"},
     {"role", "0:int32 role_valid_index; 7971:text257 role_info[31].role_name"},
-    {"account", "0:text257 account_info[0].user_id; 11252:int32 account_info[20].account_enable"},
+    {"account", "4:text257 account_info[0].user_id; 11416:int32 account_info[20].account_enable"},
     {"account_option",
      "0:int32 option_info.password_min_length; 12:int32 additional_info.keep_alive_time"},
     {"spin_downup", "0:int32 option; 102312:int32 lu[8191].lu_power_saving_detail"},

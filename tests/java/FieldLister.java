@@ -7,7 +7,8 @@ import java.util.jar.JarFile;
 
 /**
  * Prints the fields of every class of a jar: "tessaly/str/diskarray/QVSessionInfo session_id [B 32",
- * with the length of the array that the constructor makes, or -1.
+ * with the lengths of the arrays that the constructor makes, from the outer to the inner ones. "0"
+ * stands for another value that it makes, "-" for null and for a number.
  */
 public final class FieldLister {
     private FieldLister() {}
@@ -26,11 +27,21 @@ public final class FieldLister {
     private static void list(String className) throws ReflectiveOperationException {
         Object object = Class.forName(className.replace('/', '.')).getConstructor().newInstance();
         for (Field field : object.getClass().getFields()) {
-            Object value = field.get(object);
-            boolean made = value != null && value.getClass().isArray();
             System.out.println(className + " " + field.getName() + " " + signature(field.getType())
-                    + " " + (made ? Array.getLength(value) : -1));
+                    + " " + made(field.getType(), field.get(object)));
         }
+    }
+
+    private static String made(Class<?> type, Object value) {
+        if (value == null || type == int.class) {
+            return "-";
+        }
+        if (!type.isArray()) {
+            return "0";
+        }
+        String inner = type.getComponentType().isArray()
+                ? "," + made(type.getComponentType(), Array.get(value, 0)) : "";
+        return Array.getLength(value) + inner;
     }
 
     private static String signature(Class<?> type) {

@@ -4,14 +4,20 @@
 #include <cstdlib>
 #include <fstream>
 
+#include "tests/support/split.h"
+
 namespace quorvelj::testing {
 namespace {
 
 std::vector<JavaField> readFields() {
   std::ifstream list(QUORVELJ_FIELD_LIST);
   std::vector<JavaField> fields;
-  for (JavaField field;
-       list >> field.className >> field.name >> field.signature >> field.madeLength;) {
+  JavaField field;
+  for (std::string made; list >> field.className >> field.name >> field.signature >> made;) {
+    field.made.clear();
+    for (const std::string& length : made == "-" ? std::vector<std::string>() : split(made, ",")) {
+      field.made.push_back(std::stoul(length));
+    }
     fields.push_back(field);
   }
   if (fields.empty()) {

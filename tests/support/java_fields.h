@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -10,8 +11,9 @@ struct JavaField {
   std::string className;  // slash form
   std::string name;
   std::string signature;
-  /// The length of the array that the constructor makes, or -1.
-  int madeLength;
+  /// What the constructor makes, if anything: the lengths of arrays from the outer to the inner
+  /// ones, or one number.
+  std::vector<std::size_t> made;
 };
 
 /// All of them, from the list that FieldLister made of the jar.

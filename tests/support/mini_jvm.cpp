@@ -37,7 +37,7 @@ const mini::Heap& MiniJvm::heap() const { return jni_->heap; }
 
 void MiniJvm::declare(const std::vector<JavaField>& fields) {
   for (const JavaField& field : fields) {
-    heap().declareField(field.className, field.name, field.signature, field.madeLength);
+    heap().declareField(field.className, field.name, field.signature, field.made);
   }
 }
 

@@ -108,7 +108,7 @@ Member* Heap::addMember(Class* type, const std::string& name, const std::string&
   std::unique_ptr<Member>& member = type->members[keyOf(name, signature)];
   if (member == nullptr) {
     member = std::make_unique<Member>(
-        Member{type, name, signature, inherited + type->members.size() - 1, -1});
+        Member{type, name, signature, inherited + type->members.size() - 1});
   }
   return member.get();
 }
@@ -121,12 +121,12 @@ Class* Heap::derive(Class* parent) {
 }
 
 void Heap::declareField(const std::string& className, const std::string& name,
-                        const std::string& signature, int madeLength) {
+                        const std::string& signature, const std::vector<std::size_t>& made) {
   Class* const type = findClass(className.c_str());
   type->declared = true;
   Member* const field = addMember(type, name, signature);
-  field->madeLength = madeLength;
-  if (madeLength >= 0) {
+  field->made = made;
+  if (!made.empty()) {
     type->made.push_back(field);
   }
 }
@@ -144,6 +144,34 @@ Object* Heap::make(Class* type) {
   Object& object = objects_.emplace_back();
   object.type = type;
   return &object;
+}
+
+Object* Heap::construct(Class* type) {
+  Object* const object = make(type);
+  for (const Member* const member : type->made) {
+    object->slot(*member) = {true, 0, hold(makeInitial(member->signature, member->made.data()))};
+  }
+  return object;
+}
+
+Object* Heap::makeInitial(const std::string& signature, const std::size_t* lengths) {
+  if (signature == "Ljava/lang/String;") {
+    return make("java/lang/String", std::string());
+  }
+  if (signature[0] == 'L') {
+    return construct(findClass(signature.substr(1, signature.size() - 2).c_str()));
+  }
+  if (signature == "[I") {
+    return makeArray("[I", *lengths, jint{0});
+  }
+  if (signature == "[B") {
+    return makeArray("[B", *lengths, jbyte{0});
+  }
+  std::vector<Object*> elements(*lengths);
+  for (Object*& element : elements) {
+    element = hold(makeInitial(signature.substr(1), lengths + 1));
+  }
+  return make(signature.c_str(), std::move(elements));
 }
 
 void Heap::recycle(Object* object) {

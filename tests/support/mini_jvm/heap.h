@@ -29,8 +29,8 @@ struct Member {
   std::string signature;
   /// The place of a field's value in the slots of an object.
   std::size_t index;
-  /// The length of the array that the constructor makes, or -1.
-  int madeLength;
+  /// What the constructor makes, if anything: the lengths of arrays, or one number.
+  std::vector<std::size_t> made{};
   /// What the field cost.
   CallList calls{};
   /// Held an array before.
@@ -44,7 +44,7 @@ struct Class {
   /// The superclass, which must be a declared one; null for none.
   Class* parent = nullptr;
   std::map<std::string, std::unique_ptr<Member>> members;
-  /// The fields whose arrays the constructor makes.
+  /// The fields that the constructor makes.
   std::vector<Member*> made;
   /// The class has its declared fields and no others.
   bool declared = false;
@@ -117,7 +117,7 @@ class Heap {
   Member* findMember(Class* type, const char* name, const char* signature);
   /// Adds a field to a declared class.
   void declareField(const std::string& className, const std::string& name,
-                    const std::string& signature, int madeLength);
+                    const std::string& signature, const std::vector<std::size_t>& made);
   /// A new subclass of a declared class, with no fields of its own yet.
   Class* derive(Class* parent);
   /// Adds a field or a method to a class.
@@ -127,6 +127,8 @@ class Heap {
   [[nodiscard]] bool isRemoved(std::string_view name) const;
 
   Object* make(Class* type);
+  /// The same, as its constructor leaves it.
+  Object* construct(Class* type);
   template <class Payload>
   Object* make(const char* className, Payload payload) {
     Object* const object = make(findClass(className));
@@ -194,6 +196,8 @@ class Heap {
   };
 
   void recycle(Object* object);
+  /// A value of a field as a constructor makes it.
+  Object* makeInitial(const std::string& signature, const std::size_t* lengths);
 
   static constexpr std::size_t kRecent = 4096;
   std::map<std::string, std::unique_ptr<Class>> classes_;

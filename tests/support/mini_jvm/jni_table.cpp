@@ -195,11 +195,7 @@ struct Functions {
       return nullptr;
     }
     const auto* const constructor = reinterpret_cast<Member*>(id);
-    Object* const object = jvm.heap.make(jvm.heap.resolve(type)->mirrored);
-    for (const Member* const member : object->type->made) {
-      const auto length = static_cast<std::size_t>(member->madeLength);
-      object->slot(*member) = {true, 0, Heap::hold(jvm.heap.makeArray("[B", length, jbyte{0}))};
-    }
+    Object* const object = jvm.heap.construct(jvm.heap.resolve(type)->mirrored);
     if (constructor->signature == "(I)V") {
       jvm.heap.codeOf(object) = {true, va_arg(arguments, jint), nullptr};
     } else if (constructor->signature == "([BIILjava/lang/String;)V") {

@@ -5,5 +5,5 @@ public class AccountBanner {
     /** Whether it is shown. */
     public int warning_banner_display;
     /** At most 5,999 bytes. */
-    public String warning_banner;
+    public String warning_banner = "";
 }

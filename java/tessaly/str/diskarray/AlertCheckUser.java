@@ -3,8 +3,8 @@ package tessaly.str.diskarray;
 /** Who checks for alerts. */
 public class AlertCheckUser {
     /** At most 256 bytes. */
-    public String user_id;
+    public String user_id = "";
     /** At most 256 bytes. */
-    public String passwd;
+    public String passwd = "";
     public int account_enable;
 }

@@ -4,8 +4,8 @@ package tessaly.str.diskarray;
 public class ArrayConditionRequest {
     public int login_request;
     /** At most 256 bytes. */
-    public String user_id;
+    public String user_id = "";
     /** At most 256 bytes. */
-    public String passwd;
-    public QVSessionInfo session;
+    public String passwd = "";
+    public QVSessionInfo session = new QVSessionInfo();
 }

@@ -4,10 +4,10 @@ package tessaly.str.diskarray;
 public class AutoMigrationAccessPathNetwork {
     public int dhcp_mode;
     /** At most 15 bytes. */
-    public String ip_address;
+    public String ip_address = "";
     /** At most 15 bytes. */
-    public String subnet;
+    public String subnet = "";
     /** At most 15 bytes. */
-    public String gateway;
+    public String gateway = "";
     public int linkspeed_duplex;
 }

@@ -11,7 +11,7 @@ public class CommandDevice {
     /** 2 elements. */
     public int[] security;
     /** At most 4 bytes. */
-    public String sequence_no;
+    public String sequence_no = "";
     public int cmd_count;
     /** At most 128; those behind are left out. */
     public CmdDevInfo[] cmddev;

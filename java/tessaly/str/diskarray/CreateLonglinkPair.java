@@ -4,7 +4,7 @@ package tessaly.str.diskarray;
 public class CreateLonglinkPair extends PairOperation {
     public int pvol_lu_device;
     /** At most 8 bytes. */
-    public String remote_serial;
+    public String remote_serial = "";
     public int auto_set;
     public int local_pool_no;
     public int remote_pool_no;

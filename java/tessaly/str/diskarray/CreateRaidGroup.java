@@ -1,5 +1,7 @@
 package tessaly.str.diskarray;
 
+import java.util.Arrays;
+
 /** A RAID group to create, or to compute the capacity of. */
 public class CreateRaidGroup {
     /** How the drives are chosen. */
@@ -16,5 +18,9 @@ public class CreateRaidGroup {
     /** Number of parity groups. */
     public int parity_count;
     /** The chosen drives, at most 1,800; more are left out. Never null. */
-    public CreateRgDrive[] rgdrv;
+    public CreateRgDrive[] rgdrv = new CreateRgDrive[1800];
+
+    {
+        Arrays.setAll(rgdrv, index -> new CreateRgDrive());
+    }
 }

@@ -1,7 +1,13 @@
 package tessaly.str.diskarray;
 
+import java.util.Arrays;
+
 /** The host groups of a controller to delete. */
 public class DeleteHGCtlList {
     /** 8 elements. */
-    public DeleteHGPortList[] port;
+    public DeleteHGPortList[] port = new DeleteHGPortList[8];
+
+    {
+        Arrays.setAll(port, index -> new DeleteHGPortList());
+    }
 }

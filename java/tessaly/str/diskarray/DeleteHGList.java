@@ -1,7 +1,13 @@
 package tessaly.str.diskarray;
 
+import java.util.Arrays;
+
 /** The host groups to delete. */
 public class DeleteHGList {
     /** 2 elements. */
-    public DeleteHGCtlList[] ctl;
+    public DeleteHGCtlList[] ctl = new DeleteHGCtlList[2];
+
+    {
+        Arrays.setAll(ctl, index -> new DeleteHGCtlList());
+    }
 }

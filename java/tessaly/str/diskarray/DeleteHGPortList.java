@@ -3,5 +3,5 @@ package tessaly.str.diskarray;
 /** The host groups of a port to delete. */
 public class DeleteHGPortList {
     /** 64 bytes. */
-    public byte[] hg;
+    public byte[] hg = new byte[64];
 }

@@ -3,5 +3,5 @@ package tessaly.str.diskarray;
 /** Which iSCSI targets of a port to delete. */
 public class DeleteTargetList {
     /** 255 elements, one for each target. */
-    public int[] target;
+    public int[] target = new int[255];
 }

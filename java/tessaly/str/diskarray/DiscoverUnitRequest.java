@@ -5,6 +5,6 @@ public class DiscoverUnitRequest {
     /** Kind of connection, 0 to 255. */
     public int connect_type;
     /** Address or device, at most 255 bytes. */
-    public String ip_dev;
+    public String ip_dev = "";
     public int communication_mode;
 }

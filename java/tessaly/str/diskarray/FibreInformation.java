@@ -15,5 +15,5 @@ public class FibreInformation {
     /** 8 elements, one for each port. */
     public FibreInformationSecurity[] security;
     /** At most 7 bytes. */
-    public String product_number;
+    public String product_number = "";
 }

@@ -3,13 +3,13 @@ package tessaly.str.diskarray;
 /** A Fibre Channel port. */
 public class FibreInformationPort {
     /** At most 16 bytes. */
-    public String node_name;
+    public String node_name = "";
     /** At most 16 bytes. */
-    public String port_name;
+    public String port_name = "";
     /** At most 6 bytes. */
-    public String n_port_id;
+    public String n_port_id = "";
     /** At most 6 bytes. */
-    public String get_address;
+    public String get_address = "";
     public int frame_size;
     public int if_board;
     public int support_speed;

@@ -5,5 +5,5 @@ public class HGInfo {
     /** 0 to 255. */
     public int valid;
     /** At most 32 characters. */
-    public String hgname;
+    public String hgname = "";
 }

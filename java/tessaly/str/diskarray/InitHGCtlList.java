@@ -1,7 +1,13 @@
 package tessaly.str.diskarray;
 
+import java.util.Arrays;
+
 /** The host groups of a controller to set back. */
 public class InitHGCtlList {
     /** 8 elements. */
-    public InitHGPortList[] port;
+    public InitHGPortList[] port = new InitHGPortList[8];
+
+    {
+        Arrays.setAll(port, index -> new InitHGPortList());
+    }
 }

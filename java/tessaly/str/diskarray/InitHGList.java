@@ -1,7 +1,13 @@
 package tessaly.str.diskarray;
 
+import java.util.Arrays;
+
 /** The host groups to set back. */
 public class InitHGList {
     /** 2 elements. */
-    public InitHGCtlList[] ctl;
+    public InitHGCtlList[] ctl = new InitHGCtlList[2];
+
+    {
+        Arrays.setAll(ctl, index -> new InitHGCtlList());
+    }
 }

@@ -8,5 +8,5 @@ public class IntegrationRequest {
     /** How many elements of <code>child_lu</code> are used. */
     public int child_count;
     /** LU numbers; at least 127 elements, of which the first 127 count. */
-    public int[] child_lu;
+    public int[] child_lu = new int[127];
 }

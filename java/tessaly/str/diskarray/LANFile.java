@@ -3,5 +3,5 @@ package tessaly.str.diskarray;
 /** The file that LAN settings are exported to or imported from. */
 public class LANFile {
     /** At most 255 bytes. */
-    public String filename;
+    public String filename = "";
 }

@@ -5,13 +5,13 @@ public class LANInformation {
     /** 0 to 255. */
     public int dhcp;
     /** At most 15 bytes. */
-    public String ip_address;
+    public String ip_address = "";
     /** At most 15 bytes. */
-    public String subnet;
+    public String subnet = "";
     /** At most 15 bytes. */
-    public String gateway;
+    public String gateway = "";
     /** At most 17 bytes. */
-    public String ether;
+    public String ether = "";
     /** 0 to 255. */
     public int lan_connect;
     public int mainte_ip_change_mode;

@@ -4,13 +4,13 @@ package tessaly.str.diskarray;
 public class LanDetail {
     public int dhcp;
     /** At most 15 bytes. */
-    public String ip_address;
+    public String ip_address = "";
     /** At most 15 bytes. */
-    public String subnet;
+    public String subnet = "";
     /** At most 15 bytes. */
-    public String gateway;
+    public String gateway = "";
     /** At most 17 bytes. */
-    public String ether;
+    public String ether = "";
     /** 0 to 255. */
     public int duplex_type;
     /** 0 to 255. */

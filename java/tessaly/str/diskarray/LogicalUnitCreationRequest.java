@@ -13,7 +13,7 @@ public class LogicalUnitCreationRequest {
     /** How many elements of <code>befor_lun</code> are used. */
     public int befor_lun_count;
     /** LU numbers; at least 128 elements, of which the first 128 count. */
-    public int[] befor_lun;
+    public int[] befor_lun = new int[128];
     public int cachepart_no;
     public int pair_cachepart_valid;
     public int pair_cachepart_no;

@@ -4,6 +4,6 @@ package tessaly.str.diskarray;
 public class MainteIPAddress {
     public int set_ipversion;
     /** At most 39 bytes. */
-    public String ip_addr;
+    public String ip_addr = "";
     public int logout_instruction;
 }

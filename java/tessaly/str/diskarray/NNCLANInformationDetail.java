@@ -4,9 +4,9 @@ package tessaly.str.diskarray;
 public class NNCLANInformationDetail {
     public int valid_index;
     /** At most 39 bytes. */
-    public String ip_address;
+    public String ip_address = "";
     /** At most 39 bytes. */
-    public String subnet;
+    public String subnet = "";
     public int mtu;
     public int negotiation;
     public int set_status;

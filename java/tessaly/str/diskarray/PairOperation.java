@@ -6,6 +6,6 @@ public class PairOperation {
     public int set_division;
     /** Whether a consistency group is in use. */
     public int ctg_valid;
-    public SpecifyCTGInfo ctg_info;
-    public SpecifyPairInfo pair_info;
+    public SpecifyCTGInfo ctg_info = new SpecifyCTGInfo();
+    public SpecifyPairInfo pair_info = new SpecifyPairInfo();
 }

@@ -3,20 +3,20 @@ package tessaly.str.diskarray;
 /** What an output of all counters writes of one controller. */
 public class PerformanceOutputSpecifyInfo {
     /** 8 bytes. */
-    public byte[] port;
+    public byte[] port = new byte[8];
 
     /** 8 bytes. */
-    public byte[] backend;
+    public byte[] backend = new byte[8];
 
     /** 8192 bytes. */
-    public byte[] lu;
+    public byte[] lu = new byte[8192];
 
     public int cache;
     public int processor;
 
     /** 60 rows of 30 bytes. */
-    public byte[][] drive;
+    public byte[][] drive = new byte[60][30];
 
     /** 60 rows of 30 bytes. */
-    public byte[][] drive_opr_rate;
+    public byte[][] drive_opr_rate = new byte[60][30];
 }

@@ -5,5 +5,5 @@ public class PoolLUListRequest {
     /** How many elements of <code>lu</code> are used. */
     public int lu_count;
     /** LU numbers; at least 64 elements, of which the first 64 count. */
-    public int[] lu;
+    public int[] lu = new int[64];
 }

@@ -4,5 +4,5 @@ package tessaly.str.diskarray;
 public class QVAuditLogSyslogServer {
     public int server_used;
     /** At most 39 bytes. */
-    public String ip_address;
+    public String ip_address = "";
 }

@@ -5,9 +5,9 @@ public class QViSCSIInitiatorInfo {
     public int initiator_valid;
     public int ctrl_flag;
     /** At most 32 bytes. */
-    public String initiator_name;
+    public String initiator_name = "";
     /** At most 223 bytes. */
-    public String iscsi_name;
+    public String iscsi_name = "";
     /** One bit for each target of the port. The native library copies into this array. */
     public byte[] target_bitmap = new byte[32];
 }

@@ -4,7 +4,7 @@ package tessaly.str.diskarray;
 public class QViSCSIRemotePath {
     public int path_valid;
     /** At most 8 bytes. */
-    public String other_serial_no;
+    public String other_serial_no = "";
     /** 2 elements. */
     public QViSCSIRemotePathSecret[] path;
 }

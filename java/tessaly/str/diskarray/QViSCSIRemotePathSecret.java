@@ -3,5 +3,5 @@ package tessaly.str.diskarray;
 /** The secret of a remote path. */
 public class QViSCSIRemotePathSecret {
     /** At most 32 bytes. */
-    public String secret;
+    public String secret = "";
 }

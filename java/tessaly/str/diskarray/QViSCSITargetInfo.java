@@ -4,14 +4,14 @@ package tessaly.str.diskarray;
 public class QViSCSITargetInfo {
     public int target_valid;
     /** At most 32 bytes. */
-    public String target_name;
+    public String target_name = "";
     /** At most 226 bytes. */
-    public String iscsi_name;
+    public String iscsi_name = "";
     public int authmethod;
     public int algorithm;
     public int auth;
     /** At most 256 bytes. */
-    public String user_name;
+    public String user_name = "";
     /** At most 34 bytes. */
-    public String secret;
+    public String secret = "";
 }

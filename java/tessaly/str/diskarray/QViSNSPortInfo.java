@@ -6,6 +6,6 @@ public class QViSNSPortInfo {
     public int set_valid;
     public int isns_use;
     /** At most 39 bytes. */
-    public String ip_address;
+    public String ip_address = "";
     public int port_num;
 }

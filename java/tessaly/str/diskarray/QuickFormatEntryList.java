@@ -3,5 +3,5 @@ package tessaly.str.diskarray;
 /** The LUs that are entered for a quick format. */
 public class QuickFormatEntryList {
     /** A byte for each LU; at least 8,192, of which the first 8,192 count. */
-    public byte[] lu;
+    public byte[] lu = new byte[8192];
 }

@@ -4,5 +4,5 @@ package tessaly.str.diskarray;
 public class RemoteDeviceInfo {
     public int set_valid;
     /** At most 8 bytes. */
-    public String serial;
+    public String serial = "";
 }

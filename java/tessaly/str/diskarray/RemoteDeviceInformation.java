@@ -4,7 +4,7 @@ package tessaly.str.diskarray;
 public class RemoteDeviceInformation {
     public int valid;
     /** At most 4 bytes. */
-    public String equipment_id;
+    public String equipment_id = "";
     /** At most 8 bytes. */
-    public String serial;
+    public String serial = "";
 }

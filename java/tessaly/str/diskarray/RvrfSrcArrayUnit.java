@@ -6,9 +6,9 @@ public class RvrfSrcArrayUnit {
     public int mode;
     public int other_detect_id;
     /** At most 8 bytes. */
-    public String other_serial_no;
+    public String other_serial_no = "";
     /** At most 4 bytes. */
-    public String other_sequence_no;
+    public String other_sequence_no = "";
     /** At most 2; those behind are left out. */
     public RvrfSrcPath[] path;
     public int timeout_valid;

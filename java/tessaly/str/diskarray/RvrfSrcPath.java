@@ -9,9 +9,9 @@ public class RvrfSrcPath {
     public int other_ctl_no;
     public int other_port_no;
     /** At most 15 bytes. */
-    public String remote_ip_addr;
+    public String remote_ip_addr = "";
     public int remote_port_num;
     public int secret_valid;
     /** At most 32 bytes. */
-    public String secret;
+    public String secret = "";
 }

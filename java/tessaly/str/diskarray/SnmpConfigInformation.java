@@ -4,7 +4,7 @@ package tessaly.str.diskarray;
 public class SnmpConfigInformation {
     public int set_valid;
     /** The text, at most 4095 bytes. */
-    public String conf;
+    public String conf = "";
     /** At most 254 bytes. */
-    public String name;
+    public String name = "";
 }

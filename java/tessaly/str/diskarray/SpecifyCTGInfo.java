@@ -6,5 +6,5 @@ public class SpecifyCTGInfo {
     public int ctg_set_flag;
     public int ctg_no;
     /** At most 31 bytes. */
-    public String ctg_name;
+    public String ctg_name = "";
 }

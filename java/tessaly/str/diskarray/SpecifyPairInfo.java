@@ -5,7 +5,7 @@ public class SpecifyPairInfo {
     /** Whether a pair is given. */
     public int pair_set_flag;
     /** At most 31 bytes. */
-    public String pair_name;
+    public String pair_name = "";
     /** The primary logical unit. */
     public int pvol_lun;
     /** The secondary logical unit. */

@@ -4,5 +4,5 @@ package tessaly.str.diskarray;
 public class SplitGemlynPair extends PairOperation {
     public int forced_split;
     /** At most 31 bytes. */
-    public String add_message;
+    public String add_message = "";
 }

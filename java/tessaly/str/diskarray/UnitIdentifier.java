@@ -3,7 +3,7 @@ package tessaly.str.diskarray;
 /** How an array identifies itself. */
 public class UnitIdentifier {
     /** At most 4 bytes. */
-    public String equipment_id;
+    public String equipment_id = "";
     /** 2 elements. */
     public ControllerInfo[] ctl;
 }
