@@ -9,9 +9,10 @@
 #include <map>
 #include <set>
 
+#include "arraylib/all_information.h"
 #include "bridge/class_map.h"
-#include "record_headers.inc"
 #include "simulator/control.h"
+#include "tests/support/class_maps.h"
 #include "tests/support/departures.h"
 #include "tests/support/mini_jvm.h"
 #include "tests/support/native_methods.h"
@@ -372,25 +373,15 @@ void addSites(std::set<std::string>& sites, const char* className, const ClassMa
   }
 }
 
-/// The maps of the records with a Java class, by the class.
-const std::map<std::string, const ClassMap*>& classMaps() {
-  static const std::map<std::string, const ClassMap*> maps{
-#define RECORD_ENTRY(header, Record) {ClassOf<Record>::kMap.className, &ClassOf<Record>::kMap},
-#include "record_entries.inc"
-#undef RECORD_ENTRY
-  };
-  return maps;
-}
-
 /// What the fields of all objects cost that methods return, or that they take.
 const std::set<std::string>& sitesOfMaps(bool built) {
   static const auto collect = [](bool ofResults) {
     std::set<std::string> sites;
     const auto add = [&](const std::string& type) {
       const std::size_t start = type.find_first_not_of("[L");
-      const auto map = classMaps().find(type.substr(start, type.find(';') - start));
-      if (map != classMaps().end()) {
-        addSites(sites, map->second->className, *map->second, ofResults);
+      const auto found = mappedClasses().find(type.substr(start, type.find(';') - start));
+      if (found != mappedClasses().end()) {
+        addSites(sites, found->first.c_str(), *found->second.map, ofResults);
       }
     };
     for (const NativeMethod& method : nativeMethods()) {
@@ -516,8 +507,8 @@ void sweepFields(const std::string& className, const ClassMap& map) {
 }
 
 TEST(SweepOfFields, JniCallsFail) {
-  for (const auto& [className, map] : classMaps()) {
-    sweepFields(className, *map);
+  for (const auto& [className, mapped] : mappedClasses()) {
+    sweepFields(className, *mapped.map);
   }
 }
 
