@@ -284,6 +284,7 @@ struct PerformanceMngInfo {
 };
 QUORVEL_RECORD(PerformanceMngInfo, 232);
 QUORVEL_ASSUMED(PerformanceMngInfo);
+QUORVEL_ASSUMED_SIZE(PerformanceMngInfo, 4096);
 
 /// What an output of all counters writes, for LUs up to 2,047.
 struct PerformanceOutputAllRequest {
@@ -349,6 +350,7 @@ struct PerformanceOutputCSVRequest {
 };
 QUORVEL_RECORD(PerformanceOutputCSVRequest, 1336);
 QUORVEL_ASSUMED(PerformanceOutputCSVRequest);
+QUORVEL_ASSUMED_SIZE(PerformanceOutputCSVRequest, 4096);
 
 struct PerformanceCollectGraphPort {
   std::byte reserved[24];

@@ -68,6 +68,20 @@ inline constexpr bool kAssumedFunction = false;
   template <>                              \
   inline constexpr bool quorvelj::kAssumedFunction<function> = true
 
+namespace quorvelj {
+
+/// Bytes behind a record that the library may reach, where the record's size is itself assumed.
+template <class Record>
+inline constexpr std::size_t kSpareBytes = 0;
+
+}  // namespace quorvelj
+
+/// Marks the size of a record as assumed: the library gets `bytes` more behind it, so that a larger
+/// record of its own does no harm.
+#define QUORVEL_ASSUMED_SIZE(Record, bytes) \
+  template <>                               \
+  inline constexpr std::size_t quorvelj::kSpareBytes<Record> = bytes
+
 // How a function of the library is declared. The simulator exports them.
 #ifndef QUORVEL_API
 #define QUORVEL_API extern "C"

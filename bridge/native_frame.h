@@ -49,10 +49,10 @@ namespace quorvelj {
       Java_tessaly_str_diskarray_DiskArrayUtilityJNI_QV_1##Operation( \
           JNIEnv* env, jobject __VA_OPT__(, ) __VA_ARGS__)
 
-/// Allocates an uninitialised record, or returns null.
+/// Allocates an uninitialised record with its spare bytes, or returns null.
 template <class Record>
 Record* allocate() {
-  return static_cast<Record*>(allocateRecord(sizeof(Record)));
+  return static_cast<Record*>(allocateRecord(sizeof(Record) + kSpareBytes<Record>));
 }
 
 /// A new uninitialised record that is released at the end of its scope; null where there is no

@@ -150,5 +150,10 @@ TEST_F(FrameTrace, ArrayResult) {
   EXPECT_EQ(jvm_.textOf(jvm_.elementsOf(result)[1], "user_id"), "b");
 }
 
+TEST_F(FrameTrace, RecordsOfAssumedSizeHaveSpareBytes) {
+  EXPECT_EQ(only(trace("QV_PerformanceInputMngFile"), "malloc"), Events("malloc 4328"));
+  EXPECT_EQ(only(trace("QV_PerformanceOutputCSV"), "malloc"), Events("malloc 5432"));
+}
+
 }  // namespace
 }  // namespace quorvelj::testing

@@ -212,15 +212,19 @@ jstring newRevision(JNIEnv* env, Function function, Java... path) {
   if (!library.begin()) {
     return nullptr;
   }
-  MicroRevisionText revision{};
-  const int result = library.call(&revision);
+  // How much the library writes is not known: the spare bytes keep a longer text from the stack.
+  struct {
+    MicroRevisionText text;
+    std::byte spare[1024];
+  } revision{};
+  const int result = library.call(&revision.text);
   if (result != 0) {
     throwArrayException(env, result);
     return nullptr;
   }
   // One byte more: a revision that fills its buffer has no NUL of its own.
-  char text[sizeof revision + 1]{};
-  std::memcpy(text, revision, sizeof revision);
+  char text[sizeof revision.text + 1]{};
+  std::memcpy(text, revision.text, sizeof revision.text);
   const jstring string = env->NewStringUTF(text);
   if (string == nullptr) {
     throwArrayException(env, kFailed);
