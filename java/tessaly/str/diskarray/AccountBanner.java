@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** The warning that an array shows before a login. */
+/** The warning that an array shows before a login. Layout assumed. */
 public class AccountBanner {
     /** Whether it is shown. */
     public int warning_banner_display;

@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** The identifier of an alternate path. */
+/** The identifier of an alternate path. Layout assumed. */
 public class AlternatePathID {}

@@ -1,6 +1,10 @@
 package tessaly.str.diskarray;
 
-/** A slice of what an array tells of itself: the unit, its drives, RAID groups and LUs. */
+/**
+ * A slice of what an array tells of itself: the unit, its drives, RAID groups and LUs.
+ *
+ * <p>Layout assumed.
+ */
 public class ArrayAllInfo_Base {
     public int valid_index;
     public UnitCondition[] unit_conditions;

@@ -1,6 +1,11 @@
 package tessaly.str.diskarray;
 
-/** A slice of what an array tells of itself: parameters of host groups, cache partitions and port kinds. */
+/**
+ * A slice of what an array tells of itself: parameters of host groups, cache partitions and port
+ * kinds.
+ *
+ * <p>Layout assumed.
+ */
 public class ArrayAllInfo_BaseAdditional {
     public int valid_index;
     public HGParameterID[] hgparamid;

@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** A slice of what an array tells of itself: ports, LAN and settings. */
+/** A slice of what an array tells of itself: ports, LAN and settings. Layout assumed. */
 public class ArrayAllInfo_Config {
     public int valid_index;
     public FibreInformation[] fibre_info;

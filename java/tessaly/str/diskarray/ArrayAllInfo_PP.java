@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** A slice of what an array tells of itself: program products. */
+/** A slice of what an array tells of itself: program products. Layout assumed. */
 public class ArrayAllInfo_PP {
     public int valid_index;
     public TurboLu turbo_lu;

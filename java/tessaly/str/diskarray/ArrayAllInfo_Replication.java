@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** A slice of what an array tells of itself: pools, pairs and remote paths. */
+/** A slice of what an array tells of itself: pools, pairs and remote paths. Layout assumed. */
 public class ArrayAllInfo_Replication {
     public int valid_index;
     public PoolInfo pool_info;

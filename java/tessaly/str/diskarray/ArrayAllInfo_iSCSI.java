@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** A slice of what an array tells of itself: iSCSI ports. */
+/** A slice of what an array tells of itself: iSCSI ports. Layout assumed. */
 public class ArrayAllInfo_iSCSI {
     public int valid_index;
     public QViSCSIPortInformation iscsi_port;

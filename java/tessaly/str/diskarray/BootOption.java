@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** Boot options. */
+/** Boot options. Layout assumed. */
 public class BootOption {}

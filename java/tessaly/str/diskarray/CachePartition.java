@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** Cache partitions. */
+/** Cache partitions. Layout assumed. */
 public class CachePartition {}

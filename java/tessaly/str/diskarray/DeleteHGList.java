@@ -2,7 +2,7 @@ package tessaly.str.diskarray;
 
 import java.util.Arrays;
 
-/** The host groups to delete. */
+/** The host groups to delete. Layout assumed. */
 public class DeleteHGList {
     /** 2 elements. */
     public DeleteHGCtlList[] ctl = new DeleteHGCtlList[2];

@@ -142,7 +142,12 @@ public class DiskArrayUtilityJNI {
     public native UnitIdentifier QV_GetUnitIdentifier(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Sets how an array identifies itself. */
+    /**
+     * Sets how an array identifies itself.
+     *
+     * <p>Layout assumed: 32 bytes have no field, and reach the library as they lay in memory.
+     * Confirm the layout before the first call on an array in use.
+     */
     public native void QV_SetUnitIdentifier(
             String unit, QVSessionInfo session, UnitIdentifier identifier)
             throws DiskArrayException;
@@ -151,7 +156,12 @@ public class DiskArrayUtilityJNI {
     public native TimeInfo QV_GetTimeInfo(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Sets the settings of an array for its time. */
+    /**
+     * Sets the settings of an array for its time.
+     *
+     * <p>Layout assumed: 660 bytes have no field, and reach the library as they lay in memory.
+     * Confirm the layout before the first call on an array in use.
+     */
     public native void QV_SetTimeInfo(String unit, QVSessionInfo session, TimeInfo info)
             throws DiskArrayException;
 
@@ -379,11 +389,21 @@ public class DiskArrayUtilityJNI {
             StatisticalCommand afterinfo1, byte[] lu, int option0, int option1)
             throws DiskArrayException;
 
-    /** Writes the counters of an interval to a file. */
+    /**
+     * Writes the counters of an interval to a file.
+     *
+     * <p>Layout assumed: 104 bytes have no field, and reach the library as they lay in memory.
+     * Confirm the layout before the first call on an array in use.
+     */
     public native void QV_PerformanceOutputAll(String unit, PerformanceOutputAllRequest request)
             throws DiskArrayException;
 
-    /** Writes the counters of an interval to a file, in the extended form. */
+    /**
+     * Writes the counters of an interval to a file, in the extended form.
+     *
+     * <p>Layout assumed: 412 bytes have no field, and reach the library as they lay in memory.
+     * Confirm the layout before the first call on an array in use.
+     */
     public native void QV_PerformanceOutputAllEx(
             String unit, QVSessionInfo session, PerformanceOutputAllExRequest request)
             throws DiskArrayException;
@@ -392,11 +412,21 @@ public class DiskArrayUtilityJNI {
     public native void QV_PerformanceOutputSkip(String unit, String path, QVTime time, int option)
             throws DiskArrayException;
 
-    /** Writes a part of a collection as CSV. */
+    /**
+     * Writes a part of a collection as CSV.
+     *
+     * <p>Layout assumed: 256 bytes have no field, and reach the library as they lay in memory.
+     * Confirm the layout before the first call on an array in use.
+     */
     public native void QV_PerformanceOutputCSV(String path, PerformanceOutputCSVRequest request)
             throws DiskArrayException;
 
-    /** Returns how many CSV files a part of a collection makes. */
+    /**
+     * Returns how many CSV files a part of a collection makes.
+     *
+     * <p>Layout assumed: 256 bytes have no field, and reach the library as they lay in memory.
+     * Confirm the layout before the first call on an array in use.
+     */
     public native int QV_GetPerformanceCSVNum(String path, PerformanceOutputCSVRequest request)
             throws DiskArrayException;
 
@@ -410,7 +440,12 @@ public class DiskArrayUtilityJNI {
             QVSessionInfo session, String path, int option0, int option1)
             throws DiskArrayException;
 
-    /** Adds the graph of an interval to a collection. */
+    /**
+     * Adds the graph of an interval to a collection.
+     *
+     * <p>Layout assumed: 864,488 bytes have no field, and reach the library as they lay in memory.
+     * Confirm the layout before the first call on an array in use.
+     */
     public native void QV_PerformanceDataOutput(String path, PerformanceCollectGraphInfo graph)
             throws DiskArrayException;
 
@@ -678,13 +713,15 @@ public class DiskArrayUtilityJNI {
     public native void QV_SetExpirationLock(String unit, QVSessionInfo session, int value)
             throws DiskArrayException;
 
-    /** Returns the cache-resident LUs; layout assumed. */
+    /** Returns the cache-resident LUs. */
     public native TurboLu QV_GetTurboLU(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
     /**
-     * Sets the cache-resident LUs; layout assumed. No field of {@link TurboLu} is known: the array
-     * would be given the 44 bytes as they lay in memory. Do not call it before the layout is settled.
+     * Sets the cache-resident LUs.
+     *
+     * <p>Layout assumed: 44 bytes have no field, and reach the library as they lay in memory.
+     * Confirm the layout before the first call on an array in use.
      */
     public native void QV_SetTurboLU(String unit, QVSessionInfo session, TurboLu turbo)
             throws DiskArrayException;
@@ -780,7 +817,12 @@ public class DiskArrayUtilityJNI {
     public native HGOption QV_GetHGOptionAll(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Sets the options of all host groups. */
+    /**
+     * Sets the options of all host groups.
+     *
+     * <p>Layout assumed: 16,480 bytes have no field, and reach the library as they lay in memory.
+     * Confirm the layout before the first call on an array in use.
+     */
     public native void QV_SetHGOptionAll(String unit, QVSessionInfo session, HGOption options)
             throws DiskArrayException;
 
@@ -789,7 +831,12 @@ public class DiskArrayUtilityJNI {
             String unit, QVSessionInfo session, int controller, int port, int group)
             throws DiskArrayException;
 
-    /** Sets the options of one host group. */
+    /**
+     * Sets the options of one host group.
+     *
+     * <p>Layout assumed: 4 bytes have no field, and reach the library as they lay in memory.
+     * Confirm the layout before the first call on an array in use.
+     */
     public native void QV_SetHGOption(
             String unit, QVSessionInfo session, int controller, int port, int group,
             HGOptionInfo option)
@@ -799,7 +846,12 @@ public class DiskArrayUtilityJNI {
     public native PortOption QV_GetPortOption(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Sets the options of all ports. */
+    /**
+     * Sets the options of all ports.
+     *
+     * <p>Layout assumed: 16 bytes have no field, and reach the library as they lay in memory.
+     * Confirm the layout before the first call on an array in use.
+     */
     public native void QV_SetPortOption(String unit, QVSessionInfo session, PortOption options)
             throws DiskArrayException;
 
@@ -818,7 +870,12 @@ public class DiskArrayUtilityJNI {
     /** Returns the hosts known at the ports. */
     public native WWNInformation QV_GetWWNInformation(String unit) throws DiskArrayException;
 
-    /** Sets the hosts known at the ports. */
+    /**
+     * Sets the hosts known at the ports.
+     *
+     * <p>Layout assumed: 297,056 bytes have no field, and reach the library as they lay in memory.
+     * Confirm the layout before the first call on an array in use.
+     */
     public native void QV_SetWWNInformation(String unit, WWNInformation information)
             throws DiskArrayException;
 
@@ -826,7 +883,12 @@ public class DiskArrayUtilityJNI {
     public native WWNHGInformation QV_GetWWNHGInformation(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Sets the hosts of the host groups. */
+    /**
+     * Sets the hosts of the host groups.
+     *
+     * <p>Layout assumed: 155,776 bytes have no field, and reach the library as they lay in memory.
+     * Confirm the layout before the first call on an array in use.
+     */
     public native void QV_SetWWNHGInformation(
             String unit, QVSessionInfo session, WWNHGInformation information)
             throws DiskArrayException;
@@ -834,7 +896,12 @@ public class DiskArrayUtilityJNI {
     /** Returns the two target IDs of a controller. */
     public native TargetId[] QV_GetTargetId(String unit, int controller) throws DiskArrayException;
 
-    /** Sets a target ID of a controller. */
+    /**
+     * Sets a target ID of a controller.
+     *
+     * <p>Layout assumed: 8,192 bytes have no field, and reach the library as they lay in memory.
+     * Confirm the layout before the first call on an array in use.
+     */
     public native void QV_SetTargetId(String unit, int controller, TargetId id)
             throws DiskArrayException;
 
@@ -978,7 +1045,12 @@ public class DiskArrayUtilityJNI {
     public native QVUserLANInformation QV_GetQVUserLANInformation(
             String unit, QVSessionInfo session) throws DiskArrayException;
 
-    /** Sets the user LAN. */
+    /**
+     * Sets the user LAN.
+     *
+     * <p>Layout assumed: 184 bytes have no field, and reach the library as they lay in memory.
+     * Confirm the layout before the first call on an array in use.
+     */
     public native void QV_SetQVUserLANInformation(
             String unit, QVSessionInfo session, QVUserLANInformation information)
             throws DiskArrayException;
@@ -987,11 +1059,21 @@ public class DiskArrayUtilityJNI {
     public native QVUserLANInformation QV_LoadQVUserLANInformation(
             String unit, String path, QVSessionInfo session) throws DiskArrayException;
 
-    /** Writes the LAN settings to a file. */
+    /**
+     * Writes the LAN settings to a file.
+     *
+     * <p>Layout assumed: 8 bytes have no field, and reach the library as they lay in memory.
+     * Confirm the layout before the first call on an array in use.
+     */
     public native void QV_LANExport(String unit, QVSessionInfo session, LANFile file)
             throws DiskArrayException;
 
-    /** Sets the LAN from a file. */
+    /**
+     * Sets the LAN from a file.
+     *
+     * <p>Layout assumed: 8 bytes have no field, and reach the library as they lay in memory.
+     * Confirm the layout before the first call on an array in use.
+     */
     public native void QV_LANImport(String unit, QVSessionInfo session, LANFile file)
             throws DiskArrayException;
 
@@ -1020,7 +1102,12 @@ public class DiskArrayUtilityJNI {
     public native FibreInformation[] QV_GetFibreInformation(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Sets the Fibre Channel ports of both controllers. */
+    /**
+     * Sets the Fibre Channel ports of both controllers.
+     *
+     * <p>Layout assumed: 80 bytes have no field, and reach the library as they lay in memory.
+     * Confirm the layout before the first call on an array in use.
+     */
     public native void QV_SetFibreInformation(
             String unit, QVSessionInfo session, FibreInformation first,
             FibreInformation second) throws DiskArrayException;

@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** The identifier of a failover. */
+/** The identifier of a failover. Layout assumed. */
 public class FailOverID {}

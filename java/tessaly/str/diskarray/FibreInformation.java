@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** The Fibre Channel ports of a controller. */
+/** The Fibre Channel ports of a controller. Layout assumed. */
 public class FibreInformation {
     public int lun_security;
     public int port_valid;

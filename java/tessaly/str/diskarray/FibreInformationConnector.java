@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** A connector of a Fibre Channel port. */
+/** A connector of a Fibre Channel port. Layout assumed. */
 public class FibreInformationConnector {
     public int topology_ref;
 }

@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** A host that may use a Fibre Channel port. */
+/** A host that may use a Fibre Channel port. Layout assumed. */
 public class FibreInformationPermission {
     /** At most 16 bytes. */
     public String node_name = "";

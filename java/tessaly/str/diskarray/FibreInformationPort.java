@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** A Fibre Channel port. */
+/** A Fibre Channel port. Layout assumed. */
 public class FibreInformationPort {
     /** At most 16 bytes. */
     public String node_name = "";

@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** The hosts that may use a Fibre Channel port. */
+/** The hosts that may use a Fibre Channel port. Layout assumed. */
 public class FibreInformationSecurity {
     public int access_guard;
     public int all_lun_security;

@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** The firmware levels of a Fibre Channel adapter, at most 4 bytes each. */
+/** The firmware levels of a Fibre Channel adapter, at most 4 bytes each. Layout assumed. */
 public class FibreInformationSfc {
     public String biu = "";
     public String sequence = "";

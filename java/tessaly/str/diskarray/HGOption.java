@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** The options of all host groups. */
+/** The options of all host groups. Layout assumed. */
 public class HGOption {
     public HGOptionValidIndex support_index;
     public HGOptionValidIndex valid_index;

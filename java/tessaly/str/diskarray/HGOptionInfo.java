@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** The options of a host group. */
+/** The options of a host group. Layout assumed. */
 public class HGOptionInfo {
     public int option;
     public int option2;

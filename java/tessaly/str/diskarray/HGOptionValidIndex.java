@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** Which host group options there are. */
+/** Which host group options there are. Layout assumed. */
 public class HGOptionValidIndex {}

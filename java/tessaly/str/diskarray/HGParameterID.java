@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** The identifiers of the host group parameters. */
+/** The identifiers of the host group parameters. Layout assumed. */
 public class HGParameterID {
     public int plat_id_count;
     /** Always 16 elements. */

@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** The host group parameters that there are to choose from. */
+/** The host group parameters that there are to choose from. Layout assumed. */
 public class HGParameterList {
     public int platform_count;
     /** Always 20 elements. */

@@ -2,7 +2,7 @@ package tessaly.str.diskarray;
 
 import java.util.Arrays;
 
-/** The host groups of a controller to set back. */
+/** The host groups of a controller to set back. Layout assumed. */
 public class InitHGCtlList {
     /** 8 elements. */
     public InitHGPortList[] port = new InitHGPortList[8];

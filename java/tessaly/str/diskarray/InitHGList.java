@@ -2,7 +2,7 @@ package tessaly.str.diskarray;
 
 import java.util.Arrays;
 
-/** The host groups to set back. */
+/** The host groups to set back. Layout assumed. */
 public class InitHGList {
     /** 2 elements. */
     public InitHGCtlList[] ctl = new InitHGCtlList[2];

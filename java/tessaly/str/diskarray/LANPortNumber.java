@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** The management port numbers of an array. */
+/** The management port numbers of an array. Layout assumed. */
 public class LANPortNumber {
     /** 2 elements. */
     public LANPortNumberCtl[] ctl;

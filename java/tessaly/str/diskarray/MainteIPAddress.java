@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** An address for the maintenance LAN. */
+/** An address for the maintenance LAN. Layout assumed. */
 public class MainteIPAddress {
     public int set_ipversion;
     /** At most 39 bytes. */

@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** The addresses that the maintenance LAN may be given. */
+/** The addresses that the maintenance LAN may be given. Layout assumed. */
 public class MainteLanAvailableList {
     public int available_count;
     /** 5 elements. */

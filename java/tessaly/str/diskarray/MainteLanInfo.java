@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** The maintenance LAN of an array. */
+/** The maintenance LAN of an array. Layout assumed. */
 public class MainteLanInfo {
     /** 2 elements, the controllers. */
     public MainteLanInfoDetail[] ctl;

@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** The identifier of a middleware. */
+/** The identifier of a middleware. Layout assumed. */
 public class MiddlewareID {
     public int middleware_id;
     /** At most 39 bytes. */

@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** A middleware of hosts. */
+/** A middleware of hosts. Layout assumed. */
 public class MiddlewareInfo {}

@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** States of the NAS operating system. */
+/** States of the NAS operating system. Layout assumed. */
 public class NASOSStatusList {}

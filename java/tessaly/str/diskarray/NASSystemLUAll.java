@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** System LUs of the NAS. */
+/** System LUs of the NAS. Layout assumed. */
 public class NASSystemLUAll {}

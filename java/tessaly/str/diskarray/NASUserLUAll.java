@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** User LUs of the NAS. */
+/** User LUs of the NAS. Layout assumed. */
 public class NASUserLUAll {}

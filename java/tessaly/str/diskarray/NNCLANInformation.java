@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** The LAN of the network controllers. */
+/** The LAN of the network controllers. Layout assumed. */
 public class NNCLANInformation {
     /** 4 elements, -128 to 127. */
     public int[] nnclaninfo_valid;

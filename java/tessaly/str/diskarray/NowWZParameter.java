@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** Online options. */
+/** Online options. Layout assumed. */
 public class NowWZParameter {}

@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** System parameters. */
+/** System parameters. Layout assumed. */
 public class OnlineSystemParam {}

@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** Tuning parameters while the array runs. */
+/** Tuning parameters while the array runs. Layout assumed. */
 public class OnlineTuningParam {}

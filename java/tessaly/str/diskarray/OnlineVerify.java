@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** Verification while the array runs. */
+/** Verification while the array runs. Layout assumed. */
 public class OnlineVerify {}

@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** What the session's own user may do. */
+/** What the session's own user may do. Layout assumed. */
 public class OwnUserPermission {
     /** 9 elements. */
     public int[] operation_auth;

@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** An option of the output as CSV. */
+/** An option of the output as CSV. Layout assumed. */
 public class PerformanceCSVOutputOpt {}

@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** Counter differences, computed for a graph. */
+/** Counter differences, computed for a graph. Layout assumed. */
 public class PerformanceCollectGraph {
     public QVTime[] mtime;
     public PerformanceCollectGraphPort[] port;

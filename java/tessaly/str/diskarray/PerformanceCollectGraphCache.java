@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** The graph of the cache. */
+/** The graph of the cache. Layout assumed. */
 public class PerformanceCollectGraphCache {}

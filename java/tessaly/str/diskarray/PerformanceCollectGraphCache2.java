@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** The graph of the cache, further values. */
+/** The graph of the cache, further values. Layout assumed. */
 public class PerformanceCollectGraphCache2 {}

@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** The graph of a cache partition. */
+/** The graph of a cache partition. Layout assumed. */
 public class PerformanceCollectGraphCachePartition {}

@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** The graph of a drive. */
+/** The graph of a drive. Layout assumed. */
 public class PerformanceCollectGraphDrive {}

@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** The graph of a drive's operation. */
+/** The graph of a drive's operation. Layout assumed. */
 public class PerformanceCollectGraphDriveOpr {}

@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** The graph of an LU. */
+/** The graph of an LU. Layout assumed. */
 public class PerformanceCollectGraphLU {}

@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** The graph of an LU, further values. */
+/** The graph of an LU, further values. Layout assumed. */
 public class PerformanceCollectGraphLUEx {}

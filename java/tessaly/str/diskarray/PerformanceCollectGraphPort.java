@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** The graph of a port. */
+/** The graph of a port. Layout assumed. */
 public class PerformanceCollectGraphPort {}

@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** The graph of the processor. */
+/** The graph of the processor. Layout assumed. */
 public class PerformanceCollectGraphProcessor {}

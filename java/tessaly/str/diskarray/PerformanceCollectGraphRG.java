@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** The graph of a RAID group. */
+/** The graph of a RAID group. Layout assumed. */
 public class PerformanceCollectGraphRG {}

@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** The content of a collection's management file. */
+/** The content of a collection's management file. Layout assumed. */
 public class PerformanceMngInfo {
     public String dampver;
     public String unitname;

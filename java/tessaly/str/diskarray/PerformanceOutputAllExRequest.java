@@ -2,7 +2,11 @@ package tessaly.str.diskarray;
 
 import java.util.Arrays;
 
-/** Two controllers' snapshots before and after an interval, and what to write of them. */
+/**
+ * Two controllers' snapshots before and after an interval, and what to write of them.
+ *
+ * <p>Layout assumed.
+ */
 public class PerformanceOutputAllExRequest {
     public String filename = "";
     public PerformanceAll preinfo0;

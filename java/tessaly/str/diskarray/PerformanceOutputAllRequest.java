@@ -1,6 +1,10 @@
 package tessaly.str.diskarray;
 
-/** Two controllers' snapshots before and after an interval, and what to write of them. */
+/**
+ * Two controllers' snapshots before and after an interval, and what to write of them.
+ *
+ * <p>Layout assumed.
+ */
 public class PerformanceOutputAllRequest {
     public String filename = "";
     public PerformanceAll preinfo0;

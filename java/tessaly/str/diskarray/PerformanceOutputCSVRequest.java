@@ -2,7 +2,7 @@ package tessaly.str.diskarray;
 
 import java.util.Arrays;
 
-/** The part of a collection to write as CSV, and where to. */
+/** The part of a collection to write as CSV, and where to. Layout assumed. */
 public class PerformanceOutputCSVRequest {
     public String dirname = "";
     public PerformanceTime fromtime = new PerformanceTime();

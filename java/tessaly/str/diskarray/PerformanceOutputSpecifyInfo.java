@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** What an output of all counters writes of one controller. */
+/** What an output of all counters writes of one controller. Layout assumed. */
 public class PerformanceOutputSpecifyInfo {
     /** 8 bytes. */
     public byte[] port = new byte[8];

@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** The identifier of a platform. */
+/** The identifier of a platform. Layout assumed. */
 public class PlatFormID {}

@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** A platform of hosts. */
+/** A platform of hosts. Layout assumed. */
 public class PlatformInfo {}

@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** A platform of hosts and its middleware, in the second form. */
+/** A platform of hosts and its middleware, in the second form. Layout assumed. */
 public class PlatformInfo2 {
     public int platform_id;
     public int middleware_count;

@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** The options of a controller's ports. */
+/** The options of a controller's ports. Layout assumed. */
 public class PortOptionCtlInfo {
     /** 8 elements. */
     public int[] lip_mode;

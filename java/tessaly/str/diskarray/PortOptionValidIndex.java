@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** Which port options there are. */
+/** Which port options there are. Layout assumed. */
 public class PortOptionValidIndex {}

@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** Prefetching. */
+/** Prefetching. Layout assumed. */
 public class PrefetchInformation {}

@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** Tuning of prefetching. */
+/** Tuning of prefetching. Layout assumed. */
 public class PrefetchTuning {}

@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** An account of an array. */
+/** An account of an array. Layout assumed. */
 public class QVAccountBaseInfo {
     public String user_id;
     public int set_passwd;

@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** The user LAN of a controller: as it is, and as it is to be set. */
+/** The user LAN of a controller: as it is, and as it is to be set. Layout assumed. */
 public class QVUserLANDetail {
     public int support_index;
     public int valid_index;

@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** The user LAN of an array. */
+/** The user LAN of an array. Layout assumed. */
 public class QVUserLANInformation {
     /** 2 elements. */
     public QVUserLANDetail[] ctl;

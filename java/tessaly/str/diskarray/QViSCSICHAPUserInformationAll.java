@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** The CHAP users of an array. */
+/** The CHAP users of an array. Layout assumed. */
 public class QViSCSICHAPUserInformationAll {
     public int option;
     /** 2 elements. */

@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** The registered iSCSI initiators of an array. */
+/** The registered iSCSI initiators of an array. Layout assumed. */
 public class QViSCSIInitiatorInformationAll {
     public int option;
     /** 2 elements. */

@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** The pings from an array. */
+/** The pings from an array. Layout assumed. */
 public class QViSCSIPing {
     /** 2 elements. */
     public QViSCSIPingCTL[] ctl;

@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** The iSCSI paths to another array. */
+/** The iSCSI paths to another array. Layout assumed. */
 public class QViSCSIRemotePath {
     public int path_valid;
     /** At most 8 bytes. */

@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** The iSNS servers of one controller. */
+/** The iSNS servers of one controller. Layout assumed. */
 public class QViSNSCTLInfo {
     /** 8 elements. */
     public QViSNSPortInfo[] port;

@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** The identifier of a special mode. */
+/** The identifier of a special mode. Layout assumed. */
 public class SpecialModeID {}

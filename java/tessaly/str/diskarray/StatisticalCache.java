@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** Counters of the cache. */
+/** Counters of the cache. Layout assumed. */
 public class StatisticalCache {
     public int wrt_inhcnt;
     public int wrt_outhcnt;

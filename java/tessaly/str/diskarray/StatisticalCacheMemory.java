@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** Errors of the cache memory. */
+/** Errors of the cache memory. Layout assumed. */
 public class StatisticalCacheMemory {
     public int battery;
     public int threshold;

@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** Counters of a cache partition. */
+/** Counters of a cache partition. Layout assumed. */
 public class StatisticalCachePartition {}

@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** Counters of the drives. */
+/** Counters of the drives. Layout assumed. */
 public class StatisticalDrive {
     public int err_rtry;
     public StatisticalDrive_Info[][] drive;

@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** Errors of the drive interface's transfers. */
+/** Errors of the drive interface's transfers. Layout assumed. */
 public class StatisticalDriveDma {
     public int dma_retry;
     public int dma_path_retry;

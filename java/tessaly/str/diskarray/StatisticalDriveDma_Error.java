@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** A kind of error of the transfers. */
+/** A kind of error of the transfers. Layout assumed. */
 public class StatisticalDriveDma_Error {}

@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** Errors of a drive. */
+/** Errors of a drive. Layout assumed. */
 public class StatisticalDriveError_Info {}

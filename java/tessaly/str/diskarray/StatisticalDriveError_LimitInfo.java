@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** The limits of errors. */
+/** The limits of errors. Layout assumed. */
 public class StatisticalDriveError_LimitInfo {}

@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** Errors of a port to the drives. */
+/** Errors of a port to the drives. Layout assumed. */
 public class StatisticalDriveFpc_Info {}

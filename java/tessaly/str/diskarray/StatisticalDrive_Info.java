@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** Counters of a drive. */
+/** Counters of a drive. Layout assumed. */
 public class StatisticalDrive_Info {}

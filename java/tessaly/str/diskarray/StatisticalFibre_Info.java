@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** Counters of a fibre port. */
+/** Counters of a fibre port. Layout assumed. */
 public class StatisticalFibre_Info {}

@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** Errors of the host ports. */
+/** Errors of the host ports. Layout assumed. */
 public class StatisticalHostSpc {
     public StatisticalHostSpc_Info[] port;
 }

@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** Errors of a host port. */
+/** Errors of a host port. Layout assumed. */
 public class StatisticalHostSpc_Info {}

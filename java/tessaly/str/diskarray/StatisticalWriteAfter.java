@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** Counters of the writing from the cache to the drives. */
+/** Counters of the writing from the cache to the drives. Layout assumed. */
 public class StatisticalWriteAfter {
     public int raid0_stripe_cnt;
     public int[] raid0_stripe_job;

@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** The writing to a drive. */
+/** The writing to a drive. Layout assumed. */
 public class StatisticalWriteAfter_PDEVInfo {}

@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** How target IDs are configured. */
+/** How target IDs are configured. Layout assumed. */
 public class TargetConfig {
     public int single;
     /** 16 elements. */

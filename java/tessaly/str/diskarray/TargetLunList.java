@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** The LUs of a target ID. */
+/** The LUs of a target ID. Layout assumed. */
 public class TargetLunList {}

@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** Time zones. */
+/** Time zones. Layout assumed. */
 public class TimeZoneList {}

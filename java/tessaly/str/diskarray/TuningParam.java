@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** Tuning parameters. */
+/** Tuning parameters. Layout assumed. */
 public class TuningParam {}

@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** Turbo LUs. */
+/** Turbo LUs. Layout assumed. */
 public class TurboLu {}

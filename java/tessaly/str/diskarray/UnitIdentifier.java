@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** How an array identifies itself. */
+/** How an array identifies itself. Layout assumed. */
 public class UnitIdentifier {
     /** At most 4 bytes. */
     public String equipment_id = "";

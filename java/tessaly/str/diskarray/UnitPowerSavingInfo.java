@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** Power saving of the unit. */
+/** Power saving of the unit. Layout assumed. */
 public class UnitPowerSavingInfo {}

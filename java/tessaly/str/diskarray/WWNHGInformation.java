@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** The hosts of the host groups. */
+/** The hosts of the host groups. Layout assumed. */
 public class WWNHGInformation {
     public int lun_manage;
     /** 2 elements. */

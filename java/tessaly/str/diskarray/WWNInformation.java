@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** The hosts known at the ports. */
+/** The hosts known at the ports. Layout assumed. */
 public class WWNInformation {
     public int lun_security_opt;
     /** 2 elements. */

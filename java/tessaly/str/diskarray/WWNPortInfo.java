@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** The hosts known at a port. */
+/** The hosts known at a port. Layout assumed. */
 public class WWNPortInfo {}
