@@ -39,3 +39,7 @@ expect agrees 0 $all
 expect differs 1 $all
 expect renamed 0 StatisticalHostCommand_Info StatisticalShuuhen
 expect missing 2 QVTime
+if CFLAGS="-I$tests/layout_probe" sh "$directory/agrees/run.sh" QVTime Nothing >/dev/null 2>&1; then
+  echo "a record that there is not was taken" >&2
+  exit 1
+fi

@@ -78,7 +78,7 @@ static int probe_verdict(const char* record, const char* place, unsigned long by
                          unsigned long library_bytes) {
   const int differs = bytes != library_bytes || probe_members_differ();
   int at;
-  printf("%s  %-24s ", differs ? "DIFF" : probe_unknown_count > 0 ? "NAME" : "ok  ", record);
+  printf("%s  %-38s ", differs ? "DIFF" : probe_unknown_count > 0 ? "NAME" : "ok  ", record);
   if (bytes != library_bytes) {
     printf("%lu here, %lu in the library", bytes, library_bytes);
   } else if (differs || probe_unknown_count > 0) {

@@ -21,8 +21,12 @@ for /f "usebackq tokens=1-3" %%a in ("%here%records.txt") do (
   if defined wanted call :probe %%a %%b %%c
 )
 echo %agree% agree, %differ% differ, %open% open
-set /a others=differ+open
-if %agree%==0 exit /b 1
+set /a others=differ+open, missing=-agree-differ-open
+for %%r in (%*) do set /a missing+=1
+if %missing% gtr 0 (
+  echo not all of these are records: %*
+  exit /b 1
+)
 if not %others%==0 exit /b 1
 exit /b 0
 
@@ -31,8 +35,8 @@ exit /b 0
 exit /b %errorlevel%
 
 :probe
-set "padded=%1                        "
-set "padded=%padded:~0,24%"
+set "padded=%1                                      "
+set "padded=%padded:~0,38%"
 set "options="
 call :build %1
 if not errorlevel 1 goto run

@@ -15,7 +15,7 @@ build() {
 }
 
 open() {
-  printf 'OPEN  %-24s %s     %s\n' "$1" "$2" "$3"
+  printf 'OPEN  %-38s %s     %s\n' "$1" "$2" "$3"
   open=$((open + 1))
 }
 
