@@ -6,7 +6,7 @@ SOAK_JAVA := MALLOC_MMAP_THRESHOLD_=131072 $(JAVA) -cp $(BUILD)/lib/quorvelj.jar
   -Xms512m -Xmx512m -XX:+AlwaysPreTouch
 SOAK_SECONDS := 1800
 
-.PHONY: tour test check mutants benchmark coverage soak dist reference clean
+.PHONY: tour test check mutants benchmark coverage soak dist reference probe clean
 .PHONY: packages-build packages-test packages-check packages-coverage packages-dist
 
 tour: packages-build
@@ -40,6 +40,11 @@ soak: packages-test
 reference: packages-test
 	cmake --preset linux -DQUORVELJ_TESTS=ON -DQUORVELJ_BENCHMARKS=OFF
 	cmake --build --preset linux --target write_reference
+
+# Into build/linux/layout-probe; docs/settling-layouts.md says what to do with it.
+probe: packages-build
+	cmake --preset linux -DQUORVELJ_TESTS=OFF -DQUORVELJ_BENCHMARKS=OFF
+	cmake --build --preset linux --target write_probe
 
 dist: packages-dist
 	scripts/dist.sh

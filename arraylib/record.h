@@ -26,6 +26,7 @@ struct ClassOf;
   struct quorvelj::ClassOf<Record> {                                                    \
     static constexpr char kName[] = "tessaly/str/diskarray/" #Record;                   \
     static constexpr char kArraySignature[] = "[[[Ltessaly/str/diskarray/" #Record ";"; \
+    static constexpr int kLine = __LINE__;                                              \
     static const ClassMap kMap;                                                         \
   }
 
@@ -36,6 +37,7 @@ struct ClassOf;
   template <>                                                       \
   struct quorvelj::ClassOf<Record> {                                \
     static constexpr char kName[] = "";                             \
+    static constexpr int kLine = __LINE__;                          \
     static const ClassMap kMap;                                     \
   }
 

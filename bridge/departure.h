@@ -2,14 +2,21 @@
 
 #include <cstdint>
 #include <limits>
+#include <span>
 
 namespace quorvelj {
 
+struct ClassMap;
+
 /// What a native method does otherwise than its frame. The method states it once, by `DEPARTS`; the
-/// tests expect it, and the reference prints its text.
+/// tests expect it, and the catalogue has its text.
 struct Departure {
   /// In words; "" for a method that follows its frame.
   const char* text = "";
+  /// The library function that it calls; "" for the one of its own name.
+  const char* function = "";
+  /// Further fields of its last argument that it reads, each map into a record of its own.
+  std::span<const ClassMap* const> alsoReads{};
   /// What a method that returns an int returns with an exception.
   std::int32_t failureValue = 0;
   /// Releases its records where one could not be had, as an update does; those that it never

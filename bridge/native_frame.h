@@ -345,6 +345,10 @@ jobject queryAs(JNIEnv* env, const ClassMap& map, Function function, Java... jav
   return output == nullptr ? nullptr : finishQuery(env, library.call(output), map, output);
 }
 
+/// How a `partialQuery` departs from its frame.
+inline constexpr char kPartialDeparts[] =
+    "an element that cannot be built leaves the rest of the array null, and is no failure";
+
 /// A `query` of an array in which an element that cannot be built is no failure: the array is
 /// returned with the elements before it, the rest null, and 2817 is not thrown.
 template <class Function, class... Java>

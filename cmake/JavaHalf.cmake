@@ -1,4 +1,4 @@
-# The Java half: quorvelj.jar, the array tour's jar, and what the native build takes from them.
+# The Java half: quorvelj.jar, the jars of the array tour and of the tools, and what the native build takes from them.
 #
 # quorvelj_java  interface library with JNI's headers and the generated ones
 # JAVA_HALF_DIRECTORY  where the generated files are; NativeMethods.cmake says which
@@ -11,6 +11,7 @@ cmake_path(GET java_home PARENT_PATH java_home)
 set(JAVA_HALF_DIRECTORY "${PROJECT_BINARY_DIR}/java/native")
 set(QUORVELJ_JAR "${PROJECT_BINARY_DIR}/lib/quorvelj.jar")
 set(TOUR_JAR "${PROJECT_BINARY_DIR}/lib/array-tour.jar")
+set(TOOLS_JAR "${PROJECT_BINARY_DIR}/lib/quorvelj-tools.jar")
 set(native_header "${JAVA_HALF_DIRECTORY}/tessaly_str_diskarray_DiskArrayUtilityJNI.h")
 
 # The application's JVM may be old. Entries carry a fixed time, so that equal sources give equal jars.
@@ -48,6 +49,21 @@ add_custom_command(
   COMMENT "Compiling the array tour"
   VERBATIM)
 add_custom_target(array_tour ALL DEPENDS "${TOUR_JAR}")
+
+set(tools_directory "${PROJECT_SOURCE_DIR}/tools/java")
+file(GLOB tools_sources CONFIGURE_DEPENDS "${tools_directory}/quorvelj/tools/*.java")
+file(GLOB probe_files CONFIGURE_DEPENDS "${tools_directory}/quorvelj/tools/probe/*")
+set(tools_classes "${PROJECT_BINARY_DIR}/java/tools")
+add_custom_command(
+  OUTPUT "${TOOLS_JAR}"
+  COMMAND "${CMAKE_COMMAND}" -E rm -rf "${tools_classes}"
+  COMMAND ${javac} -d "${tools_classes}" ${tools_sources}
+  COMMAND ${jar} --file "${TOOLS_JAR}" -C "${tools_classes}" .
+          -C "${tools_directory}" quorvelj/tools/probe
+  DEPENDS ${tools_sources} ${probe_files}
+  COMMENT "Compiling the tools"
+  VERBATIM)
+add_custom_target(java_tools ALL DEPENDS "${TOOLS_JAR}")
 
 add_library(quorvelj_java INTERFACE)
 add_dependencies(quorvelj_java java_half)

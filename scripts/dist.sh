@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Makes dist/quorvelj-<version>.zip and .tar.gz: the DLL, the Linux libraries of both widths, the
-# jars, the library's headers, the README and the documents, with SHA-256 sums. Equal sources give equal bytes.
+# jars, the library's headers, the layout probe, the README and the documents, with SHA-256 sums. Equal
+# sources give equal bytes.
 set -euo pipefail
 umask 022
 cd "$(dirname "$0")/.."
@@ -15,12 +16,15 @@ for preset in windows-x86 linux-i386 linux; do
   cmake --preset "$preset" -DQUORVELJ_TESTS=OFF -DQUORVELJ_BENCHMARKS=OFF >/dev/null
   cmake --build --preset "$preset" --target quorvelj java_half array_tour
 done
+cmake --build --preset linux --target tools
 cp build/windows-x86/lib/quorvelj.dll "$root/windows-x86/"
 strip -o "$root/linux-i386/libquorvelj.so" build/linux-i386/lib/libquorvelj.so
 strip -o "$root/linux-x86_64/libquorvelj.so" build/linux/lib/libquorvelj.so
 cp build/linux/lib/{quorvelj,array-tour}.jar README.md "$root/"
 cp arraylib/*.h "$root/arraylib/"
 cp -r docs "$root/"
+java -classpath build/linux/lib/quorvelj-tools.jar quorvelj.tools.LayoutProbe \
+  build/linux/lib/catalogue.txt "$root/layout-probe" >/dev/null
 (cd "$root" && find . -type f ! -name SHA256SUMS -printf '%P\n' | LC_ALL=C sort |
   xargs sha256sum >SHA256SUMS)
 

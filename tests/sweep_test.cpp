@@ -524,6 +524,8 @@ TEST_P(Sweep, Succeeds) {
     EXPECT_FALSE(outcome.pending);
     EXPECT_EQ(outcome.callsUnderException, 0);
     EXPECT_EQ(outcome.libraryCalls, 1);
+    const std::string function = departureOf(method).function;
+    EXPECT_EQ(outcome.function, function.empty() ? method.name : function);
     EXPECT_EQ(outcome.leakedRecords, departureOf(method).neverReleased);
     EXPECT_EQ(outcome.newReferences, method.resultKind() == 'L' ? 1 : 0);
     EXPECT_TRUE(method.resultKind() != 'L' || outcome.result.l != nullptr);

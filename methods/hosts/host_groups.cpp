@@ -98,7 +98,8 @@ NATIVE_METHOD(jobject, GetLuMappingListAll, jstring unit, jobject session) {
   return query(env, QV_GetLuMappingListAll, unit, session);
 }
 
-// The compact form has every field of the full one.
+DEPARTS(GetLuMappingListAllLite, "the compact form has every field of the full one",
+        .function = "QV_GetLuMappingListAll");
 NATIVE_METHOD(jobject, GetLuMappingListAllLite, jstring unit, jobject session) {
   return query(env, QV_GetLuMappingListAll, unit, session);
 }

@@ -81,6 +81,10 @@ QUORVELJ_MAP(kPreinfo0, PerformanceAll, fieldOf<PerformanceAll>("preinfo0", 0));
 QUORVELJ_MAP(kAfterinfo0, PerformanceAll, fieldOf<PerformanceAll>("afterinfo0", 0));
 QUORVELJ_MAP(kPreinfo1, PerformanceAll, fieldOf<PerformanceAll>("preinfo1", 0));
 QUORVELJ_MAP(kAfterinfo1, PerformanceAll, fieldOf<PerformanceAll>("afterinfo1", 0));
+static constexpr const ClassMap* kSnapshots[] = {&kPreinfo0, &kAfterinfo0, &kPreinfo1,
+                                                 &kAfterinfo1};
+static constexpr const ClassMap* kFileAndSnapshots[] = {
+    &ClassOf<PerformanceOutputFile>::kMap, &kPreinfo0, &kAfterinfo0, &kPreinfo1, &kAfterinfo1};
 
 namespace {
 
@@ -155,8 +159,10 @@ struct SelectedLus {
   };
 };
 
-// The outputs depart from the update frame: where a record could not be had, the others are
-// released before the exception is thrown.
+constexpr char kOutputDeparts[] =
+    "where a record could not be had, the others are released before the exception is thrown";
+
+/// An update with this departure.
 template <class Function, class... Java>
 void output(JNIEnv* env, Function function, Java... java) {
   LibraryCall library(env, function, java...);
@@ -185,12 +191,14 @@ jobjectArray buildPair(JNIEnv* env, const Record* controller0, const Record* con
 
 }  // namespace
 
+DEPARTS(PerformanceOutput, kOutputDeparts);
 NATIVE_METHOD(void, PerformanceOutput, jstring unit, jobject session, jstring path,
               jobject preinfo0, jobject afterinfo0, jobject preinfo1, jobject afterinfo1) {
   output(env, QV_PerformanceOutput, unit, session, path, preinfo0, afterinfo0, preinfo1,
          afterinfo1);
 }
 
+DEPARTS(PerformanceOutputLU, kOutputDeparts);
 NATIVE_METHOD(void, PerformanceOutputLU, jstring unit, jobject session, jstring path,
               jobject preinfo0, jobject afterinfo0, jobject preinfo1, jobject afterinfo1,
               jbyteArray lu, jint option0, jint option1) {
@@ -198,22 +206,26 @@ NATIVE_METHOD(void, PerformanceOutputLU, jstring unit, jobject session, jstring 
          afterinfo1, SelectedLus{lu}, option0, option1);
 }
 
+DEPARTS(PerformanceOutputAll, kOutputDeparts, .alsoReads = kFileAndSnapshots);
 NATIVE_METHOD(void, PerformanceOutputAll, jstring unit, jobject request) {
   output(env, QV_PerformanceOutputAll, unit, OutputFile{request}, request,
          Snapshot{request, kPreinfo0}, Snapshot{request, kAfterinfo0}, Snapshot{request, kPreinfo1},
          Snapshot{request, kAfterinfo1});
 }
 
+DEPARTS(PerformanceOutputAllEx, kOutputDeparts, .alsoReads = kFileAndSnapshots);
 NATIVE_METHOD(void, PerformanceOutputAllEx, jstring unit, jobject session, jobject request) {
   output(env, QV_PerformanceOutputAllEx, unit, session, OutputFile{request}, request,
          Snapshot{request, kPreinfo0}, Snapshot{request, kAfterinfo0}, Snapshot{request, kPreinfo1},
          Snapshot{request, kAfterinfo1});
 }
 
+DEPARTS(PerformanceOutputSkip, kOutputDeparts);
 NATIVE_METHOD(void, PerformanceOutputSkip, jstring unit, jstring path, jobject time, jint option) {
   output(env, QV_PerformanceOutputSkip, unit, path, time, option);
 }
 
+DEPARTS(PerformanceOutputCSV, kOutputDeparts);
 NATIVE_METHOD(void, PerformanceOutputCSV, jstring path, jobject request) {
   output(env, QV_PerformanceOutputCSV, path, request);
 }
@@ -222,11 +234,13 @@ NATIVE_METHOD(jint, GetPerformanceCSVNum, jstring path, jobject request) {
   return value(env, QV_GetPerformanceCSVNum, path, request);
 }
 
+DEPARTS(PerformanceDataInitialize, kOutputDeparts);
 NATIVE_METHOD(void, PerformanceDataInitialize, jobject session, jstring path, jint option0,
               jint option1) {
   output(env, QV_PerformanceDataInitialize, session, path, option0, option1);
 }
 
+DEPARTS(PerformanceDataOutput, kOutputDeparts);
 NATIVE_METHOD(void, PerformanceDataOutput, jstring path, jobject graph) {
   output(env, QV_PerformanceDataOutput, path, graph);
 }
@@ -309,7 +323,7 @@ NATIVE_METHOD(jobjectArray, GetPerformanceAll, jstring unit, jobject session, ji
 DEPARTS(PerformanceOutputGraphInfo,
         "where a record could not be had, the others are released before the exception is thrown; "
         "of the two graphs the first is built",
-        .releasesOnRefusal = true);
+        .alsoReads = kSnapshots, .releasesOnRefusal = true);
 NATIVE_METHOD(jobject, PerformanceOutputGraphInfo, jstring unit, jobject session, jobject request) {
   LibraryCall library(env, QV_PerformanceOutputGraphInfo, unit, session,
                       Snapshot{request, kPreinfo0}, Snapshot{request, kAfterinfo0},

@@ -185,10 +185,16 @@ NATIVE_METHOD(jobject, GetPairInformation, jstring unit, jobject session) {
   return query(env, QV_GetPairInformation, unit, session);
 }
 
+DEPARTS(GetPairInformationLite, "the light form is built: the state and the names of every pair",
+        .function = "QV_GetPairInformation");
 NATIVE_METHOD(jobject, GetPairInformationLite, jstring unit, jobject session) {
   return queryAs(env, kLightPairs, QV_GetPairInformation, unit, session);
 }
 
+DEPARTS(GetPairInformationLite2,
+        "the second light form is built: the capacities of the pairs, of the first 2,046 logical "
+        "units",
+        .function = "QV_GetPairInformation");
 NATIVE_METHOD(jobject, GetPairInformationLite2, jstring unit, jobject session) {
   return queryAs(env, kSecondLightPairs, QV_GetPairInformation, unit, session);
 }

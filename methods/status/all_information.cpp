@@ -79,7 +79,8 @@ NATIVE_METHOD(jobject, GetAllInformation, jstring unit, jobject session) {
   return query(env, QV_GetAllInformation, unit, session);
 }
 
-// The light form comes from the same library function.
+DEPARTS(GetAllInformationLite, "the pairs are built in their second light form",
+        .function = "QV_GetAllInformation");
 NATIVE_METHOD(jobject, GetAllInformationLite, jstring unit, jobject session) {
   return queryAs(env, kLightArrayAllInformation, QV_GetAllInformation, unit, session);
 }

@@ -166,6 +166,7 @@ NATIVE_METHOD(jint, GetPinInfoGetTime, jstring unit, jint option) {
   return value(env, QV_GetPinInfoGetTime, unit, option);
 }
 
+DEPARTS(GetDriveInformationAll, kPartialDeparts);
 NATIVE_METHOD(jobjectArray, GetDriveInformationAll, jstring unit, jobject session) {
   return partialQuery(env, QV_GetDriveInformationAll, unit, session);
 }

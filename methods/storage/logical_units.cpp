@@ -131,6 +131,7 @@ NATIVE_METHOD(void, SetLuOwnership, jstring unit, jobject session, jobject info)
   update(env, QV_SetLuOwnership, unit, session, info);
 }
 
+DEPARTS(GetLogicalUnit, kPartialDeparts);
 NATIVE_METHOD(jobjectArray, GetLogicalUnit, jstring unit, jobject session) {
   return partialQuery(env, QV_GetLogicalUnit, unit, session);
 }

@@ -54,6 +54,7 @@ NATIVE_METHOD(jobject, GetRaidGroupCreationCapacity, jstring unit, jobject sessi
   return query(env, QV_GetRaidGroupCreationCapacity, unit, session, request);
 }
 
+DEPARTS(GetRaidGroups, kPartialDeparts);
 NATIVE_METHOD(jobjectArray, GetRaidGroups, jstring unit) {
   return partialQuery(env, QV_GetRaidGroups, unit);
 }

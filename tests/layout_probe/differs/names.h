@@ -1,0 +1,2 @@
+#include "differs.h"
+#define FURTHER_HGName SHOW(owner)

@@ -1,0 +1,225 @@
+package quorvelj.tools;
+
+import java.io.IOException;
+import java.nio.charset.StandardCharsets;
+import java.nio.file.Files;
+import java.nio.file.Path;
+import java.util.ArrayList;
+import java.util.LinkedHashMap;
+import java.util.List;
+import java.util.Map;
+
+/** What the bridge knows of itself, read from the text that docs/catalogue.md describes. */
+public final class Catalogue {
+    private static final String FIRST_LINE = "quorvelj-catalogue 1";
+
+    /** A record of the library. */
+    public static final class Record {
+        public final String name;
+        public final String header;
+        public final int line;
+        public final long bytes;
+
+        /** Whether it has no Java class of its own. */
+        public final boolean isPart;
+
+        /** "assumed", "partly" or "confirmed". */
+        public final String layout;
+
+        /** In the order of their offsets. */
+        public final List<Member> members = new ArrayList<>();
+
+        /** Between the members, and all bytes of a record without one. */
+        public final List<Gap> gaps = new ArrayList<>();
+
+        Record(String[] words) {
+            name = words[1];
+            header = words[2];
+            line = Integer.parseInt(words[3]);
+            bytes = Long.parseLong(words[4]);
+            isPart = words[5].equals("part");
+            layout = words[6];
+        }
+    }
+
+    /** A member of a record. */
+    public static final class Member {
+        public final long offset;
+
+        /** Of one element. */
+        public final long bytes;
+
+        /** A kind of number, "text", "bytes", or the name of a record. */
+        public final String kind;
+
+        public final int[] extents;
+
+        /** The place in the order in which Java's fields are filled; 0 for a reserved member. */
+        public final int filled;
+
+        public final String name;
+        public final boolean isAssumed;
+
+        Member(String[] words) {
+            offset = Long.parseLong(words[1]);
+            bytes = Long.parseLong(words[2]);
+            kind = words[3];
+            String[] lengths = words[4].equals("-") ? new String[0] : words[4].split("x");
+            extents = new int[lengths.length];
+            for (int dimension = 0; dimension < extents.length; ++dimension) {
+                extents[dimension] = Integer.parseInt(lengths[dimension]);
+            }
+            filled = words[5].equals("reserved") ? 0 : Integer.parseInt(words[5]);
+            name = words[6];
+            isAssumed = words[7].equals("assumed");
+        }
+
+        public boolean isReserved() {
+            return filled == 0;
+        }
+
+        /** Of all elements. */
+        public long allBytes() {
+            long all = bytes;
+            for (int extent : extents) {
+                all *= extent;
+            }
+            return all;
+        }
+    }
+
+    /** Bytes of a record that no member covers. */
+    public static final class Gap {
+        public final long offset;
+        public final long bytes;
+
+        Gap(String[] words) {
+            offset = Long.parseLong(words[1]);
+            bytes = Long.parseLong(words[2]);
+        }
+    }
+
+    /** A Java class that the bridge handles. */
+    public static final class JavaClass {
+        /** Slash form. */
+        public final String name;
+
+        public final boolean isBuilt;
+        public final boolean isRead;
+        public final String constructor;
+
+        /** The JNI signatures by the names. */
+        public final Map<String, String> fields = new LinkedHashMap<>();
+
+        JavaClass(String[] words) {
+            name = words[1];
+            isBuilt = words[2].equals("built") || words[2].equals("both");
+            isRead = words[2].equals("read") || words[2].equals("both");
+            constructor = words[3];
+        }
+    }
+
+    /** A function of the library. */
+    public static final class Function {
+        public final String name;
+        public final String header;
+        public final boolean isAssumed;
+
+        /** As the catalogue has them: "record in QVSessionInfo". */
+        public final List<String> parameters = new ArrayList<>();
+
+        Function(String[] words) {
+            name = words[1];
+            header = words[2];
+            isAssumed = words[3].equals("assumed");
+        }
+    }
+
+    /** A native method. */
+    public static final class Method {
+        public final String name;
+
+        /** The decorated name on Windows. */
+        public final String symbol;
+
+        public final String signature;
+
+        /** "query", "update" or "value". */
+        public final String frame;
+
+        public final Function function;
+
+        /** What it does otherwise than its frame; "" for nothing. */
+        public String departs = "";
+
+        Method(String[] words, Function function) {
+            name = words[1];
+            symbol = words[2];
+            signature = words[3];
+            frame = words[4];
+            this.function = function;
+        }
+    }
+
+    /** By their names, in the order of the catalogue. */
+    public final Map<String, Record> records = new LinkedHashMap<>();
+
+    public final Map<String, JavaClass> classes = new LinkedHashMap<>();
+    public final Map<String, Function> functions = new LinkedHashMap<>();
+    public final Map<String, Method> methods = new LinkedHashMap<>();
+
+    private Catalogue(List<String> lines) {
+        if (lines.isEmpty() || !lines.get(0).equals(FIRST_LINE)) {
+            throw new IllegalArgumentException("not a catalogue: it begins with " + FIRST_LINE);
+        }
+        Record record = null;
+        JavaClass javaClass = null;
+        Function function = null;
+        Method method = null;
+        for (String line : lines.subList(1, lines.size())) {
+            String[] words = line.split(" ");
+            String rest = line.substring(words[0].length() + 1);
+            switch (words[0]) {
+                case "record":
+                    record = new Record(words);
+                    records.put(record.name, record);
+                    break;
+                case "member":
+                    record.members.add(new Member(words));
+                    break;
+                case "padding":
+                case "unmapped":
+                    record.gaps.add(new Gap(words));
+                    break;
+                case "class":
+                    javaClass = new JavaClass(words);
+                    classes.put(javaClass.name, javaClass);
+                    break;
+                case "field":
+                    javaClass.fields.put(words[1], words[2]);
+                    break;
+                case "function":
+                    function = new Function(words);
+                    functions.put(function.name, function);
+                    break;
+                case "parameter":
+                    function.parameters.add(rest);
+                    break;
+                case "method":
+                    method = new Method(words, functions.get(words[5]));
+                    methods.put(method.name, method);
+                    break;
+                case "departs":
+                    method.departs = rest;
+                    break;
+                default:
+                    throw new IllegalArgumentException("no line of a catalogue: " + line);
+            }
+        }
+    }
+
+    /** Reads a catalogue from a file. */
+    public static Catalogue read(Path file) throws IOException {
+        return new Catalogue(Files.readAllLines(file, StandardCharsets.UTF_8));
+    }
+}
