@@ -27,6 +27,7 @@ struct HGPortInfo {
   HGInfo hg[128];
 };
 QUORVEL_RECORD(HGPortInfo, 4353);
+QUORVEL_ASSUMED(HGPortInfo, hg);
 QUORVEL_OFFSET(HGPortInfo, hg, 1);
 
 struct HGCtlInfo {
@@ -40,6 +41,7 @@ struct HGList {
   HGCtlInfo ctl[2];
 };
 QUORVEL_RECORD(HGList, 69649);
+QUORVEL_ASSUMED(HGList, ctl);
 QUORVEL_OFFSET(HGList, ctl, 1);
 
 /// The host groups of a port to delete.
@@ -94,6 +96,7 @@ struct LuMappingPortInfo {
   LuMappingHGInfo hg[255];
 };
 QUORVEL_RECORD(LuMappingPortInfo, 2088968);
+QUORVEL_ASSUMED(LuMappingPortInfo, hg);
 QUORVEL_OFFSET(LuMappingPortInfo, hg, 8);
 
 struct LuMappingCtlInfo {
@@ -109,6 +112,7 @@ struct LuMapping {
   LuMappingCtlInfo ctl[2];
 };
 QUORVEL_RECORD(LuMapping, 33423500);
+QUORVEL_ASSUMED(LuMapping, ctl);
 QUORVEL_OFFSET(LuMapping, ctl, 12);
 
 /// The mapping of a port.

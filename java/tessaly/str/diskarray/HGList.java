@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** All host groups. */
+/** All host groups. The name of <code>ctl</code> is assumed. */
 public class HGList {
     /** 0 to 255. */
     public int lun_manage;

@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** The mapping of all ports. */
+/** The mapping of all ports. The name of <code>ctl</code> is assumed. */
 public class LuMapping {
     public int HostGroupValid;
     public int ctrl_flag;

@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** The BIOS revisions of the NAS nodes. The place of <code>nnc_revision</code> is assumed. */
+/** The BIOS revisions of the NAS nodes. The name of <code>nnc_revision</code> is assumed. */
 public class NNCBiosRevisionList {
     /** 4 elements. */
     public int[] mount;
