@@ -30,8 +30,8 @@ RegisteredUnit::~RegisteredUnit() {
 }
 
 Called RegisteredUnit::login(const std::string& user, const std::string& password) {
-  return call("QV_LoginQVAccount", {unit_, create("LoginRequest", "user_id=" + user + "; passwd=" +
-                                                                      password + "; log_string=")});
+  return call("QV_LoginQVAccount",
+              {unit_, create("LoginRequest", "user_id=" + user + "; passwd=" + password)});
 }
 
 std::string RegisteredUnit::lastInput(const char* function, int parameter) {
@@ -141,18 +141,17 @@ void RegisteredUnit::expectTooShort(const char* method, const std::vector<jobjec
 }
 
 std::string RegisteredUnit::createGroup(int group) {
-  return run(
-      "QV_CreateRaidGroup",
-      create("CreateRaidGroup", "rgnum=" + std::to_string(group) +
-                                    "; level=5; parity_hdu_count=5; parity_count=2; rgdrv#=0"));
+  return run("QV_CreateRaidGroup",
+             create("CreateRaidGroup", "rgnum=" + std::to_string(group) +
+                                           "; level=5; parity_hdu_count=5; parity_count=2"));
 }
 
 std::string RegisteredUnit::createLu(int lun, int group, int high, int low) {
   return run("QV_CreateLogicalUnit",
-             create("LogicalUnitCreationRequest",
-                    "luNumber=" + std::to_string(lun) + "; rgNumber=" + std::to_string(group) +
-                        "; lu_capacity_h=" + std::to_string(high) +
-                        "; lu_capacity_l=" + std::to_string(low) + "; befor_lun#=128"));
+             create("LogicalUnitCreationRequest", "luNumber=" + std::to_string(lun) +
+                                                      "; rgNumber=" + std::to_string(group) +
+                                                      "; lu_capacity_h=" + std::to_string(high) +
+                                                      "; lu_capacity_l=" + std::to_string(low)));
 }
 
 std::string RegisteredUnit::temporary(const std::string& name) {

@@ -69,6 +69,13 @@ TEST_F(UnitRegistration, NamesAreCutToTheirBuffer) {
   expectFields(table, "=QVUnitParam[2]; [0].group_name=");
 }
 
+TEST_F(UnitRegistration, AUnitOfANameAndAnAddress) {
+  const jobject unit = create("QVUnitParam", "unit_name=first; ctl0=10.0.0.1");
+  EXPECT_EQ(call("QV_UnitAdd", {unit}).failure, "");
+  expectFields(call("QV_GetUnitParam", {text("first")}).result,
+               "unit_name=first; group_name=; connect_type=0; ctl0=10.0.0.1; ctl1=");
+}
+
 TEST_F(UnitRegistration, ResultsOfTheLibrary) {
   const auto forced = [](const char* method, int result, const std::vector<jobject>& arguments) {
     quorvelSimForceResult(method, result, 1);
