@@ -83,7 +83,7 @@ TEST_F(HostGroups, MappingIsOneForAllItsForms) {
   update("QV_ChangeMappingMode", 2);
   // What was read can be set back as it is, a port or all at once.
   const jobject port = information("QV_GetLuMappingPortList", 1, 7);
-  set(port, "port.hg[0].lu[0]=100; port.hg[254].lu[1]=8191");
+  set(port, "port.hg[0].lu[0]=100; port.hg[254].lu[0]=0; port.hg[254].lu[1]=8191");
   update("QV_SetLuMappingPortList", 1, 7, port);
   for (const char* const method : {"QV_GetLuMappingListAll", "QV_GetLuMappingListAllLite"}) {
     SCOPED_TRACE(method);
@@ -100,9 +100,16 @@ TEST_F(HostGroups, MappingIsOneForAllItsForms) {
   EXPECT_EQ(get(information("QV_GetLuMappingPortList", 0, 0), "port.hg[0].lu[2047]"), "3");
   // The mapping of one group is returned with the mode in front of it.
   expectFields(information("QV_GetLuMappingList", 1, 7, 254),
-               "=Object[2]; [0]=2; [1].lu[0]=-1; [1].lu[1]=8191; [1].lu[2047]=-1");
+               "=Object[2]; [0]=2; [1].lu[0]=0; [1].lu[1]=8191; [1].lu[2047]=-1");
   expectPassed("QV_GetLuMappingList usiii");
   EXPECT_EQ(run("QV_GetLuMappingList", 1, 7, 255), "DiskArrayException 20602");
+  // A group takes its mapping and its options along. A new one in its place begins without.
+  update("QV_SetHGOption", 1, 7, 0, create("HGOptionInfo", "platform_id=4"));
+  update("QV_DeleteHGPortList", 1, 7, create("DeleteHGPortList", "hg[0]=1"));
+  EXPECT_EQ(run("QV_GetLuMappingList", 1, 7, 0), "DiskArrayException 20602");
+  update("QV_CreateHG", 1, 7, 0, create("HGInfo", "hgname=again"));
+  EXPECT_EQ(get(information("QV_GetLuMappingList", 1, 7, 0), "[1].lu[0]"), "-1");
+  EXPECT_EQ(get(information("QV_GetHGOptionAll"), "ctl[1].port[7].hg[0].platform_id"), "0");
 }
 
 TEST_F(HostGroups, Options) {
