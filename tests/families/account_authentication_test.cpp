@@ -70,6 +70,9 @@ TEST_F(AccountAuthentication, WhatIsSetIsReadBack) {
   expectFields(information("QV_GetAccountInformation"),
                "account_info[1].user_id=eve; account_info[1].passwd=");
   EXPECT_EQ(login("eve", "apple").failure, "");
+  // A password that is not to be set stays.
+  update("QV_ChangeAccount", create("Account", "user_id=eve; passwd=pear; account_enable=1"));
+  EXPECT_EQ(login("eve", "apple").failure, "");
 
   const jobject banner = create("AccountBanner", "warning_banner=Größe: ungültig");
   update("QV_SetAccountBannerAuth", banner);

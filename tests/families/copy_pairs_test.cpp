@@ -187,6 +187,24 @@ TEST_F(CopyPairs, LifeOfAPair) {
   EXPECT_EQ(get(information("QV_GetPairInformationSimple"), "pair_count"), "0");
 }
 
+TEST_F(CopyPairs, APairIsWholeAtTheThirdReading) {
+  const auto expectWhole = [&] {
+    for (const char* const rate : {"0", "50"}) {
+      EXPECT_EQ(get(information("QV_GetPairInformation"), "lu[0].m_info[0].synchronized_rate"),
+                rate);
+    }
+    expectFields(information("QV_GetPairInformation"),
+                 "lu[0].m_info[0].pair_status=2; lu[0].m_info[0].synchronized_rate=100; "
+                 "lu[0].m_info[0].changed_rate=0; lu[0].m_info[0].time.hour=0; "
+                 "lu[0].m_info[0].time.minute=1");
+  };
+  update("QV_CreateGemlynPair", pairRequest("CreateGemlynPair", "pair_info.pair_name=daily"));
+  expectWhole();
+  update("QV_SplitGemlynPair", pairRequest("SplitGemlynPair"));
+  update("QV_RestoreGemlynPair", pairRequest("PairOperation"));
+  expectWhole();
+}
+
 TEST_F(CopyPairs, IncompleteRequestsReachTheLibraryAsFarAsTheyWereRead) {
   // The reader goes on behind a nested object that it read in part, and stops at a missing one.
   const char* const method = "QV_CreateGemlynPair";

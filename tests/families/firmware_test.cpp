@@ -85,5 +85,12 @@ TEST_F(Firmware, FilesAreConcatenated) {
             "0A10/B");
 }
 
+TEST_F(Firmware, ARevisionThatIsTooLongIsCut) {
+  const std::string path = temporary("firmware");
+  std::ofstream(path) << std::string(20, 'r');
+  update("QV_MicroFileConcatEx", path);
+  EXPECT_EQ(get(call("QV_GetMicroFileInformation", {}).result, "micro"), std::string(11, 'r'));
+}
+
 }  // namespace
 }  // namespace quorvelj::testing

@@ -104,5 +104,17 @@ TEST_F(LogicalUnits, CreatedAndChanged) {
   EXPECT_EQ(get(call("QV_LogicalUnitFormatStatus", {unit_, number(8191)}).result, ""), "25");
 }
 
+TEST_F(LogicalUnits, FreedAreasServeALargerOne) {
+  createGroup(0);
+  const jobject groups = information("QV_GetRaidGroupInformation");
+  const int high = std::stoi(get(groups, "rg[0].total_capa_h"));
+  const int low = std::stoi(get(groups, "rg[0].total_capa_l"));
+  EXPECT_EQ(createLu(1, 0, high, 0), "");
+  EXPECT_EQ(createLu(2, 0, 0, low), "");
+  update("QV_LogicalUnitDeleteByLUN", 1);
+  update("QV_LogicalUnitDeleteByLUN", 2);
+  EXPECT_EQ(createLu(3, 0, high, low), "");
+}
+
 }  // namespace
 }  // namespace quorvelj::testing
