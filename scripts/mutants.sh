@@ -136,7 +136,7 @@ run_tests() {
   # The calls that return the most cost as much as all others together.
   local -r large=*AllInf*:*PairInformation*:*PerformanceAll*:*PerformanceOutput*
   local -r slow=AllInformation.*:CopyPairs.*Form
-  attempt 1 300 mini_jvm_tests '-NativeMethods*:LargeCalls*' || return 0
+  attempt 1 300 mini_jvm_tests '-NativeMethods*:LargeCalls*:SweepOfFields*' || return 0
   if ! make_targets real_jvm_tests; then
     seen="compiler"
     return 0
@@ -148,7 +148,7 @@ run_tests() {
   [ -z "$methods" ] || attempt "$jobs" 900 mini_jvm_tests "$methods" || return 0
   [ -n "$methods" ] || attempt "$jobs" 900 mini_jvm_tests "NativeMethods*-$large" || return 0
   attempt "$jobs" 900 real_jvm_tests "-$slow" || return 0
-  attempt "$jobs" 1800 mini_jvm_tests "LargeCalls*:NativeMethods*" || return 0
+  attempt "$jobs" 1800 mini_jvm_tests "LargeCalls*:NativeMethods*:SweepOfFields*" || return 0
   attempt "$jobs" 1800 real_jvm_tests "$slow" || return 0
   return 1
 }
@@ -171,7 +171,7 @@ else
   cp "$work/rows" "$work/chosen"
 fi
 
-cmake -S "$tree" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DCMAKE_CXX_FLAGS_RELEASE=-O0 \
+cmake -S "$tree" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DCMAKE_CXX_FLAGS_RELEASE=-O1 \
   -DQUORVELJ_SANITIZE=OFF >"$log" 2>&1 && make_targets mini_jvm_tests real_jvm_tests || {
   cat "$log" >&2
   echo "The tree does not build without a fault." >&2
