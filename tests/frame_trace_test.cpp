@@ -56,6 +56,11 @@ TEST_F(FrameTrace, InputsAreReadBehindANullAndNotBehindAnException) {
     std::vector<jvalue> arguments = argumentsOf(method);
     arguments[1].l = nullptr;
     expectEvents(only(trace(method, arguments), inputs), field);
+    // A null inside leaves no exception either.
+    arguments[1].l = jvm_.newInput("Ltessaly/str/diskarray/QVSessionInfo;");
+    jvm_.setObject(arguments[1].l, "session_id", "[B", nullptr);
+    expectEvents(only(trace(method, arguments), inputs),
+                 "GetFieldID session_id [B" + Events(field));
   }
   jvm_.removeField("session_id");
   for (const auto& [method, field] : methods) {
