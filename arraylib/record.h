@@ -47,14 +47,18 @@ struct ClassOf;
 
 namespace quorvelj {
 
-/// The members of a record whose places the library's own declarations have not confirmed: names
-/// with commas between them, "" for all of the record; null where all are confirmed.
+/// The members of a record that are assumed, not confirmed by the library's own declarations: names
+/// with commas between them, "" for all of the record; null where none is.
 template <class Record>
 inline constexpr const char* kAssumedMembers = nullptr;
 
-/// Whether the arguments of a library function, or their order, are not confirmed so.
+/// Whether the arguments of a library function, or their order, are assumed.
 template <auto Function>
 inline constexpr bool kAssumedFunction = false;
+
+/// Bytes behind a record that the library may reach, where the record's size is itself assumed.
+template <class Record>
+inline constexpr std::size_t kSpareBytes = 0;
 
 }  // namespace quorvelj
 
@@ -69,14 +73,6 @@ inline constexpr bool kAssumedFunction = false;
 #define QUORVEL_ASSUMED_FUNCTION(function) \
   template <>                              \
   inline constexpr bool quorvelj::kAssumedFunction<function> = true
-
-namespace quorvelj {
-
-/// Bytes behind a record that the library may reach, where the record's size is itself assumed.
-template <class Record>
-inline constexpr std::size_t kSpareBytes = 0;
-
-}  // namespace quorvelj
 
 /// Marks the size of a record as assumed: the library gets `bytes` more behind it, so that a larger
 /// record of its own does no harm.

@@ -173,28 +173,6 @@ class Argument<const Record*> {
   Record* record_ = nullptr;
 };
 
-/// A unit name that may be null, and is empty then.
-struct OptionalUnit {
-  jstring text;
-
-  class Argument {
-   public:
-    explicit Argument(OptionalUnit optional) : text_(optional.text) {}
-    bool accept(JNIEnv* env) {
-      copyOptionalText(env, text_, buffer_);
-      return true;
-    }
-    bool allocate() { return true; }
-    int read(JNIEnv*) { return kOk; }
-    void release() {}
-    const UnitName* get() { return &buffer_; }
-
-   private:
-    jstring text_;
-    UnitName buffer_;
-  };
-};
-
 /// What makes a parameter of a Java argument: `Argument`, or what the argument's class names so.
 template <class Parameter, class Java>
 struct ArgumentFor {
@@ -233,22 +211,13 @@ class LibraryCall {
   /// Flushes standard output and copies the texts; false with 258 thrown at the first that is null.
   bool enter() {
     flushOutput();
-    return enterQuietly();
-  }
-  /// The same without the flush.
-  bool enterQuietly() {
     return each([this](auto&... input) { return (input.accept(env_) && ...); });
   }
 
   /// `enter`, and allocates and reads one record after the other; false with 65535 thrown at the
   /// first that cannot be had.
   bool begin() {
-    flushOutput();
-    return beginQuietly();
-  }
-  /// The same without the flush.
-  bool beginQuietly() {
-    if (!enterQuietly()) {
+    if (!enter()) {
       return false;
     }
     const bool all =
@@ -387,10 +356,14 @@ jint value(JNIEnv* env, Function function, Java... java) {
 /// output.
 void finishUpdate(JNIEnv* env, int result);
 
-/// Updates with a call that was entered: allocates all records, reads them, calls the library, and
-/// releases them, whichever could not be had.
+/// A method that returns nothing, with records to hand over or without. All of them are allocated
+/// before the first is read, and all are released, whichever could not be had.
 template <class Function, class... Java>
-void updateEntered(JNIEnv* env, LibraryCall<Function, Java...>& library) {
+void update(JNIEnv* env, Function function, Java... java) {
+  LibraryCall library(env, function, java...);
+  if (!library.enter()) {
+    return;
+  }
   if (!library.allocateInputs()) {
     throwArrayException(env, kOutOfMemory);
     library.releaseInputs();
@@ -398,16 +371,6 @@ void updateEntered(JNIEnv* env, LibraryCall<Function, Java...>& library) {
   }
   library.readInputs();
   finishUpdate(env, library.call());
-}
-
-/// A method that returns nothing, with records to hand over or without. All of them are allocated
-/// before the first is read.
-template <class Function, class... Java>
-void update(JNIEnv* env, Function function, Java... java) {
-  LibraryCall library(env, function, java...);
-  if (library.enter()) {
-    updateEntered(env, library);
-  }
 }
 
 }  // namespace quorvelj

@@ -1,4 +1,5 @@
-# The Java half: quorvelj.jar, the jars of the array tour and of the tools, and what the native build takes from them.
+# The Java half: quorvelj.jar, the jars of the array tour and of the tools, and what the native build
+# takes from them.
 #
 # quorvelj_java  interface library with JNI's headers and the generated ones
 # JAVA_HALF_DIRECTORY  where the generated files are; NativeMethods.cmake says which

@@ -15,11 +15,6 @@ namespace {
 
 using Bytes = std::vector<unsigned char>;
 
-std::string classNameOf(const std::string& signature) {
-  const std::size_t start = signature.find_first_not_of("[L");
-  return start == std::string::npos ? "" : signature.substr(start, signature.find(';') - start);
-}
-
 /// The classes of the Java half whose objects, or those inside them, begin with a field of null of
 /// these.
 template <class IsMeant>
@@ -92,8 +87,9 @@ class NewRequests : public ::testing::Test {
     const jclass type = env->FindClass(className.c_str());
     return env->NewObject(type, env->GetMethodID(type, "<init>", "()V"));
   }
-  /// Calls a method with new objects; returns the library's input of this size.
-  Bytes inputOf(const NativeMethod& method, std::size_t size) {
+  /// Calls a method with new objects. Returns the library's input of this size, that in the place
+  /// of the argument before others.
+  Bytes inputOf(const NativeMethod& method, std::size_t argument, std::size_t size) {
     MiniJvm jvm;
     jvm.declare(javaFields());
     std::vector<jvalue> arguments = jvm.newArguments(method);
@@ -103,9 +99,10 @@ class NewRequests : public ::testing::Test {
         arguments[index].l = construct(jvm.env(), classNameOf(types[index]));
       }
     }
+    function_.clear();
     method.invoke(jvm.env(), arguments);
-    constexpr int kMostParameters = 10;
-    for (int index = 0; index < kMostParameters; ++index) {
+    std::vector<int> places{method.libraryIndexOf(argument), 0, 1, 2, 3, 4, 5, 6, 7, 8, 9};
+    for (const int index : places) {
       if (quorvelSimLastInput(function_.c_str(), index, nullptr, 0) == size) {
         Bytes bytes(size);
         quorvelSimLastInput(function_.c_str(), index, bytes.data(), size);
@@ -131,8 +128,9 @@ TEST_F(NewRequests, BringNoByteThatJavaNeverHad) {
   const auto withNull = classesWithNull([](const std::string& type) { return type != "I"; });
   int looked = 0;
   for (const NativeMethod& method : nativeMethods()) {
-    for (const std::string& type : method.argumentTypes()) {
-      const std::string name = classNameOf(type);
+    const std::vector<std::string> types = method.argumentTypes();
+    for (std::size_t argument = 0; argument < types.size(); ++argument) {
+      const std::string name = classNameOf(types[argument]);
       const auto mapped = mappedClasses().find(name);
       if (mapped == mappedClasses().end()) {
         continue;
@@ -144,7 +142,7 @@ TEST_F(NewRequests, BringNoByteThatJavaNeverHad) {
         continue;
       }
       resetTestRuntime();
-      const Bytes record = inputOf(method, mapped->second.bytes);
+      const Bytes record = inputOf(method, argument, mapped->second.bytes);
       if (name.ends_with("/HGInfo") && record.empty()) {
         continue;  // The library gets the name by itself.
       }

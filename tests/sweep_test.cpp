@@ -378,8 +378,7 @@ const std::set<std::string>& sitesOfMaps(bool built) {
   static const auto collect = [](bool ofResults) {
     std::set<std::string> sites;
     const auto add = [&](const std::string& type) {
-      const std::size_t start = type.find_first_not_of("[L");
-      const auto found = mappedClasses().find(type.substr(start, type.find(';') - start));
+      const auto found = mappedClasses().find(classNameOf(type));
       if (found != mappedClasses().end()) {
         addSites(sites, found->first.c_str(), *found->second.map, ofResults);
       }

@@ -111,17 +111,43 @@ constexpr char kTurboDeparts[] =
 
 DEPARTS(GetTurboLU, kTurboDeparts, .acceptsNullText = true);
 NATIVE_METHOD(jobject, GetTurboLU, jstring unit, jobject session) {
-  LibraryCall library(env, QV_GetTurboLU, OptionalUnit{unit}, session);
-  if (!library.beginQuietly()) {
+  UnitName name;
+  copyOptionalText(env, unit, name);
+  Argument<const QVSessionInfo*> opened(session);
+  if (!opened.allocate()) {
+    throwArrayException(env, kOutOfMemory);
     return nullptr;
   }
-  auto* const turbo = library.output();
-  return turbo == nullptr ? nullptr : finishQuery(env, library.call(turbo), turbo);
+  opened.read(env);
+  auto* const turbo = allocate<TurboLu>();
+  if (turbo == nullptr) {
+    throwArrayException(env, kOutOfMemory);
+    return nullptr;
+  }
+  const int result = QV_GetTurboLU(&name, opened.get(), turbo);
+  opened.release();
+  return finishQuery(env, result, turbo);
 }
 
 DEPARTS(SetTurboLU, kTurboDeparts, .acceptsNullText = true);
-NATIVE_METHOD(void, SetTurboLU, jstring unit, jobject session, jobject turbo) {
-  LibraryCall library(env, QV_SetTurboLU, OptionalUnit{unit}, session, turbo);
-  library.enterQuietly();
-  updateEntered(env, library);
+NATIVE_METHOD(void, SetTurboLU, jstring unit, jobject session, jobject object) {
+  UnitName name;
+  copyOptionalText(env, unit, name);
+  Argument<const QVSessionInfo*> opened(session);
+  Argument<const TurboLu*> turbo(object);
+  const bool hasSession = opened.allocate();
+  if (!turbo.allocate() || !hasSession) {
+    throwArrayException(env, kOutOfMemory);
+    opened.release();
+    turbo.release();
+    return;
+  }
+  // Behind a session that left an exception pending JNI forbids to read more.
+  if (opened.read(env) == kOk || !exceptionPending(env)) {
+    turbo.read(env);
+  }
+  const int result = QV_SetTurboLU(&name, opened.get(), turbo.get());
+  opened.release();
+  turbo.release();
+  finishUpdate(env, result);
 }

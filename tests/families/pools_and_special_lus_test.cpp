@@ -63,7 +63,7 @@ TEST_F(PoolsAndSpecialLus, Arguments) {
       "QV_PoolLUAdd usiii; QV_PoolLUAllDelete usii; QV_CreateVVOL usiii; QV_DeleteVVOL usii; "
       "QV_IntegrationLUInfo u; QV_SetSvolDisableMode usii; QV_ExtendRetentionTerm usii; "
       "QV_SetExpirationLock usi");
-  // The cache-resident LUs of no array.
+  // A null name is an empty one.
   EXPECT_EQ(call("QV_GetTurboLU", {nullptr, session_}).failure, "DiskArrayException 20001");
   EXPECT_EQ(lastText("QV_GetTurboLU", 0), "");
 }

@@ -6,6 +6,7 @@ import java.nio.file.Paths;
 import java.util.ArrayList;
 import java.util.Arrays;
 import java.util.List;
+import java.util.Locale;
 import java.util.Map;
 import java.util.TreeMap;
 import java.util.TreeSet;
@@ -111,11 +112,13 @@ public final class OpenPoints {
 
     private void compareBytesWithoutField() throws IOException {
         Map<String, String> handedOver = new TreeMap<>();
+        Map<String, Long> inAll = new TreeMap<>();
         for (Catalogue.Function function : catalogue.functions.values()) {
             for (String parameter : function.parameters) {
                 String[] words = parameter.split(" ");
                 if (parameter.startsWith("record in ") && bytesWithoutField(words[2]) > 0) {
                     handedOver.put(function.name, words[2] + " " + bytesWithoutField(words[2]));
+                    inAll.merge(function.name, bytesWithoutField(words[2]), Long::sum);
                 }
             }
         }
@@ -135,8 +138,10 @@ public final class OpenPoints {
         String[] methods = textOf(javaClasses.resolve("DiskArrayUtilityJNI.java")).split(";");
         for (String method : handedOver.keySet()) {
             expect(Arrays.stream(methods).anyMatch(text -> text.contains(" " + method + "(")
-                            && text.contains("bytes have no field")),
-                    "the Javadoc of " + method + " does not say which bytes have no field");
+                            && text.contains(String.format(
+                                    Locale.ROOT, " %,d bytes have no field", inAll.get(method)))),
+                    "the Javadoc of " + method + " does not say that " + inAll.get(method)
+                            + " bytes have no field");
         }
     }
 }

@@ -4,6 +4,11 @@
 
 namespace quorvelj::testing {
 
+std::string classNameOf(const std::string& signature) {
+  const std::size_t start = signature.find_first_not_of("[L");
+  return start == std::string::npos ? "" : signature.substr(start, signature.find(';') - start);
+}
+
 const std::map<std::string, MappedClass>& mappedClasses() {
   static const std::map<std::string, MappedClass> classes{
 #define RECORD_ENTRY(header, Record) \
