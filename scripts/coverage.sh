@@ -12,7 +12,8 @@ ctest --test-dir build/coverage --output-on-failure -R '^(mini_jvm_tests|real_jv
 report() {
   gcovr --root . --filter bridge/ --filter methods/ build/coverage \
     --exclude-throw-branches --exclude-unreachable-branches \
-    --exclude-lines-by-pattern 'QUORVELJ_CLASS.*' "$@"
+    --exclude-lines-by-pattern 'QUORVELJ_CLASS.*' \
+    --exclude-branches-by-pattern '.*GCOV_EXCL_BR_LINE.*' "$@"
 }
 report --json build/coverage/coverage.json
 echo "== lines"
