@@ -8,7 +8,6 @@
 namespace quorvelj {
 namespace {
 
-constexpr char kArrayExceptionClass[] = "tessaly/str/diskarray/DiskArrayException";
 constexpr char kClassNotFoundClass[] = "java/lang/ClassNotFoundException";
 constexpr char kStringClass[] = "java/lang/String";
 constexpr char kStringSignature[] = "Ljava/lang/String;";
@@ -120,7 +119,7 @@ void throwArrayException(JNIEnv* env, int code) {
   if (type == nullptr) {
     return;
   }
-  const jmethodID constructor = env->GetMethodID(type, "<init>", "(I)V");
+  const jmethodID constructor = env->GetMethodID(type, "<init>", kArrayExceptionConstructor);
   if (constructor == nullptr) {
     return;
   }
@@ -177,7 +176,7 @@ jobject newInteger(JNIEnv* env, jint value) {
   if (type == nullptr) {
     return nullptr;
   }
-  const jmethodID constructor = env->GetMethodID(type, "<init>", "(I)V");
+  const jmethodID constructor = env->GetMethodID(type, "<init>", kArrayExceptionConstructor);
   if (constructor == nullptr) {
     return nullptr;
   }

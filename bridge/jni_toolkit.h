@@ -32,6 +32,10 @@ inline constexpr std::size_t kNoCapacity = std::numeric_limits<std::size_t>::max
 
 // Throwing
 
+/// The class of all other codes, and its constructor's signature.
+inline constexpr char kArrayExceptionClass[] = "tessaly/str/diskarray/DiskArrayException";
+inline constexpr char kArrayExceptionConstructor[] = "(I)V";
+
 /// Throws a new `className` (slash form) with `message`.
 void throwNewByName(JNIEnv* env, const char* className, const char* message);
 

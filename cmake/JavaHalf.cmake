@@ -1,5 +1,4 @@
-# The Java half: quorvelj.jar, the jars of the array tour and of the tools, and what the native build
-# takes from them.
+# The Java half: quorvelj.jar, the jar of the array tour, and what the native build takes from them.
 #
 # quorvelj_java  interface library with JNI's headers and the generated ones
 # JAVA_HALF_DIRECTORY  where the generated files are; NativeMethods.cmake says which
@@ -12,12 +11,11 @@ cmake_path(GET java_home PARENT_PATH java_home)
 set(JAVA_HALF_DIRECTORY "${PROJECT_BINARY_DIR}/java/native")
 set(QUORVELJ_JAR "${PROJECT_BINARY_DIR}/lib/quorvelj.jar")
 set(TOUR_JAR "${PROJECT_BINARY_DIR}/lib/array-tour.jar")
-set(TOOLS_JAR "${PROJECT_BINARY_DIR}/lib/quorvelj-tools.jar")
 set(native_header "${JAVA_HALF_DIRECTORY}/tessaly_str_diskarray_DiskArrayUtilityJNI.h")
 
 # The application's JVM may be old. Entries carry a fixed time, so that equal sources give equal jars.
 set(javac "${Java_JAVAC_EXECUTABLE}" --release 8 -encoding UTF-8 -Xlint:all,-options -Werror)
-set(jar "${Java_JAR_EXECUTABLE}" --create --no-manifest --date=2024-01-01T00:00:00Z)
+set(jar "${Java_JAR_EXECUTABLE}" --create --date=2024-01-01T00:00:00Z)
 
 file(GLOB java_sources CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/java/tessaly/str/diskarray/*.java")
 set(classes "${PROJECT_BINARY_DIR}/java/classes")
@@ -31,7 +29,7 @@ add_custom_command(
   COMMAND "${CMAKE_COMMAND}" -E make_directory "${JAVA_HALF_DIRECTORY}"
   COMMAND "${CMAKE_COMMAND}" -E copy_if_different
           "${generated}/tessaly_str_diskarray_DiskArrayUtilityJNI.h" "${native_header}"
-  COMMAND ${jar} --file "${QUORVELJ_JAR}" -C "${classes}" .
+  COMMAND ${jar} --no-manifest --file "${QUORVELJ_JAR}" -C "${classes}" .
   COMMAND "${CMAKE_COMMAND}" "-DHEADER=${native_header}" "-DDIRECTORY=${JAVA_HALF_DIRECTORY}"
           -P "${PROJECT_SOURCE_DIR}/cmake/NativeMethods.cmake"
   DEPENDS ${java_sources} "${PROJECT_SOURCE_DIR}/cmake/NativeMethods.cmake"
@@ -45,26 +43,11 @@ add_custom_command(
   OUTPUT "${TOUR_JAR}"
   COMMAND "${CMAKE_COMMAND}" -E rm -rf "${tour_classes}"
   COMMAND ${javac} -classpath "${QUORVELJ_JAR}" -d "${tour_classes}" ${tour_sources}
-  COMMAND ${jar} --file "${TOUR_JAR}" -C "${tour_classes}" .
+  COMMAND ${jar} --no-manifest --file "${TOUR_JAR}" -C "${tour_classes}" .
   DEPENDS ${tour_sources} "${QUORVELJ_JAR}"
   COMMENT "Compiling the array tour"
   VERBATIM)
 add_custom_target(array_tour ALL DEPENDS "${TOUR_JAR}")
-
-set(tools_directory "${PROJECT_SOURCE_DIR}/tools/java")
-file(GLOB tools_sources CONFIGURE_DEPENDS "${tools_directory}/quorvelj/tools/*.java")
-file(GLOB probe_files CONFIGURE_DEPENDS "${tools_directory}/quorvelj/tools/probe/*")
-set(tools_classes "${PROJECT_BINARY_DIR}/java/tools")
-add_custom_command(
-  OUTPUT "${TOOLS_JAR}"
-  COMMAND "${CMAKE_COMMAND}" -E rm -rf "${tools_classes}"
-  COMMAND ${javac} -d "${tools_classes}" ${tools_sources}
-  COMMAND ${jar} --file "${TOOLS_JAR}" -C "${tools_classes}" .
-          -C "${tools_directory}" quorvelj/tools/probe
-  DEPENDS ${tools_sources} ${probe_files}
-  COMMENT "Compiling the tools"
-  VERBATIM)
-add_custom_target(java_tools ALL DEPENDS "${TOOLS_JAR}")
 
 add_library(quorvelj_java INTERFACE)
 add_dependencies(quorvelj_java java_half)

@@ -20,7 +20,7 @@ cmake --build --preset linux --target tools
 cp build/windows-x86/lib/quorvelj.dll "$root/windows-x86/"
 strip -o "$root/linux-i386/libquorvelj.so" build/linux-i386/lib/libquorvelj.so
 strip -o "$root/linux-x86_64/libquorvelj.so" build/linux/lib/libquorvelj.so
-cp build/linux/lib/{quorvelj,array-tour}.jar README.md "$root/"
+cp build/linux/lib/{quorvelj,array-tour,quorvelj-tools}.jar README.md "$root/"
 cp arraylib/*.h "$root/arraylib/"
 cp -r docs "$root/"
 java -classpath build/linux/lib/quorvelj-tools.jar quorvelj.tools.LayoutProbe \

@@ -1,6 +1,6 @@
 // Writes the catalogue: what the bridge knows of itself, from its class maps and from the
-// prototypes of the library's functions. docs/catalogue.md describes it. Usage: catalogue EXPORTS
-// CATALOGUE
+// prototypes of the library's functions. docs/catalogue.md describes it.
+// Usage: catalogue VERSION EXPORTS CATALOGUE
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
@@ -15,6 +15,7 @@
 
 #include "bridge/class_map.h"
 #include "bridge/departure.h"
+#include "bridge/jni_toolkit.h"
 #include "record_headers.inc"
 
 #define NATIVE_METHOD_ENTRY(name, escaped, signature) \
@@ -332,24 +333,36 @@ class Classes {
   std::set<std::string> read_;
 };
 
-std::string catalogue(std::istream& exports) {
+/// The class of the native methods, from the name that one of them is exported under.
+std::string nativeClass(const std::string& symbol) {
+  constexpr std::string_view kPrefix = "_Java_";
+  const std::size_t end = symbol.find('_' + std::string(kMethods[0].escaped) + '@');
+  std::string name = symbol.substr(kPrefix.size(), end - kPrefix.size());
+  std::replace(name.begin(), name.end(), '_', '/');
+  return name;
+}
+
+std::string catalogue(const char* version, std::istream& exports) {
+  std::vector<std::string> symbols(std::size(kMethods));
+  for (std::string& symbol : symbols) {
+    std::getline(exports, symbol);
+  }
   std::ostringstream out;
-  out << "quorvelj-catalogue 1\n";
+  out << "quorvelj-catalogue 1\nbridge " << version << ' ' << nativeClass(symbols[0]) << '\n';
   for (const Record& record : records()) {
     writeRecord(out, record);
   }
   Classes().write(out);
+  out << "class " << kArrayExceptionClass << " thrown " << kArrayExceptionConstructor << '\n';
 #define FUNCTION_ENTRY(header, function) \
   writeFunction(out, header, #function, kAssumedFunction<function>, &function);
 #include "function_entries.inc"
 #undef FUNCTION_ENTRY
-  for (const Method& method : kMethods) {
-    std::string symbol;
-    std::getline(exports, symbol);
+  for (auto symbol = symbols.begin(); const Method& method : kMethods) {
     if (out.view().find("\nfunction " + method.function() + ' ') == std::string_view::npos) {
       fail(method.name + " calls " + method.function() + ", which no header declares");
     }
-    writeMethod(out, method, symbol);
+    writeMethod(out, method, *symbol++);
   }
   return out.str();
 }
@@ -357,13 +370,13 @@ std::string catalogue(std::istream& exports) {
 }  // namespace
 
 int main(int count, char** arguments) {
-  if (count != 3) {
-    std::fputs("usage: catalogue EXPORTS CATALOGUE\n", stderr);
+  if (count != 4) {
+    std::fputs("usage: catalogue VERSION EXPORTS CATALOGUE\n", stderr);
     return 2;
   }
-  std::ifstream exports(arguments[1]);
-  const std::string text = catalogue(exports);
-  std::ofstream file(arguments[2]);
+  std::ifstream exports(arguments[2]);
+  const std::string text = catalogue(arguments[1], exports);
+  std::ofstream file(arguments[3]);
   file << text;
   file.close();
   return file ? 0 : 1;

@@ -52,7 +52,9 @@ TEST_F(HotSpot, MissingClassIsReportedByName) {
   // A later exception replaces a pending one.
   EXPECT_EQ(newObjectByName(env_, "tessaly/str/diskarray/Nothing"), nullptr);
   throwArrayException(env_, 2817);
-  EXPECT_EQ(pending(), "tessaly.str.diskarray.DiskArrayException: disk array error 2817");
+  EXPECT_EQ(pending(),
+            "tessaly.str.diskarray.DiskArrayException: disk array error 2817: the result could not "
+            "be built, since a class is not as expected");
 }
 
 TEST_F(HotSpot, ObjectOfAClassWithoutTheFields) {

@@ -8,13 +8,27 @@ public class DiskArrayException extends Exception {
 
     /** Made by the native library. */
     public DiskArrayException(int code) {
-        super("disk array error " + code);
+        super("disk array error " + code + words(code));
         this.code = code;
     }
 
+    /** What a code of the bridge means; "" for the library's own. */
+    private static String words(int code) {
+        switch (code) {
+            case -1:
+                return ": the time to set is null, or a code of the array library";
+            case 258:
+                return ": a required text is null";
+            case 2817:
+                return ": the result could not be built, since a class is not as expected";
+            default:
+                return "";
+        }
+    }
+
     /**
-     * Returns the code: 258 where a required argument was null, 2817 where the result could not be
-     * built, any other as the array library returned it.
+     * Returns the code: 258 where a required text was null, 2817 where the result could not be
+     * built, -1 where the time to set was null, any other as the array library returned it.
      */
     public int getCode() {
         return code;

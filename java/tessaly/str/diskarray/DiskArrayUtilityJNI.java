@@ -9,6 +9,13 @@ package tessaly.str.diskarray;
  */
 public class DiskArrayUtilityJNI {
     static {
+        // Windows does not look for quorvel.dll in the directory of quorvelj.dll, but takes one that is
+        // loaded already.
+        try {
+            System.loadLibrary("quorvel");
+        } catch (UnsatisfiedLinkError notOnThePath) {
+            // It may be where the system itself looks.
+        }
         System.loadLibrary("quorvelj");
     }
 

@@ -1,17 +1,23 @@
 package quorvelj.tools;
 
+import java.io.BufferedReader;
 import java.io.IOException;
+import java.io.InputStream;
+import java.io.InputStreamReader;
 import java.nio.charset.StandardCharsets;
 import java.nio.file.Files;
 import java.nio.file.Path;
 import java.util.ArrayList;
+import java.util.HashMap;
 import java.util.LinkedHashMap;
 import java.util.List;
 import java.util.Map;
+import java.util.stream.Collectors;
 
 /** What the bridge knows of itself, read from the text that docs/catalogue.md describes. */
 public final class Catalogue {
     private static final String FIRST_LINE = "quorvelj-catalogue 1";
+    private static final Map<Character, String> PRIMITIVES = primitives();
 
     /** A record of the library. */
     public static final class Record {
@@ -106,6 +112,10 @@ public final class Catalogue {
 
         public final boolean isBuilt;
         public final boolean isRead;
+
+        /** Whether the bridge throws it. */
+        public final boolean isThrown;
+
         public final String constructor;
 
         /** The JNI signatures by the names. */
@@ -115,7 +125,13 @@ public final class Catalogue {
             name = words[1];
             isBuilt = words[2].equals("built") || words[2].equals("both");
             isRead = words[2].equals("read") || words[2].equals("both");
+            isThrown = words[2].equals("thrown");
             constructor = words[3];
+        }
+
+        /** Without the package; that of its record, where it has one. */
+        public String simpleName() {
+            return name.substring(name.lastIndexOf('/') + 1);
         }
     }
 
@@ -161,6 +177,12 @@ public final class Catalogue {
         }
     }
 
+    /** The bridge's. */
+    public final String version;
+
+    /** The class of the native methods, in slash form. */
+    public final String nativeClass;
+
     /** By their names, in the order of the catalogue. */
     public final Map<String, Record> records = new LinkedHashMap<>();
 
@@ -169,14 +191,17 @@ public final class Catalogue {
     public final Map<String, Method> methods = new LinkedHashMap<>();
 
     private Catalogue(List<String> lines) {
-        if (lines.isEmpty() || !lines.get(0).equals(FIRST_LINE)) {
+        if (lines.size() < 2 || !lines.get(0).equals(FIRST_LINE)) {
             throw new IllegalArgumentException("not a catalogue: it begins with " + FIRST_LINE);
         }
+        String[] bridge = lines.get(1).split(" ");
+        version = bridge[1];
+        nativeClass = bridge[2];
         Record record = null;
         JavaClass javaClass = null;
         Function function = null;
         Method method = null;
-        for (String line : lines.subList(1, lines.size())) {
+        for (String line : lines.subList(2, lines.size())) {
             String[] words = line.split(" ");
             String rest = line.substring(words[0].length() + 1);
             switch (words[0]) {
@@ -221,5 +246,55 @@ public final class Catalogue {
     /** Reads a catalogue from a file. */
     public static Catalogue read(Path file) throws IOException {
         return new Catalogue(Files.readAllLines(file, StandardCharsets.UTF_8));
+    }
+
+    /** That of the bridge with which this program was delivered. */
+    public static Catalogue own() throws IOException {
+        try (InputStream in = Catalogue.class.getResourceAsStream("catalogue.txt")) {
+            if (in == null) {
+                throw new IOException("this jar has no catalogue");
+            }
+            BufferedReader reader =
+                    new BufferedReader(new InputStreamReader(in, StandardCharsets.UTF_8));
+            return new Catalogue(reader.lines().collect(Collectors.toList()));
+        }
+    }
+
+    /** The types of a JNI signature as Java writes them, without packages; the result last. */
+    public static List<String> javaTypes(String signature) {
+        List<String> types = new ArrayList<>();
+        String brackets = "";
+        for (int at = 1; at < signature.length(); ++at) {
+            char letter = signature.charAt(at);
+            if (letter == ')') {
+                continue;
+            }
+            if (letter == '[') {
+                brackets += "[]";
+                continue;
+            }
+            String name = PRIMITIVES.get(letter);
+            if (letter == 'L') {
+                int end = signature.indexOf(';', at);
+                name = signature.substring(signature.lastIndexOf('/', end) + 1, end);
+                at = end;
+            }
+            types.add(name + brackets);
+            brackets = "";
+        }
+        return types;
+    }
+
+    /** The type of a JNI signature as Java writes it, without packages. */
+    public static String javaType(String signature) {
+        return javaTypes('(' + signature).get(0);
+    }
+
+    private static Map<Character, String> primitives() {
+        Map<Character, String> names = new HashMap<>();
+        for (String entry : "Z boolean;B byte;C char;S short;I int;J long;F float;D double;V void".split(";")) {
+            names.put(entry.charAt(0), entry.substring(2));
+        }
+        return names;
     }
 }

@@ -60,11 +60,15 @@ public final class Reference {
                         + " methods of `DiskArrayUtilityJNI`. The frame follows from the result;"
                         + " the list behind the table says what departs from it.");
         line("");
+        line(
+                "An application with a class of its own declares them as they stand here, and loads"
+                        + " `quorvel` before `quorvelj`.");
+        line("");
         line("| method | arguments | result | declared in | library function | frame |");
         line("|---|---|---|---|---|---|");
         for (Catalogue.Method method : catalogue.methods.values()) {
             Catalogue.Function function = method.function;
-            List<String> types = javaTypes(method.signature);
+            List<String> types = Catalogue.javaTypes(method.signature);
             String result = types.remove(types.size() - 1);
             line(
                     String.format(
@@ -156,30 +160,5 @@ public final class Reference {
             type.append('[').append(extent).append(']');
         }
         return (isText ? type.append('[').append(member.bytes).append(']') : type).toString();
-    }
-
-    /** The types of a JNI signature as Java writes them, the result last. */
-    private static List<String> javaTypes(String signature) {
-        List<String> types = new ArrayList<>();
-        String brackets = "";
-        for (int at = 1; at < signature.length(); ++at) {
-            char letter = signature.charAt(at);
-            if (letter == ')') {
-                continue;
-            }
-            if (letter == '[') {
-                brackets += "[]";
-                continue;
-            }
-            String name = letter == 'I' ? "int" : letter == 'B' ? "byte" : "void";
-            if (letter == 'L') {
-                int end = signature.indexOf(';', at);
-                name = signature.substring(signature.lastIndexOf('/', end) + 1, end);
-                at = end;
-            }
-            types.add(name + brackets);
-            brackets = "";
-        }
-        return types;
     }
 }
