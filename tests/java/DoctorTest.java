@@ -31,6 +31,8 @@ import quorvelj.tools.LibraryFile;
  */
 public final class DoctorTest {
     private static final int MUTATIONS = 1000;
+    /** For programs that run for a moment. */
+    private static final String[] QUICK = {"-XX:+UseSerialGC", "-XX:TieredStopAtLevel=1"};
 
     private String java;
     private final String java32;
@@ -114,7 +116,7 @@ public final class DoctorTest {
     }
 
     private void doctor(String... arguments) throws IOException, InterruptedException {
-        run(Stream.concat(Stream.of(java, "-jar", toolsJar, "doctor"), Arrays.stream(arguments))
+        run(Stream.concat(Stream.of(java, QUICK[0], QUICK[1], "-jar", toolsJar, "doctor"), Arrays.stream(arguments))
                 .toArray(String[]::new));
     }
 
@@ -243,7 +245,7 @@ public final class DoctorTest {
                 doctor("--classes", jar, "--natives", libraries.toString(), "--construct");
                 expectReport(1, "QVSessionInfo()  leaves session_id a byte[16], wanted byte[32]");
             }
-            run(java, "-Djava.library.path=" + libraries, "-classpath",
+            run(java, QUICK[0], QUICK[1], "-Djava.library.path=" + libraries, "-classpath",
                     jar + File.pathSeparator + testsJar, "DoctorCall", row[4]);
             expect(printed.startsWith(row[5]), row[4] + " ended with " + printed + " after "
                     + row[0] + " got " + row[2]);
