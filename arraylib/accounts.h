@@ -9,6 +9,7 @@ struct QVSessionInfo {
   std::byte session_id[32];
 };
 QUORVEL_RECORD(QVSessionInfo, 32);
+QUORVEL_SECRET(QVSessionInfo, session_id);
 
 struct LoginRequest {
   char user_id[257];
@@ -17,6 +18,7 @@ struct LoginRequest {
   char log_string[128];
 };
 QUORVEL_RECORD(LoginRequest, 648);
+QUORVEL_SECRET(LoginRequest, passwd);
 QUORVEL_OFFSET(LoginRequest, log_option, 516);
 
 struct LogoutOption {
@@ -34,6 +36,7 @@ struct Account {
   std::int32_t account_enable;
 };
 QUORVEL_RECORD(Account, 536);
+QUORVEL_SECRET(Account, passwd);
 QUORVEL_OFFSET(Account, set_passwd, 260);
 QUORVEL_OFFSET(Account, passwd, 264);
 QUORVEL_OFFSET(Account, account_type, 524);
@@ -49,6 +52,7 @@ struct OwnPasswordChange {
   char new_passwd[257];
 };
 QUORVEL_RECORD(OwnPasswordChange, 771);
+QUORVEL_SECRET(OwnPasswordChange, old_passwd, new_passwd);
 
 struct AccountOptionInfo {
   std::int32_t password_min_length;
@@ -94,6 +98,7 @@ struct QVAccountBaseInfo {
   std::byte reserved[8];
 };
 QUORVEL_RECORD(QVAccountBaseInfo, 544);
+QUORVEL_SECRET(QVAccountBaseInfo, passwd);
 QUORVEL_ASSUMED(QVAccountBaseInfo);
 
 struct QVAccountInfoList {

@@ -35,6 +35,7 @@ struct AlertCheckUser {
   std::int32_t account_enable;
 };
 QUORVEL_RECORD(AlertCheckUser, 520);
+QUORVEL_SECRET(AlertCheckUser, passwd);
 QUORVEL_OFFSET(AlertCheckUser, account_enable, 516);
 
 /// The mail that an array sends.

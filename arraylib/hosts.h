@@ -500,6 +500,7 @@ struct QViSCSITargetInfo {
   char secret[35];
 };
 QUORVEL_RECORD(QViSCSITargetInfo, 568);
+QUORVEL_SECRET(QViSCSITargetInfo, secret);
 QUORVEL_OFFSET(QViSCSITargetInfo, iscsi_name, 37);
 QUORVEL_OFFSET(QViSCSITargetInfo, authmethod, 264);
 QUORVEL_OFFSET(QViSCSITargetInfo, user_name, 276);
@@ -609,6 +610,7 @@ struct QViSCSICHAPUserInfo {
   std::byte target_bitmap[32];
 };
 QUORVEL_RECORD(QViSCSICHAPUserInfo, 332);
+QUORVEL_SECRET(QViSCSICHAPUserInfo, secret);
 QUORVEL_OFFSET(QViSCSICHAPUserInfo, secret, 265);
 QUORVEL_OFFSET(QViSCSICHAPUserInfo, target_bitmap, 298);
 
@@ -690,6 +692,7 @@ struct QViSCSIRemotePathSecret {
   char secret[33];
 };
 QUORVEL_RECORD(QViSCSIRemotePathSecret, 33);
+QUORVEL_SECRET(QViSCSIRemotePathSecret, secret);
 QUORVEL_ASSUMED(QViSCSIRemotePathSecret);
 
 /// The paths to another array.

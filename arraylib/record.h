@@ -56,6 +56,20 @@ inline constexpr const char* kAssumedMembers = nullptr;
 template <auto Function>
 inline constexpr bool kAssumedFunction = false;
 
+/// The members of a record that a recording must not hold, names with commas between them; null for
+/// none.
+template <class Record>
+inline constexpr const char* kSecretMembers = nullptr;
+
+/// Whether the texts that a function is given are such.
+template <auto Function>
+inline constexpr bool kSecretTexts = false;
+
+/// The parameter that says how many records the last parameter of a function has; -1 for the extent
+/// of its type.
+template <auto Function>
+inline constexpr int kCountParameter = -1;
+
 /// Bytes behind a record that the library may reach, where the record's size is itself assumed.
 template <class Record>
 inline constexpr std::size_t kSpareBytes = 0;
@@ -79,6 +93,22 @@ inline constexpr std::size_t kSpareBytes = 0;
 #define QUORVEL_ASSUMED_SIZE(Record, bytes) \
   template <>                               \
   inline constexpr std::size_t quorvelj::kSpareBytes<Record> = bytes
+
+/// Marks members as secret: passwords and identifiers of sessions. In a recording tokens stand for
+/// them.
+#define QUORVEL_SECRET(Record, ...) \
+  template <>                       \
+  inline constexpr const char* quorvelj::kSecretMembers<Record> = #__VA_ARGS__
+
+/// The same for the texts that a function is given.
+#define QUORVEL_SECRET_TEXTS(function) \
+  template <>                          \
+  inline constexpr bool quorvelj::kSecretTexts<function> = true
+
+/// Says that the last parameter of a function has as many records as the parameter of this number.
+#define QUORVEL_COUNT_PARAMETER(function, number) \
+  template <>                                     \
+  inline constexpr int quorvelj::kCountParameter<function> = number
 
 // How a function of the library is declared. The simulator exports them.
 #ifndef QUORVEL_API

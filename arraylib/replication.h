@@ -521,6 +521,7 @@ struct RvrfSrcPath {
   char secret[33];
 };
 QUORVEL_RECORD(RvrfSrcPath, 84);
+QUORVEL_SECRET(RvrfSrcPath, secret);
 QUORVEL_OFFSET(RvrfSrcPath, remote_port_num, 40);
 QUORVEL_OFFSET(RvrfSrcPath, secret, 48);
 

@@ -122,6 +122,7 @@ struct ArrayConditionRequest {
   QVSessionInfo session;
 };
 QUORVEL_RECORD(ArrayConditionRequest, 552);
+QUORVEL_SECRET(ArrayConditionRequest, passwd);
 QUORVEL_OFFSET(ArrayConditionRequest, passwd, 261);
 QUORVEL_OFFSET(ArrayConditionRequest, session, 518);
 

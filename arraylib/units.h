@@ -77,6 +77,7 @@ struct ArrayUser {
   char passwd[17];
 };
 QUORVEL_RECORD(ArrayUser, 34);
+QUORVEL_SECRET(ArrayUser, passwd);
 
 /// What a login to a unit returns: two texts, the first of them empty where there is nothing to
 /// tell.
@@ -240,6 +241,7 @@ QUORVEL_API int QV_GetUnitParam(const UnitName* unit, QVUnitParam* param);
 QUORVEL_API int QV_GetUnitCount(std::int32_t* count);
 /// Fills `count` records from `table` on.
 QUORVEL_API int QV_GetUnitParamTable(std::int32_t count, QVUnitParam* table);
+QUORVEL_COUNT_PARAMETER(QV_GetUnitParamTable, 0);
 QUORVEL_API int QV_DiscoverUnitInformation(const DiscoverUnitRequest* request, DiscoverUnit* found);
 QUORVEL_API int QV_DiscoverUnitInformationEx(const DiscoverUnitRequest* request,
                                              DiscoverUnit* found);
@@ -258,8 +260,10 @@ QUORVEL_API int QV_KeepSession(const UnitName* unit, const QVSessionInfo* sessio
 QUORVEL_API int QV_TestUnitReady(const UnitName* unit, std::int32_t mode);
 QUORVEL_API int QV_UnitReboot(const LongUnitName* unit, const QVSessionInfo* session);
 QUORVEL_API int QV_PasswdChange(const Password* password);
+QUORVEL_SECRET_TEXTS(QV_PasswdChange);
 /// Takes a text of any length.
 QUORVEL_API int QV_PasswdCheck(const char* password);
+QUORVEL_SECRET_TEXTS(QV_PasswdCheck);
 QUORVEL_API int QV_RegistUser(const LongUnitName* unit, std::int32_t number, const ArrayUser* user);
 QUORVEL_API int QV_ChangeUser(const LongUnitName* unit, std::int32_t number,
                               const ArrayUser* oldUser, const ArrayUser* newUser);

@@ -2,7 +2,7 @@
 # goes through all of them:
 #   record_headers.inc    the headers
 #   record_entries.inc    RECORD_ENTRY("header", record), a line each
-#   function_entries.inc  FUNCTION_ENTRY("header", function), a line each
+#   function_entries.inc  FUNCTION_ENTRY("header", function, number of parameters), a line each
 # RECORDS_DIRECTORY is where they are.
 set(RECORDS_DIRECTORY "${PROJECT_BINARY_DIR}/records")
 file(GLOB record_headers CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/arraylib/*.h")
@@ -18,10 +18,16 @@ foreach(header IN LISTS record_headers)
     string(REGEX REPLACE "^QUORVEL_[A-Z]+\\(([A-Za-z0-9_]+).*" "\\1" record "${record}")
     string(APPEND entries "RECORD_ENTRY(\"${name}\", ${record})\n")
   endforeach()
-  file(STRINGS "${header}" lines REGEX "^QUORVEL_API int QV_")
-  foreach(line IN LISTS lines)
-    string(REGEX REPLACE "^QUORVEL_API int (QV_[A-Za-z0-9_]+).*" "\\1" function "${line}")
-    string(APPEND functions "FUNCTION_ENTRY(\"${name}\", ${function})\n")
+  file(READ "${header}" text)
+  string(REGEX MATCHALL "\nQUORVEL_API int QV_[A-Za-z0-9_]+\\([^)]*[^;]*" declarations "${text}")
+  foreach(declaration IN LISTS declarations)
+    string(REGEX REPLACE "^.QUORVEL_API int (QV_[A-Za-z0-9_]+).*" "\\1" function "${declaration}")
+    string(REGEX MATCHALL "," commas "${declaration}")
+    list(LENGTH commas count)
+    if(NOT declaration MATCHES "\\(\\)")
+      math(EXPR count "${count} + 1")
+    endif()
+    string(APPEND functions "FUNCTION_ENTRY(\"${name}\", ${function}, ${count})\n")
   endforeach()
 endforeach()
 file(CONFIGURE OUTPUT "${RECORDS_DIRECTORY}/record_headers.inc" CONTENT "${includes}" @ONLY)

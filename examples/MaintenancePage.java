@@ -1,7 +1,4 @@
 import java.io.File;
-import java.io.IOException;
-import java.nio.charset.StandardCharsets;
-import java.nio.file.Files;
 import tessaly.str.diskarray.AlertCheckEx;
 import tessaly.str.diskarray.DiskArrayException;
 import tessaly.str.diskarray.EmailAlertInfo;
@@ -42,7 +39,7 @@ final class MaintenancePage {
     }
 
     private static void update(Visit visit) throws DiskArrayException {
-        File file = newFile("0A10/B simulated firmware\n");
+        File file = Visit.newFile("firmware", "0A10/B simulated firmware\n");
         Table table = new Table("Step", "Result");
         int files = Visit.ARRAY.QV_MicroFileConcat(
                 visit.unit, visit.session, file.getPath(), NO_OPTION);
@@ -141,8 +138,8 @@ final class MaintenancePage {
         config.set_valid = 1;
         config.conf = "sysContact operator\nsysLocation hall 2\n";
         config.name = "tour";
-        String text = newFile("").getPath();
-        String name = newFile("").getPath();
+        String text = Visit.newFile("snmp", "").getPath();
+        String name = Visit.newFile("snmp-name", "").getPath();
         Visit.ARRAY.QV_SaveSnmpConfig(text, name, config);
         Visit.ARRAY.QV_SetSnmpConfig(visit.unit, visit.session, text, name);
         Visit.ARRAY.QV_SnmpConfigOutput(visit.unit, visit.session, text, name);
@@ -174,20 +171,8 @@ final class MaintenancePage {
             table.row("syslog", server.server_used, server.ip_address);
         }
         table.print();
-        File file = newFile("");
+        File file = Visit.newFile("audit-log", "");
         Visit.ARRAY.QV_QVAuditLogExport(visit.unit, visit.session, file.getPath());
-        System.out.println("  exported to a file of " + file.length() + " bytes\n");
-    }
-
-    /** A file of this content that goes when the tour ends. */
-    private static File newFile(String content) {
-        try {
-            File file = File.createTempFile("array-tour", ".txt");
-            file.deleteOnExit();
-            Files.write(file.toPath(), content.getBytes(StandardCharsets.UTF_8));
-            return file;
-        } catch (IOException failure) {
-            throw new IllegalStateException("no temporary file", failure);
-        }
+        System.out.println("  exported to a file\n");
     }
 }

@@ -1,5 +1,4 @@
 import java.io.File;
-import java.io.IOException;
 import java.util.ArrayList;
 import java.util.List;
 import tessaly.str.diskarray.CommandAll_Info;
@@ -84,13 +83,7 @@ final class PerformancePage {
             System.out.println("  no snapshots\n");
             return;
         }
-        File file;
-        try {
-            file = File.createTempFile("array-tour", ".collection");
-        } catch (IOException failed) {
-            System.out.println("  no file: " + failed.getMessage() + "\n");
-            return;
-        }
+        File file = Visit.newFile("collection", "");
         try {
             Visit.ARRAY.QV_PerformanceDataInitialize(visit.session, file.getPath(), 60, 0);
             PerformanceOutputGraphInfoRequest request = new PerformanceOutputGraphInfoRequest();

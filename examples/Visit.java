@@ -1,3 +1,7 @@
+import java.io.File;
+import java.io.IOException;
+import java.nio.charset.StandardCharsets;
+import java.nio.file.Files;
 import tessaly.str.diskarray.DiskArrayException;
 import tessaly.str.diskarray.DiskArrayUtilityJNI;
 import tessaly.str.diskarray.QVSessionInfo;
@@ -27,5 +31,20 @@ final class Visit {
         } catch (DiskArrayException refused) {
             System.out.println("  refused with code " + refused.getCode() + "\n");
         }
+    }
+
+    /**
+     * A file of this content that goes when the tour ends. It has the same name in every run, as a
+     * recording wants it.
+     */
+    static File newFile(String name, String content) {
+        File file = new File(System.getProperty("java.io.tmpdir"), "array-tour-" + name + ".txt");
+        try {
+            Files.write(file.toPath(), content.getBytes(StandardCharsets.UTF_8));
+        } catch (IOException failure) {
+            throw new IllegalStateException("no temporary file", failure);
+        }
+        file.deleteOnExit();
+        return file;
     }
 }

@@ -2,10 +2,10 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <tuple>
 #include <type_traits>
 
 #include "arraylib/accounts.h"
+#include "arraylib/prototype.h"
 #include "simulator/codes.h"
 #include "simulator/state.h"
 
@@ -69,56 +69,13 @@ int call(const char* function, int (*handler)(Parameter...), Parameter... parame
   return handler == nullptr || running.settled() ? running.result() : handler(parameters...);
 }
 
-template <class Function>
-struct Parameters;
-template <class... Parameter>
-struct Parameters<int(Parameter...)> {
-  using Handler = int (*)(Parameter...);
-  using All = std::tuple<Parameter...>;
-};
-template <class Function, std::size_t Index>
-using ParameterOf = std::tuple_element_t<Index, typename Parameters<Function>::All>;
-
 }  // namespace quorvelsim
 
-#define SIMULATE(count, function, ...)                                                        \
-  int function(SIMULATE_PARAMETERS_##count(function)) {                                       \
-    return quorvelsim::call(#function,                                                        \
-                            static_cast<quorvelsim::Parameters<decltype(function)>::Handler>( \
-                                SIMULATE_HANDLER(__VA_ARGS__)) SIMULATE_ARGUMENTS_##count);   \
+#define SIMULATE(count, function, ...)                                                      \
+  int function(QUORVEL_PARAMETERS_##count(function)) {                                      \
+    return quorvelsim::call(#function,                                                      \
+                            static_cast<decltype(&function)>(SIMULATE_HANDLER(__VA_ARGS__)) \
+                                QUORVEL_ARGUMENTS_##count);                                 \
   }
 #define SIMULATE_HANDLER(...) SIMULATE_FIRST(__VA_ARGS__ __VA_OPT__(, ) nullptr)
 #define SIMULATE_FIRST(first, ...) first
-#define SIMULATE_PARAMETER(function, index) \
-  quorvelsim::ParameterOf<decltype(function), index> p##index
-#define SIMULATE_PARAMETERS_0(function)
-#define SIMULATE_PARAMETERS_1(function) SIMULATE_PARAMETER(function, 0)
-#define SIMULATE_PARAMETERS_2(function) \
-  SIMULATE_PARAMETERS_1(function), SIMULATE_PARAMETER(function, 1)
-#define SIMULATE_PARAMETERS_3(function) \
-  SIMULATE_PARAMETERS_2(function), SIMULATE_PARAMETER(function, 2)
-#define SIMULATE_PARAMETERS_4(function) \
-  SIMULATE_PARAMETERS_3(function), SIMULATE_PARAMETER(function, 3)
-#define SIMULATE_PARAMETERS_5(function) \
-  SIMULATE_PARAMETERS_4(function), SIMULATE_PARAMETER(function, 4)
-#define SIMULATE_PARAMETERS_6(function) \
-  SIMULATE_PARAMETERS_5(function), SIMULATE_PARAMETER(function, 5)
-#define SIMULATE_PARAMETERS_7(function) \
-  SIMULATE_PARAMETERS_6(function), SIMULATE_PARAMETER(function, 6)
-#define SIMULATE_PARAMETERS_8(function) \
-  SIMULATE_PARAMETERS_7(function), SIMULATE_PARAMETER(function, 7)
-#define SIMULATE_PARAMETERS_9(function) \
-  SIMULATE_PARAMETERS_8(function), SIMULATE_PARAMETER(function, 8)
-#define SIMULATE_PARAMETERS_10(function) \
-  SIMULATE_PARAMETERS_9(function), SIMULATE_PARAMETER(function, 9)
-#define SIMULATE_ARGUMENTS_0
-#define SIMULATE_ARGUMENTS_1 , p0
-#define SIMULATE_ARGUMENTS_2 SIMULATE_ARGUMENTS_1, p1
-#define SIMULATE_ARGUMENTS_3 SIMULATE_ARGUMENTS_2, p2
-#define SIMULATE_ARGUMENTS_4 SIMULATE_ARGUMENTS_3, p3
-#define SIMULATE_ARGUMENTS_5 SIMULATE_ARGUMENTS_4, p4
-#define SIMULATE_ARGUMENTS_6 SIMULATE_ARGUMENTS_5, p5
-#define SIMULATE_ARGUMENTS_7 SIMULATE_ARGUMENTS_6, p6
-#define SIMULATE_ARGUMENTS_8 SIMULATE_ARGUMENTS_7, p7
-#define SIMULATE_ARGUMENTS_9 SIMULATE_ARGUMENTS_8, p8
-#define SIMULATE_ARGUMENTS_10 SIMULATE_ARGUMENTS_9, p9

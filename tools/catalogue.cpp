@@ -39,6 +39,7 @@ struct Record {
   std::size_t bytes;
   const ClassMap* map;
   const char* assumedMembers;
+  const char* secretMembers;
   /// The members that no Java field holds.
   std::vector<Field> reserved{};
 };
@@ -50,7 +51,8 @@ Record recordOf(const char* header, const char* name) {
                 ClassOf<Type>::kLine,
                 sizeof(Type),
                 &ClassOf<Type>::kMap,
-                kAssumedMembers<Type>};
+                kAssumedMembers<Type>,
+                kSecretMembers<Type>};
   const auto& fields = record.map->fields;
   const auto add = [&](const Field& member) {
     if (!fields.empty() && std::none_of(fields.begin(), fields.end(), [&](const Field& field) {
@@ -135,11 +137,19 @@ std::set<std::string> splitAtCommas(const std::string& list) {
   return names;
 }
 
+/// Whether a member must be marked as secret, by its name.
+bool soundsSecret(const std::string& name) {
+  const auto has = [&](const char* part) { return name.find(part) != std::string::npos; };
+  return has("passw") || has("secret") || has("session_id");
+}
+
 void writeRecord(std::ostream& out, const Record& record) {
   const bool settled = record.assumedMembers == nullptr;
   std::set<std::string> assumed =
       settled ? std::set<std::string>{} : splitAtCommas(record.assumedMembers);
   const bool whole = !settled && assumed.empty();
+  std::set<std::string> secret =
+      splitAtCommas(record.secretMembers == nullptr ? "" : record.secretMembers);
   out << "record " << record.name << ' ' << record.header << ' ' << record.line << ' '
       << record.bytes << ' ' << (*record.map->className == '\0' ? "part" : "class") << ' '
       << (settled ? "confirmed"
@@ -170,15 +180,24 @@ void writeRecord(std::ostream& out, const Record& record) {
   for (const auto& [field, filled] : members) {
     fillUpTo(field.offset);
     const bool isAssumed = assumed.erase(field.name) > 0 || whole;
+    const bool isSecret = secret.erase(field.name) > 0;
+    const bool holdsText = field.kind == FieldKind::kText || field.kind == FieldKind::kBytes;
+    if (holdsText && !isSecret && soundsSecret(field.name)) {
+      fail(std::string(record.name) + "." + field.name + " is not marked by QUORVEL_SECRET");
+    }
     out << "member " << field.offset << ' ' << field.elementBytes << ' ' << kindOf(field) << ' '
         << extentsOf(field) << ' ' << filled << ' ' << field.name << ' '
-        << (isAssumed ? "assumed" : "confirmed") << '\n';
+        << (isAssumed ? "assumed" : "confirmed") << (isSecret ? " secret" : "") << '\n';
     end = field.offset + bytesOf(field);
   }
   fillUpTo(record.bytes);
   if (!assumed.empty()) {
     fail(std::string(record.name) + " has no member " + *assumed.begin() +
          ", which is marked as assumed");
+  }
+  if (!secret.empty()) {
+    fail(std::string(record.name) + " has no member " + *secret.begin() +
+         ", which is marked as secret");
   }
 }
 
@@ -354,7 +373,7 @@ std::string catalogue(const char* version, std::istream& exports) {
   }
   Classes().write(out);
   out << "class " << kArrayExceptionClass << " thrown " << kArrayExceptionConstructor << '\n';
-#define FUNCTION_ENTRY(header, function) \
+#define FUNCTION_ENTRY(header, function, count) \
   writeFunction(out, header, #function, kAssumedFunction<function>, &function);
 #include "function_entries.inc"
 #undef FUNCTION_ENTRY

@@ -66,6 +66,9 @@ public final class Catalogue {
         public final String name;
         public final boolean isAssumed;
 
+        /** Whether a token stands for it in a recording. */
+        public final boolean isSecret;
+
         Member(String[] words) {
             offset = Long.parseLong(words[1]);
             bytes = Long.parseLong(words[2]);
@@ -78,6 +81,7 @@ public final class Catalogue {
             filled = words[5].equals("reserved") ? 0 : Integer.parseInt(words[5]);
             name = words[6];
             isAssumed = words[7].equals("assumed");
+            isSecret = words.length > 8;
         }
 
         public boolean isReserved() {
