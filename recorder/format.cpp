@@ -72,7 +72,8 @@ class Packer {
         continue;
       }
       if (at + sizeof(std::uint64_t) <= end) {
-        const std::size_t hash = word(block + at) * 0x9E3779B97F4A7C15U >> (64 - kHashBits);
+        const std::uint64_t product = word(block + at) * 0x9E3779B97F4A7C15U;
+        const auto hash = static_cast<std::size_t>(product >> (64 - kHashBits));
         const std::size_t before = seen_[hash];
         seen_[hash] = at;
         std::size_t same = 0;

@@ -129,11 +129,14 @@ struct Known<kFunction> {
     return invokeWith(target, values, std::index_sequence_for<Type...>());
   }
 
-  static int handle(const char* name, Type... arguments) {
-    const Function function{
+  static Function function(const char* name) {
+    return {
         name, {kParameters, sizeof...(Type)}, quorvelj::kCountParameter<kFunction>, &invoke, &real};
+  }
+
+  static int handle(const char* name, Type... arguments) {
     void* const values[] = {valueAt(arguments)..., nullptr};
-    return call(function, values);
+    return call(function(name), values);
   }
 };
 

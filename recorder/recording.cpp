@@ -153,6 +153,15 @@ Recording::Recording(const std::string& path)
   write(header);
 }
 
+Recording::~Recording() { close(); }
+
+void Recording::close() {
+  const int file = file_.exchange(-1);
+  if (file >= 0) {
+    ::close(file);
+  }
+}
+
 int Recording::call(const Function& function, void* real, void* const* values) {
   const std::size_t parameters = function.parameters.size();
   std::vector<Block> blocks;
@@ -265,8 +274,7 @@ void Recording::write(const std::string& bytes) {
     }
     if (written <= 0) {
       complain(std::string("the recording ends here: ") + std::strerror(errno));
-      ::close(file_);
-      file_ = -1;
+      close();
       return;
     }
     done += static_cast<std::size_t>(written);

@@ -20,6 +20,9 @@ class Recording {
  public:
   /// Opens a new file; where `path` exists, the first of path-2, path-3, … that does not.
   explicit Recording(const std::string& path);
+  Recording(const Recording&) = delete;
+  Recording& operator=(const Recording&) = delete;
+  ~Recording();
 
   [[nodiscard]] bool isOpen() const { return file_ >= 0; }
 
@@ -38,6 +41,7 @@ class Recording {
   void putBlock(std::string& body, const Function& function, std::size_t parameter, Block& block,
                 std::uint64_t number);
   void write(const std::string& bytes);
+  void close();
 
   std::atomic<int> file_ = -1;
   bool keepsSecrets_;

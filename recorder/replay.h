@@ -59,8 +59,8 @@ class Replay {
   static Arguments argumentsOf(const Function& function, void* const* values);
   /// In how many plain arguments two calls differ.
   static std::size_t differing(const Arguments& live, const Arguments& recorded);
-  /// Whether nothing differs but elements of arrays: a caller that sets fewer hands over what lay in
-  /// memory.
+  /// Whether nothing differs but elements of arrays: a caller that sets fewer hands over what lay
+  /// in memory.
   static bool agree(const Arguments& live, const Arguments& recorded);
   Candidate* choose(Calls& calls, const Arguments& arguments);
   bool fits(const std::vector<std::string>& live, const std::vector<std::string>& recorded) const;
