@@ -174,6 +174,7 @@ consteval bool eachOnce(const Field (&fields)[N]) {
 
 template <std::size_t N>
 consteval bool isListed(const Field (&fields)[N], std::string_view name) {
+  // NOLINTNEXTLINE(readability-use-anyofallof): every source would get <algorithm> for it.
   for (const Field& field : fields) {
     if (name == field.name) {
       return true;

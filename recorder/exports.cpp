@@ -8,9 +8,11 @@
 #include "record_headers.inc"
 #include "recorder/function.h"
 
+// NOLINTBEGIN(bugprone-macro-parentheses): a template argument
 #define FUNCTION_ENTRY(header, function, count)                                     \
   int function(QUORVEL_PARAMETERS_##count(function)) {                              \
     return recorder::Known<&function>::handle(#function QUORVEL_ARGUMENTS_##count); \
   }
+// NOLINTEND(bugprone-macro-parentheses)
 #include "function_entries.inc"
 #undef FUNCTION_ENTRY

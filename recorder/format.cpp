@@ -186,7 +186,7 @@ std::string Reader::text() {
     fail();
     return {};
   }
-  const std::string text(at_, static_cast<std::size_t>(bytes));
+  std::string text(at_, static_cast<std::size_t>(bytes));
   at_ += bytes;
   return text;
 }

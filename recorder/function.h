@@ -24,15 +24,15 @@ enum class Role : std::uint8_t { kNumber, kInput, kOutput, kNull };
 
 /// A parameter of a library function.
 struct Parameter {
-  Role role;
+  Role role = Role::kNumber;
+  bool isText = false;
+  bool isSecret = false;
   /// Of the record, the text or the array; 0 for a text of any length.
-  std::size_t bytes;
+  std::size_t bytes = 0;
   /// Of one record of an array.
-  std::size_t elementBytes;
+  std::size_t elementBytes = 0;
   /// Of the record; null for a text, raw bytes and ints.
-  const quorvelj::ClassMap* map;
-  bool isText;
-  bool isSecret;
+  const quorvelj::ClassMap* map = nullptr;
 };
 
 /// A library function.
@@ -75,22 +75,20 @@ int call(const Function& function, void* const* values);
 template <class Type, bool kSecret>
 constexpr Parameter parameterOf() {
   if constexpr (std::is_same_v<Type, std::int32_t>) {
-    return {Role::kNumber, sizeof(Type), 0, nullptr, false, false};
+    return {.role = Role::kNumber, .bytes = sizeof(Type)};
   } else {
     using Target = std::remove_pointer_t<Type>;
     using Element = std::remove_const_t<std::remove_all_extents_t<Target>>;
-    constexpr Role kRole =
-        std::is_const_v<std::remove_all_extents_t<Target>> ? Role::kInput : Role::kOutput;
-    constexpr bool kIsText = std::is_same_v<Element, char>;
+    Parameter parameter{
+        .role = std::is_const_v<std::remove_all_extents_t<Target>> ? Role::kInput : Role::kOutput,
+        .isText = std::is_same_v<Element, char>,
+        .isSecret = std::is_same_v<Element, char> && kSecret,
+        .bytes = std::is_same_v<Target, const char> ? 0 : sizeof(Target),
+        .elementBytes = sizeof(Element)};
     if constexpr (std::is_class_v<Element>) {
-      return {kRole, sizeof(Target), sizeof(Element), &quorvelj::ClassOf<Element>::kMap,
-              false, false};
-    } else {
-      constexpr bool kIsOfAnyLength = kIsText && !std::is_array_v<Target>;
-      return {kRole,           kIsOfAnyLength ? 0 : sizeof(Target),
-              sizeof(Element), nullptr,
-              kIsText,         kIsText && kSecret};
+      parameter.map = &quorvelj::ClassOf<Element>::kMap;
     }
+    return parameter;
   }
 }
 

@@ -99,8 +99,10 @@ void* realFunction(const char* name) {
 }
 
 void complain(const std::string& line) {
-  std::fprintf(stderr, "quorvel recorder: %s\n", line.c_str());
-  std::fflush(stderr);
+  // One write for a line: other threads may have something to say.
+  const std::string text = "quorvel recorder: " + line + '\n';
+  static_cast<void>(std::fputs(text.c_str(), stderr));
+  static_cast<void>(std::fflush(stderr));
 }
 
 std::string setting(const char* name) {

@@ -25,7 +25,7 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 /// What may lie behind an output without harm.
-constexpr std::size_t kGuard = 64 * 1024;
+constexpr std::size_t kGuard = 1 << 16;
 /// A shorter run of bytes that are as before may be what the library wrote.
 constexpr std::size_t kShortestRun = 4;
 
@@ -36,7 +36,7 @@ constexpr int kMode = O_WRONLY | O_CREAT | O_EXCL | O_APPEND | O_CLOEXEC;
 #endif
 
 /// What an output holds before the call: bytes that a library hardly writes, no two places alike.
-constexpr std::size_t kPatternBytes = 64 * 1024;
+constexpr std::size_t kPatternBytes = 1 << 16;
 const std::array<unsigned char, kPatternBytes>& pattern() {
   static const auto bytes = [] {
     std::array<unsigned char, kPatternBytes> made{};

@@ -38,7 +38,7 @@ class Recording {
   };
 
   static std::vector<Block> blocksOf(const Function& function, void* const* values);
-  void putBlock(std::string& body, const Function& function, std::size_t parameter, Block& block,
+  void putBlock(std::string& body, const Function& function, std::size_t index, Block& block,
                 std::uint64_t number);
   void write(const std::string& bytes);
   void close();

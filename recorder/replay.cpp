@@ -63,7 +63,8 @@ std::string shown(const std::string& value) {
   std::string text;
   for (const char letter : value.substr(0, kMost)) {
     char hex[8];
-    std::snprintf(hex, sizeof hex, "\\x%02x", static_cast<unsigned char>(letter));
+    static_cast<void>(
+        std::snprintf(hex, sizeof hex, "\\x%02x", static_cast<unsigned char>(letter)));
     text += letter >= ' ' && letter <= '~' ? std::string(1, letter) : hex;
   }
   return '"' + text + '"';

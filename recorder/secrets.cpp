@@ -24,7 +24,7 @@ std::string Tokens::of(const std::string& value) {
 void Tokens::hide(unsigned char* block, std::size_t bytes, const std::vector<Range>& secrets) {
   const auto put = [block](std::size_t at, std::size_t width, const std::string& token) {
     std::memset(block + at, 0, width);
-    std::memcpy(block + at, token.data(), std::min(width, token.size()));
+    std::copy_n(token.begin(), std::min(width, token.size()), block + at);
   };
   for (const Range& secret : secrets) {
     // What stands behind the NUL of a text may be an older secret.

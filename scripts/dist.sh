@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Makes dist/quorvelj-<version>.zip and .tar.gz: the DLL, the Linux libraries of both widths, the
-# jars, the library's headers, the layout probe, the README and the documents, with SHA-256 sums. Equal
-# sources give equal bytes.
+# Makes dist/quorvelj-<version>.zip and .tar.gz: the DLL, the Linux libraries of both widths, their
+# recorders, the jars, the library's headers, the layout probe, the README and the documents, with
+# SHA-256 sums. Equal sources give equal bytes.
 set -euo pipefail
 umask 022
 cd "$(dirname "$0")/.."
@@ -14,12 +14,17 @@ mkdir -p "$root"/{windows-x86,linux-x86_64,linux-i386,arraylib}
 
 for preset in windows-x86 linux-i386 linux; do
   cmake --preset "$preset" -DQUORVELJ_TESTS=OFF -DQUORVELJ_BENCHMARKS=OFF >/dev/null
-  cmake --build --preset "$preset" --target quorvelj java_half array_tour
+  cmake --build --preset "$preset" --target quorvelj recorder java_half array_tour
 done
 cmake --build --preset linux --target tools
 cp build/windows-x86/lib/quorvelj.dll "$root/windows-x86/"
 strip -o "$root/linux-i386/libquorvelj.so" build/linux-i386/lib/libquorvelj.so
 strip -o "$root/linux-x86_64/libquorvelj.so" build/linux/lib/libquorvelj.so
+# Named quorvel, too, so that they lie apart.
+mkdir -p "$root"/{windows-x86,linux-x86_64,linux-i386}/recorder
+cp build/windows-x86/lib/recorder/quorvel.dll "$root/windows-x86/recorder/"
+strip -o "$root/linux-i386/recorder/libquorvel.so" build/linux-i386/lib/recorder/libquorvel.so
+strip -o "$root/linux-x86_64/recorder/libquorvel.so" build/linux/lib/recorder/libquorvel.so
 cp build/linux/lib/{quorvelj,array-tour,quorvelj-tools}.jar README.md "$root/"
 cp arraylib/*.h "$root/arraylib/"
 cp -r docs "$root/"
