@@ -187,7 +187,9 @@ final class Fields {
     /** Prints a parameter. */
     void print(Catalogue.Member parameter) throws IOException {
         Catalogue.Record record = record(parameter);
-        if (record != null && parameter.extents.length == 0) {
+        if (isUnwritten(0, bytes.length)) {
+            line(0, bytes.length, parameter.name, "not written");
+        } else if (record != null && parameter.extents.length == 0) {
             print(record, 0, "", false);
         } else {
             print(parameter, 0, 0, parameter.name, false);
@@ -504,8 +506,11 @@ final class Fields {
 
     // In short
 
-    /** A parameter in a few words: up to two texts or numbers of a record that are not zero. */
-    String brief(Catalogue.Member parameter) {
+    /**
+     * A parameter in a few words: up to two texts of a record that are not empty, of an input also
+     * numbers that are not 0.
+     */
+    String brief(Catalogue.Member parameter, boolean isInput) {
         Catalogue.Record record = record(parameter);
         int end = bytes.length;
         if (record == null) {
@@ -518,7 +523,9 @@ final class Fields {
         }
         List<String> found = new ArrayList<>();
         collect(record, 0, true, found);
-        collect(record, 0, false, found);
+        if (isInput) {
+            collect(record, 0, false, found);
+        }
         return parameter.name + (found.isEmpty() ? "" : '{' + String.join(", ", found) + '}');
     }
 
@@ -586,6 +593,13 @@ final class Fields {
 
     private void compare(
             Catalogue.Member member, Fields other, int start, String name, List<String> lines) {
+        int memberEnd = start + (int) member.allBytes();
+        boolean isMissing = isUnwritten(start, memberEnd);
+        if (isMissing != other.isUnwritten(start, memberEnd) && member.extents.length > 0) {
+            String difference = isMissing ? "not written against written" : "written against not written";
+            lines.add(text(start, memberEnd, name, difference));
+            return;
+        }
         if (member.kind.equals("bytes")) {
             compareBytes(other, start, start + (int) member.allBytes(), name, lines);
             return;

@@ -2,10 +2,10 @@ package quorvelj.tools;
 
 import java.io.Closeable;
 import java.io.EOFException;
+import java.io.File;
 import java.io.IOException;
 import java.io.RandomAccessFile;
 import java.nio.charset.StandardCharsets;
-import java.nio.file.Path;
 import java.util.ArrayList;
 import java.util.Arrays;
 import java.util.BitSet;
@@ -134,7 +134,7 @@ final class Recording implements Closeable {
         }
     }
 
-    final Path file;
+    final File file;
 
     /** The width of the recorded process. */
     final int bits;
@@ -145,7 +145,6 @@ final class Recording implements Closeable {
     /** In the order of their numbers. */
     final List<Call> calls = new ArrayList<>();
 
-    /** What became of the file's end, in one line; "" where the file is whole. */
     private String ending = "";
 
     private boolean isDamaged;
@@ -212,7 +211,8 @@ final class Recording implements Closeable {
 
         void skip(long count) throws Damage {
             if (count > end - at) {
-                throw new Damage(at, count + " bytes in an entry that has " + (end - at) + " more");
+                throw new Damage(
+                        at, Text.count(count, "byte") + " where the entry has " + (end - at));
             }
             at += count;
         }
@@ -227,9 +227,9 @@ final class Recording implements Closeable {
         }
     }
 
-    private Recording(Path file) throws IOException {
+    private Recording(File file) throws IOException {
         this.file = file;
-        in = new RandomAccessFile(file.toFile(), "r");
+        in = new RandomAccessFile(file, "r");
         size = in.length();
         try {
             byte[] header = new byte[(int) Math.min(size, HEADER)];
@@ -263,7 +263,7 @@ final class Recording implements Closeable {
     }
 
     /** Reads where the calls of a file lie. */
-    static Recording read(Path file) throws IOException {
+    static Recording read(File file) throws IOException {
         return new Recording(file);
     }
 
@@ -276,9 +276,13 @@ final class Recording implements Closeable {
         return isDamaged;
     }
 
-    /** Lines on what is missing at the end or in between. */
-    List<String> remarks() {
-        List<String> remarks = new ArrayList<>();
+    /** What became of the file's end, in one line; "" where the file is whole. */
+    String ending() {
+        return ending;
+    }
+
+    /** The numbers that no call has: those calls began and did not end; "" for none. */
+    String missing() {
         List<String> missing = new ArrayList<>();
         long wanted = 1;
         for (Call call : calls) {
@@ -288,13 +292,7 @@ final class Recording implements Closeable {
             }
             wanted = call.number + 1;
         }
-        if (!missing.isEmpty()) {
-            remarks.add(file + ": no end recorded of the calls " + String.join(", ", missing));
-        }
-        if (!ending.isEmpty()) {
-            remarks.add(file + ": " + ending);
-        }
-        return remarks;
+        return missing.isEmpty() ? "" : "without an end: " + String.join(", ", missing);
     }
 
     // Entries
@@ -306,7 +304,7 @@ final class Recording implements Closeable {
             for (long at = HEADER; at < size; ) {
                 long length = size - at < 8 ? 0 : uint32(at);
                 if (length > MOST_BODY) {
-                    throw new Damage(at, "an entry of " + length + " bytes");
+                    throw new Damage(at, "an entry of " + Text.count(length, "byte"));
                 }
                 if (length + 8 > size - at) {
                     ending = "ends inside the entry at byte " + at + "; what precedes it is whole";
@@ -360,8 +358,7 @@ final class Recording implements Closeable {
         if (last != null && Arrays.equals(last.shape, call.shape)) {
             call.shape = last.shape;
         }
-        if (byNumber.put(call.number, call) != null) {
-            byNumber.remove(call.number);
+        if (byNumber.putIfAbsent(call.number, call) != null) {
             throw new Damage(start, "call " + call.number + " for the second time");
         }
         lastOf.put(call.function, call);
@@ -393,7 +390,8 @@ final class Recording implements Closeable {
             entry.parameters.add(parameter(cursor));
         }
         if (cursor.at != end) {
-            throw new Damage(cursor.at, end - cursor.at + " bytes behind the last parameter");
+            throw new Damage(
+                    cursor.at, Text.count(end - cursor.at, "byte") + " behind the last parameter");
         }
         return entry;
     }
@@ -432,10 +430,9 @@ final class Recording implements Closeable {
                 throw new Damage(
                         place,
                         "a chunk of "
-                                + length
-                                + " bytes where "
-                                + (parameter.bytes - count)
-                                + " are missing");
+                                + Text.count(length, "byte")
+                                + " where the parameter lacks "
+                                + (parameter.bytes - count));
             }
             if (kind == LITERAL) {
                 cursor.skip(length);

@@ -1,14 +1,13 @@
 package quorvelj.tools;
 
 import java.io.BufferedOutputStream;
+import java.io.File;
 import java.io.IOException;
 import java.io.OutputStream;
 import java.nio.charset.StandardCharsets;
-import java.nio.file.Files;
-import java.nio.file.Path;
-import java.nio.file.Paths;
 import java.time.Instant;
 import java.util.ArrayList;
+import java.util.Collection;
 import java.util.HashMap;
 import java.util.LinkedHashSet;
 import java.util.List;
@@ -31,6 +30,9 @@ final class Show {
                 + "secret-3.\n"
                 + "Exit status: 0 all is shown, 1 something differs or the file is damaged, 2 these\n"
                 + "arguments are wrong.\n";
+
+    /** On one parameter. */
+    private static final int MOST_REMARKS = 4;
 
     private static final String COLUMNS =
             "  call  thread       start s        took ms  function(arguments) = result  remarks";
@@ -90,30 +92,27 @@ final class Show {
             throw new Main.Misuse("unknown record: " + record);
         }
         try (Recording recording = open(words.get(0))) {
-            int status;
-            if (values.containsKey("--against")) {
-                try (Recording other = open(values.get("--against"))) {
-                    status = new Comparison(show, recording, other).run();
+            try {
+                if (!values.containsKey("--against")) {
+                    return show.show(recording, words.size() == 2 ? words.get(1) : "", record);
                 }
-            } else {
-                status = show.show(recording, words.size() == 2 ? words.get(1) : "", record);
+                try (Recording other = open(values.get("--against"))) {
+                    return new Comparison(show, recording, other).run();
+                }
+            } catch (OutOfMemoryError e) {
+                throw new IOException("not enough memory: give java more with -Xmx");
+            } finally {
+                show.flush();
             }
-            show.flush();
-            return status;
         } catch (ReaderGone e) {
             return 0;
-        } catch (OutOfMemoryError e) {
-            throw new IOException("not enough memory: give java more with -Xmx");
         }
     }
 
     private static Recording open(String name) throws IOException, Main.Misuse {
-        Path file = Paths.get(name);
-        if (!Files.exists(file)) {
-            throw new Main.Misuse(name + " is missing");
-        }
-        if (Files.isDirectory(file)) {
-            throw new Main.Misuse(name + " is a directory");
+        File file = new File(name);
+        if (!file.isFile()) {
+            throw new Main.Misuse(name + (file.exists() ? " is no file" : " is missing"));
         }
         return Recording.read(file);
     }
@@ -128,14 +127,13 @@ final class Show {
             }
         } else {
             showAll(recording);
+            remark(recording, recording.missing());
         }
         return end(recording);
     }
 
     private int end(Recording recording) throws IOException {
-        for (String remark : recording.remarks()) {
-            line(remark);
-        }
+        remark(recording, recording.ending());
         return recording.isDamaged() ? 1 : 0;
     }
 
@@ -147,6 +145,13 @@ final class Show {
             out.write('\n');
         } catch (IOException e) {
             throw gone(e);
+        }
+    }
+
+    /** A line on the file, where there is something to say. */
+    private void remark(Recording recording, String text) throws IOException {
+        if (!text.isEmpty()) {
+            line(recording.file + ": " + text);
         }
     }
 
@@ -184,7 +189,13 @@ final class Show {
                 }
             }
             if (!isAny) {
-                throw new Main.Misuse("no call " + part + " in " + recording.file);
+                String ending = recording.ending();
+                throw new Main.Misuse(
+                        "no call "
+                                + part
+                                + " in "
+                                + recording.file
+                                + (ending.isEmpty() ? "" : ": " + ending));
             }
         }
         return calls;
@@ -245,15 +256,11 @@ final class Show {
                         + "-bit process, started "
                         + Instant.ofEpochMilli(recording.started)
                         + ", "
-                        + count(recording.calls.size(), "call"));
+                        + Text.count(recording.calls.size(), "call"));
         line(COLUMNS);
         for (Recording.Call call : recording.calls) {
             line(listed(recording, call));
         }
-    }
-
-    static String count(long number, String what) {
-        return number + " " + what + (number == 1 ? "" : "s");
     }
 
     private String listed(Recording recording, Recording.Call call) throws IOException {
@@ -280,27 +287,27 @@ final class Show {
             Catalogue.Member member = member(known, parameter, index);
             String direction = parameter.kind == Recording.OUTPUT ? "out " : "";
             if (parameter.behind > 0) {
-                remarks.add(count(parameter.behind, "byte") + " behind " + label + " written");
+                remarks.add(Text.count(parameter.behind, "byte") + " behind " + label + " written");
             }
             if (member == null) {
-                arguments.add(direction + count(parameter.bytes, "byte"));
+                arguments.add(direction + Text.count(parameter.bytes, "byte"));
                 if (known != null && parameter.bytes > 0) {
-                    remarks.add(count(parameter.bytes, "byte") + " of " + label + wanted(label));
+                    remarks.add(Text.count(parameter.bytes, "byte") + " of " + label + wanted(label));
                 }
                 continue;
             }
-            Finding finding = finding(recording, call, index, member, label);
             boolean isOutput = parameter.kind == Recording.OUTPUT;
+            Finding finding = finding(recording, call, index, member, label, !isOutput);
             arguments.add(direction + finding.brief);
             if (!isOutput || entry.result == 0) {
                 if (finding.findings.unwritten > 0) {
                     remarks.add(
-                            count(finding.findings.unwritten, "byte")
+                            Text.count(finding.findings.unwritten, "byte")
                                     + " of "
                                     + label
                                     + " not written");
                 }
-                remarks.addAll(finding.findings.lines);
+                addSome(remarks, finding.findings.lines);
             }
         }
         return Text.right(call.number, 6)
@@ -316,12 +323,21 @@ final class Show {
                 + (remarks.isEmpty() ? "" : "  " + String.join("; ", remarks));
     }
 
+    /** The first lines, and how many there are more. */
+    private static void addSome(List<String> remarks, Collection<String> lines) {
+        lines.stream().limit(MOST_REMARKS).forEach(remarks::add);
+        if (lines.size() > MOST_REMARKS) {
+            remarks.add("and " + (lines.size() - MOST_REMARKS) + " more");
+        }
+    }
+
     private Finding finding(
             Recording recording,
             Recording.Call call,
             int index,
             Catalogue.Member member,
-            String label)
+            String label,
+            boolean isInput)
             throws IOException {
         Recording.Call source = call.source(index);
         Map<Integer, Finding> ofSource = found.get(source);
@@ -330,7 +346,7 @@ final class Show {
         }
         Fields fields = new Fields(catalogue, recording.content(call, index), this::line);
         Finding finding = new Finding();
-        finding.brief = fields.brief(member);
+        finding.brief = fields.brief(member, isInput);
         finding.findings = fields.findings(member, label, plan);
         if (source.isSource) {
             found.computeIfAbsent(source, any -> new HashMap<>()).put(index, finding);
@@ -396,10 +412,10 @@ final class Show {
         return text
                 + (known == null ? kindOf(parameter) : known.get(index))
                 + ", "
-                + count(parameter.bytes, "byte")
+                + Text.count(parameter.bytes, "byte")
                 + (parameter.behind == 0
                         ? ""
-                        : ", " + count(parameter.behind, "byte") + " behind it written");
+                        : ", " + Text.count(parameter.behind, "byte") + " behind it written");
     }
 
     // Records of one kind
@@ -471,7 +487,7 @@ final class Show {
                 }
             }
             show.line(
-                    count(matched.size(), "call")
+                    Text.count(matched.size(), "call")
                             + " compared, "
                             + different
                             + " different, "
@@ -496,7 +512,7 @@ final class Show {
                 lines.add("  result  " + entry.result + " against " + otherEntry.result);
             }
             if (count != otherCount) {
-                lines.add("  " + count(count, "parameter") + " against " + otherCount);
+                lines.add("  " + Text.count(count, "parameter") + " against " + otherCount);
             }
             for (int index = 0; index < Math.min(count, otherCount); ++index) {
                 Recording.Parameter parameter = entry.parameters.get(index);

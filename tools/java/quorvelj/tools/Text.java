@@ -25,6 +25,11 @@ final class Text {
         return text.toString();
     }
 
+    /** "1 byte", or "2 bytes". */
+    static String count(long number, String what) {
+        return number + " " + what + (number == 1 ? "" : "s");
+    }
+
     /** "17", or "17-40". */
     static String range(long first, long last) {
         return first == last ? "" + first : first + "-" + last;
