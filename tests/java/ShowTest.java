@@ -17,7 +17,7 @@ import quorvelj.tools.Main;
 
 /**
  * What `show` prints of recordings that are whole, cut off, damaged or none. Usage: ShowTest JAVA
- * TOOLS_JAR DIRECTORY.
+ * TOOLS_JAR DIRECTORY PRINTED. The last has commands, each with its exit status and what it prints.
  */
 public final class ShowTest {
     private static final int MUTATIONS = 5000;
@@ -26,12 +26,14 @@ public final class ShowTest {
     private final String java;
     private final String toolsJar;
     private final Path directory;
+    private final Path printed;
     private final List<String> failures = new ArrayList<>();
 
     private ShowTest(String[] arguments) throws IOException {
         java = arguments[0];
         toolsJar = arguments[1];
         directory = Files.createDirectories(Paths.get(arguments[2]));
+        printed = Paths.get(arguments[3]);
     }
 
     public static void main(String[] arguments) throws Exception {
@@ -92,12 +94,18 @@ public final class ShowTest {
                 number(name.length), name, number(parameters.length), join(parameters)));
     }
 
-    private static byte[] literal(int... bytes) {
-        byte[] all = number(bytes.length << 2);
-        for (int value : bytes) {
-            all = join(all, new byte[] {(byte) value});
+    private static byte[] bytes(int... values) {
+        byte[] all = new byte[values.length];
+        for (int index = 0; index < values.length; ++index) {
+            all[index] = (byte) values[index];
         }
         return all;
+    }
+
+    // Chunks and parameters
+
+    private static byte[] literal(int... values) {
+        return join(number(values.length << 2), bytes(values));
     }
 
     private static byte[] text(String text, int room) {
@@ -199,204 +207,11 @@ public final class ShowTest {
 
     private void expectShown(int wantedStatus, String[] lines, String... arguments) throws Exception {
         String printed = show(arguments);
-        String wanted = lines.length == 0 ? "" : String.join("\n", lines) + "\n";
+        String wanted = String.join("\n", lines) + "\n";
         expect(status == wantedStatus && printed.equals(wanted),
                 Arrays.toString(arguments) + ": status " + status + ", wanted " + wantedStatus + " and\n"
                         + wanted + "got\n" + printed);
     }
-
-    /** Arguments, the exit status, and what is printed. */
-    private static final String[][] PRINTED = {
-        {"first", "0",
-            "64-bit process, started 2023-11-14T22:13:20.123Z, 12 calls",
-            "  call  thread       start s        took ms  function(arguments) = result  remarks",
-            "     1       1      0.001500          2.345  QV_LoginQVAccount(\"north\", "
-                    + "LoginRequest{user_id \"admin\", passwd \"secret-2\"}, out QVSessionInfo{session_id "
-                    + "\"secret-1\"}) = 0",
-            "     2       1      2.000000          0.000  QV_GetDMLU(\"north\", null, out "
-                    + "DMLUInformation) = 0  4 bytes of DMLUInformation not written; neither 0 nor 1: "
-                    + "DMLUDetail.dmlu_valid",
-            "     3       2      3.000000          0.055  QV_GetLANPortNumber(\"north\", "
-                    + "QVSessionInfo{session_id \"secret-1\"}, out LANPortNumber) = 0  4 bytes behind "
-                    + "LANPortNumber written",
-            "     4       1      4.000000          0.000  QV_GetDMLU(\"north\", null, out "
-                    + "DMLUInformation) = 0  4 bytes of DMLUInformation not written; neither 0 nor 1: "
-                    + "DMLUDetail.dmlu_valid",
-            "     5       1      5.000000          0.000  QV_GetAccountBanner(null, out "
-                    + "AccountBanner{warning_banner \"xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx...}) = 0  "
-                    + "text without end: AccountBanner.warning_banner",
-            "     6       1      6.000000          0.000  QV_New\\x1b(-7, null, out 70 bytes, 32 "
-                    + "bytes) = -3  not in the catalogue",
-            "     8     300      8.000000          0.000  QV_GetUnitParamTable(2, out "
-                    + "QVUnitParam[2]) = 0  text without end: QVUnitParam.group_name; neither 0 nor 1: "
-                    + "QVUnitParam.ssl_used",
-            "     9       1      9.000000          0.000  QV_GetHGOption(null, null, 0, 1, 2, "
-                    + "out HGOptionInfo) = 4109",
-            "    10       1      9.000001          0.000  QV_GetHGOption(null, null, 0, 1, 2, "
-                    + "out HGOptionInfo) = 0  4 bytes of HGOptionInfo not written",
-            "    11       1      9.000002          0.000  QV_GetTurboLU(null, null, out TurboLu) "
-                    + "= 0",
-            "    12       1      9.000003          0.000  QV_GetThreshold(null, null, out 60 "
-                    + "bytes) = 0  60 bytes of Threshold instead of 56",
-            "    13       1      9.000004          0.000  QV_GetThreshold(1) = 0  other "
-                    + "parameters than in the catalogue",
-            "first: without an end: 7",
-        },
-        {"first 1,2-3", "0",
-            "call 1  QV_LoginQVAccount = 0, thread 1, at 0.001500 s, took 2.345 ms",
-            "  1  text in 65, 65 bytes",
-            "          0        65  text                                      \"north\"",
-            "  2  record in LoginRequest, 648 bytes",
-            "          0       257  user_id                                   \"admin\"",
-            "        257       257  passwd                                    \"secret-2\"",
-            "        514         2  (padding)                                 00 09",
-            "        516         4  log_option                                1",
-            "        520       128  log_string                                \"\"",
-            "  3  record out QVSessionInfo, 32 bytes",
-            "          0        32  session_id                                \"secret-1\"",
-            "call 2  QV_GetDMLU = 0, thread 1, at 2.000000 s, took 0.000 ms",
-            "  1  text in 65, 65 bytes",
-            "          0        65  text                                      \"north\"",
-            "  2  record in QVSessionInfo, null",
-            "  3  record out DMLUInformation, 32 bytes",
-            "          0         4  mode                                      0",
-            "          4         4  dmlu_count                                0",
-            "          8         4  dmlu[0].dmlu_valid                        7",
-            "         12         4  dmlu[0].set_valid                         0",
-            "         16         4  dmlu[0].dmlu_lu                           0",
-            "         20         4  dmlu[1].dmlu_valid                        0",
-            "         24         4  dmlu[1].set_valid                         0",
-            "         28         4  dmlu[1].dmlu_lu                           not written",
-            "call 3  QV_GetLANPortNumber = 0, thread 2, at 3.000000 s, took 0.055 ms",
-            "  1  text in 65, 65 bytes",
-            "          0        65  text                                      \"north\"",
-            "  2  record in QVSessionInfo, 32 bytes",
-            "          0        32  session_id                                \"secret-1\"",
-            "  3  record out LANPortNumber, 40 bytes, 4 bytes behind it written",
-            "          0         4  ctl[0].valid_index                        1  assumed",
-            "          4         4  ctl[0].normal_port                        2000  assumed",
-            "          8         4  ctl[0].port_num                           -1  assumed",
-            "         12         4  ctl[0].ssl_port_num                       5  assumed",
-            "         16        16  ctl[1]                                    as ctl[0]",
-            "         32         4  logout_instruction                        0  assumed",
-            "         36         4  mode                                      0  assumed",
-        },
-        {"first 6,8-11", "0",
-            "call 6  QV_New\\x1b = -3, thread 1, at 6.000000 s, took 0.000 ms, not in the "
-                    + "catalogue",
-            "  1  int -7",
-            "  2  null",
-            "  3  out, 70 bytes",
-            "          0        70  (unknown)",
-            "          0  01 ff 61 00 00 00 00 00 00 00 00 00 00 00 00 00  ..a.............",
-            "         16  00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00  ................",
-            "          *",
-            "         64  00 00 00 -- -- --                                ......",
-            "  4  in, 32 bytes",
-            "          0        32  (unknown)                                 \"secret-1\"",
-            "call 8  QV_GetUnitParamTable = 0, thread 300, at 8.000000 s, took 0.000 ms",
-            "  1  int 2",
-            "  2  record out QVUnitParam, 1224 bytes",
-            "          0        65  QVUnitParam[0].unit_name                  "
-                    + "\"\u00e4\\x07\\xe2\\x80\\xae\\\"\"",
-            "         65        17  QVUnitParam[0].group_name                 \"seventeen "
-                    + "letters\" without end",
-            "         82         1  QVUnitParam[0].connect_type               -2",
-            "         83         1  QVUnitParam[0].qv_type                    -2",
-            "         84         1  QVUnitParam[0].device_type                254",
-            "         85         1  QVUnitParam[0].unit_conf                  0",
-            "         86         1  QVUnitParam[0].alert                      0",
-            "         87       256  QVUnitParam[0].ctl0                       \"\"",
-            "        343       256  QVUnitParam[0].ctl1                       \"\"",
-            "        599         9  QVUnitParam[0].serial                     \"\"",
-            "        608         4  QVUnitParam[0].ssl_used                   2",
-            "        612       612  QVUnitParam[1]                            zero",
-            "call 9  QV_GetHGOption = 4109, thread 1, at 9.000000 s, took 0.000 ms",
-            "  1  text in 65, null",
-            "  2  record in QVSessionInfo, null",
-            "  3  int 0",
-            "  4  int 1",
-            "  5  int 2",
-            "  6  record out HGOptionInfo, 36 bytes",
-            "          0        36  HGOptionInfo                              not written",
-            "call 10  QV_GetHGOption = 0, thread 1, at 9.000001 s, took 0.000 ms",
-            "  1  text in 65, null",
-            "  2  record in QVSessionInfo, null",
-            "  3  int 0",
-            "  4  int 1",
-            "  5  int 2",
-            "  6  record out HGOptionInfo, 36 bytes",
-            "          0         4  option                                    01 02 -- --, 2 of "
-                    + "4 not written  assumed",
-            "          4         4  option2                                   01 02 -- --, 2 of "
-                    + "4 not written  assumed",
-            "          8         4  option3                                   0  assumed",
-            "         12         4  platform_id                               0  assumed",
-            "         16         4  alternate_path_id                         0  assumed",
-            "         20         4  failover_id                               0  assumed",
-            "         24         4  special_mode_id                           0  assumed",
-            "         28         4  middleware_id                             0  assumed",
-            "         32         4  reserved                                  00 01 00 00  "
-                    + "assumed",
-            "call 11  QV_GetTurboLU = 0, thread 1, at 9.000002 s, took 0.000 ms, parameters "
-                    + "assumed",
-            "  1  text in 65, null",
-            "  2  record in QVSessionInfo, null",
-            "  3  record out TurboLu, 44 bytes",
-            "          0        44  (no field)",
-            "          0  01 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00  ................",
-            "         16  00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00  ................",
-            "         32  00 00 00 00 00 00 00 00 00 00 00 00              ............",
-        },
-        {"first --record DMLUDetail", "0",
-            "call 2  QV_GetDMLU = 0, thread 1, at 2.000000 s, took 0.000 ms",
-            "  3  record out DMLUInformation, 32 bytes",
-            "          8         4  dmlu[0].dmlu_valid                        7",
-            "         12         4  dmlu[0].set_valid                         0",
-            "         16         4  dmlu[0].dmlu_lu                           0",
-            "         20         4  dmlu[1].dmlu_valid                        0",
-            "         24         4  dmlu[1].set_valid                         0",
-            "         28         4  dmlu[1].dmlu_lu                           not written",
-            "call 4  QV_GetDMLU = 0, thread 1, at 4.000000 s, took 0.000 ms",
-            "  3  record out DMLUInformation, 32 bytes",
-            "          8         4  dmlu[0].dmlu_valid                        7",
-            "         12         4  dmlu[0].set_valid                         0",
-            "         16         4  dmlu[0].dmlu_lu                           0",
-            "         20         4  dmlu[1].dmlu_valid                        0",
-            "         24         4  dmlu[1].set_valid                         0",
-            "         28         4  dmlu[1].dmlu_lu                           not written",
-        },
-        {"first --record HGInfo", "0",
-            "no HGInfo in first",
-        },
-        {"first --against second", "1",
-            "call 1  QV_LoginQVAccount  against call 1",
-            "  2  record in LoginRequest, 648 bytes",
-            "          0       257  user_id                                   \"admin\" against "
-                    + "\"root\"",
-            "call 3  QV_GetLANPortNumber  against call 3",
-            "  result  0 against 2817",
-            "  2  record in QVSessionInfo, 32 bytes  against  2  record in QVSessionInfo, null",
-            "  3  record out LANPortNumber, 40 bytes, 4 bytes behind it written  against  3  "
-                    + "record out LANPortNumber, 40 bytes",
-            "          0        32  ctl                                       written against "
-                    + "not written",
-            "         32         4  logout_instruction                        0 against not "
-                    + "written",
-            "         36         4  mode                                      0 against not "
-                    + "written",
-            "call 8  QV_GetUnitParamTable  against call 8",
-            "  2  record out QVUnitParam, 1224 bytes",
-            "          0        65  QVUnitParam[0].unit_name                  "
-                    + "\"\u00e4\\x07\\xe2\\x80\\xae\\\"\" against \"north\"",
-            "call 11  QV_GetTurboLU  only in first",
-            "call 14  QV_GetDMLU  only in second",
-            "11 calls compared, 3 different, 2 in one recording only",
-        },
-        {"first --against first", "0",
-            "12 calls compared, 0 different, 0 in one recording only",
-        },
-    };
 
     private void testPrinted() throws Exception {
         List<byte[]> calls = calls("admin", 5, 4, "\u00e4\u0007\u202e\"");
@@ -407,8 +222,12 @@ public final class ShowTest {
                 output(40, 0, 0, unwritten(40))));
         others.add(call(14, 1, 1, 1, 0, "QV_GetDMLU", UNIT, SESSION, NULL));
         write("second", recording(others));
-        for (String[] row : PRINTED) {
-            expectShown(Integer.parseInt(row[1]), Arrays.copyOfRange(row, 2, row.length), row[0].split(" "));
+        String wanted = new String(Files.readAllBytes(printed), StandardCharsets.UTF_8);
+        for (String part : wanted.substring(2).split("\n\\$ ")) {
+            String[] lines = part.split("\n");
+            String[] words = lines[0].split(" ");
+            expectShown(Integer.parseInt(words[0]), Arrays.copyOfRange(lines, 1, lines.length),
+                    Arrays.copyOfRange(words, 1, words.length));
         }
     }
 
@@ -469,8 +288,9 @@ public final class ShowTest {
         return entry(new byte[] {(byte) number, 1, 0, 0, 0, 1, 'F', 0});
     }
 
-    private static byte[] bytes(int... values) {
-        return Arrays.copyOfRange(literal(values), values.length < 32 ? 1 : 2, literal(values).length);
+    /** Call 2 of F from the number of parameters on. */
+    private static byte[] callOfF(int... rest) {
+        return entry(join(bytes(2, 1, 0, 0, 0, 1, 'F'), bytes(rest)));
     }
 
     /** Call 1 of 16 bytes, then one whose body begins at byte 48. */
@@ -483,21 +303,24 @@ public final class ShowTest {
             {shortCall(1), "48: call 1 for the second time"},
             {shortCall(0), "48: a call 0"},
             {entry(bytes(2)), "49: the entry is too short for what it begins"},
-            {entry(bytes(2, 255, 255, 255, 255, 255, 255, 255, 255, 255, 2)), "49: a number of more than 64 bits"},
-            {entry(bytes(2, 255, 255, 255, 255, 255, 255, 255, 255, 255, 1)), "49: a number as large as 18446744073709551615"},
+            {entry(bytes(2, 255, 255, 255, 255, 255, 255, 255, 255, 255, 2)),
+                "49: a number of more than 64 bits"},
+            {entry(bytes(2, 255, 255, 255, 255, 255, 255, 255, 255, 255, 1)),
+                "49: a number as large as 18446744073709551615"},
             {entry(bytes(2, 1, 0, 0, 0, 255, 127)), "53: the length of a name: 16383"},
             {entry(bytes(2, 1, 0, 0, 0, 3, 'F')), "54: 3 bytes where the entry has 1"},
-            {entry(bytes(2, 1, 0, 0, 0, 1, 'F', 101)), "55: the number of parameters: 101"},
-            {entry(bytes(2, 1, 0, 0, 0, 1, 'F', 0, 0)), "56: 1 byte behind the last parameter"},
-            {entry(bytes(2, 1, 0, 0, 0, 1, 'F', 1, 4)), "56: a parameter of kind 4"},
-            {entry(bytes(2, 1, 0, 0, 0, 1, 'F', 1, 1, 128, 128, 128, 128, 1)), "57: the bytes of a parameter: 268435456"},
-            {entry(bytes(2, 1, 0, 0, 0, 1, 'F', 1, 1, 4, 0, 20)), "59: a chunk of 5 bytes where the parameter lacks 4"},
-            {entry(bytes(2, 1, 0, 0, 0, 1, 'F', 1, 1, 4, 0, 16, 9)), "60: 4 bytes where the entry has 1"},
-            {entry(bytes(2, 1, 0, 0, 0, 1, 'F', 1, 1, 4, 0, 18)), "59: an input that the library did not write"},
-            {entry(bytes(2, 1, 0, 0, 0, 1, 'F', 1, 1, 4, 0, 5, 15, 2)), "60: the bytes that stand 2 before byte 1"},
-            {entry(bytes(2, 1, 0, 0, 0, 1, 'F', 1, 1, 4, 9)), "58: the bytes of call 9, which is no earlier one of F"},
+            {callOfF(101), "55: the number of parameters: 101"},
+            {callOfF(0, 0), "56: 1 byte behind the last parameter"},
+            {callOfF(1, 4), "56: a parameter of kind 4"},
+            {callOfF(1, 1, 128, 128, 128, 128, 1), "57: the bytes of a parameter: 268435456"},
+            {callOfF(1, 1, 4, 0, 20), "59: a chunk of 5 bytes where the parameter lacks 4"},
+            {callOfF(1, 1, 4, 0, 0), "59: a chunk of 0 bytes where the parameter lacks 4"},
+            {callOfF(1, 1, 4, 0, 16, 9), "60: 4 bytes where the entry has 1"},
+            {callOfF(1, 1, 4, 0, 18), "59: an input that the library did not write"},
+            {callOfF(1, 1, 4, 0, 5, 15, 2), "60: the bytes that stand 2 before byte 1"},
+            {callOfF(1, 1, 4, 9), "58: the bytes of call 9, which is no earlier one of F"},
             {entry(bytes(2, 1, 0, 0, 0, 1, 'G', 1, 1, 4, 1)), "58: the bytes of call 1, which is no earlier one of G"},
-            {entry(bytes(2, 1, 0, 0, 0, 1, 'F', 1, 1, 4, 1)), "58: the bytes of call 1, which has others there"},
+            {callOfF(1, 1, 4, 1), "58: the bytes of call 1, which has others there"},
         };
         for (Object[] row : rows) {
             String printed = shownHere(join(head(64), shortCall(1), (byte[]) row[0]));

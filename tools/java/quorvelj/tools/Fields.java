@@ -405,7 +405,7 @@ final class Fields {
 
     // What is remarkable
 
-    /** What a parameter holds that a library or an application should not leave there. */
+    /** What an output holds that a library should not leave there. */
     static final class Findings {
         /** Bytes of members that the library did not write, but for those behind a text's end. */
         int unwritten;

@@ -426,7 +426,7 @@ final class Recording implements Closeable {
             long chunk = cursor.number();
             long length = chunk >>> 2;
             int kind = (int) chunk & 3;
-            if (length > parameter.bytes - count) {
+            if (length == 0 || length > parameter.bytes - count) {
                 throw new Damage(
                         place,
                         "a chunk of "

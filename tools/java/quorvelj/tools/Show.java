@@ -299,7 +299,8 @@ final class Show {
             boolean isOutput = parameter.kind == Recording.OUTPUT;
             Finding finding = finding(recording, call, index, member, label, !isOutput);
             arguments.add(direction + finding.brief);
-            if (!isOutput || entry.result == 0) {
+            // What the caller leaves unset in an input is memory that others had.
+            if (isOutput && entry.result == 0) {
                 if (finding.findings.unwritten > 0) {
                     remarks.add(
                             Text.count(finding.findings.unwritten, "byte")
@@ -347,7 +348,9 @@ final class Show {
         Fields fields = new Fields(catalogue, recording.content(call, index), this::line);
         Finding finding = new Finding();
         finding.brief = fields.brief(member, isInput);
-        finding.findings = fields.findings(member, label, plan);
+        if (!isInput) {
+            finding.findings = fields.findings(member, label, plan);
+        }
         if (source.isSource) {
             found.computeIfAbsent(source, any -> new HashMap<>()).put(index, finding);
         }
