@@ -144,7 +144,7 @@ public final class ShowTest {
 
     private static final byte[] SAME = new byte[0];
 
-    /** The calls end in another order than they begin, and the seventh never does. */
+    /** The calls end in another order than they begin, and some never do. */
     private static List<byte[]> calls(String user, int port, int behind, String unit) {
         byte[] controller = literal(1, 0, 0, 0, 208, 7, 0, 0, 255, 255, 255, 255, port, 0, 0, 0);
         return new ArrayList<>(Arrays.asList(
@@ -164,7 +164,8 @@ public final class ShowTest {
                     output(70, 0, 0, literal(1, 255, 'a'), zeros(64), unwritten(3)), SESSION),
             call(8, 300, 8000000, 0, 0, "QV_GetUnitParamTable", value(2),
                     output(1224, 0, 0, text(unit, 65), text("seventeen letters", 17),
-                            literal(254, 254, 254), zeros(523), literal(2), zeros(615))),
+                            literal(254, 254, 254), zeros(2), literal(0xe0, 0x81, 0x81), zeros(518),
+                            literal(2), zeros(615))),
             call(9, 1, 9000000, 0, 4109, "QV_GetHGOption", NULL, NULL, value(0), value(1),
                     value(2), output(36, 0, 0, unwritten(36))),
             call(10, 1, 9000001, 0, 0, "QV_GetHGOption", NULL, NULL, value(0), value(1),
@@ -173,7 +174,12 @@ public final class ShowTest {
             call(11, 1, 9000002, 0, 0, "QV_GetTurboLU", NULL, NULL,
                     output(44, 0, 0, literal(1), zeros(43))),
             call(12, 1, 9000003, 0, 0, "QV_GetThreshold", NULL, NULL, output(60, 0, 0, zeros(60))),
-            call(13, 1, 9000004, 0, 0, "QV_GetThreshold", value(1))));
+            call(13, 1, 9000004, 0, 0, "QV_GetRemoteDeviceInformation", NULL, NULL,
+                    output(20, 0, 0, literal(2, 0, 0, 0, 'A', 0), unwritten(3), literal('B'),
+                            unwritten(10))),
+            call(14, 1, 9000005, 0, 0, "QV_GetDMLU", NULL, NULL,
+                    output(32, 0, 0, zeros(8), literal(1, 0, 0, 0, 9), zeros(19))),
+            call(133, 1, 9000006, 0, 0, "QV_GetThreshold", value(1))));
     }
 
     private static byte[] recording(List<byte[]> calls) {
@@ -220,7 +226,7 @@ public final class ShowTest {
         others.remove(9);
         others.set(1, call(3, 1, 1, 1, 2817, "QV_GetLANPortNumber", UNIT, NULL,
                 output(40, 0, 0, unwritten(40))));
-        others.add(call(14, 1, 1, 1, 0, "QV_GetDMLU", UNIT, SESSION, NULL));
+        others.add(call(200, 1, 1, 1, 0, "QV_GetDMLU", UNIT, SESSION, NULL));
         write("second", recording(others));
         String wanted = new String(Files.readAllBytes(printed), StandardCharsets.UTF_8);
         for (String part : wanted.substring(2).split("\n\\$ ")) {
@@ -247,7 +253,7 @@ public final class ShowTest {
             {"newer", "newer is a recording of version 2, not 1"},
             {"wide", "wide is a recording of a process of 65 bits"},
             {"first 7", "no call 7 in first"},
-            {"first 1,14-99", "no call 14-99 in first"},
+            {"first 1,15-99", "no call 15-99 in first"},
             {"first 1-", "no numbers of calls: 1-"},
             {"first 1 2", "more than one of CALLS, --record and --against"},
             {"first --record", "--record without a value"},
@@ -321,6 +327,10 @@ public final class ShowTest {
             {callOfF(1, 1, 4, 9), "58: the bytes of call 9, which is no earlier one of F"},
             {entry(bytes(2, 1, 0, 0, 0, 1, 'G', 1, 1, 4, 1)), "58: the bytes of call 1, which is no earlier one of G"},
             {callOfF(1, 1, 4, 1), "58: the bytes of call 1, which has others there"},
+            {join(callOfF(1, 1, 4, 0, 17), entry(bytes(3, 1, 0, 0, 0, 1, 'F', 1, 1, 5, 2))),
+                "78: the bytes of call 2, which has others there"},
+            {join(callOfF(1, 1, 4, 0, 17), entry(bytes(3, 1, 0, 0, 0, 1, 'F', 1, 2, 4, 0, 2))),
+                "79: the bytes of call 2, which has others there"},
         };
         for (Object[] row : rows) {
             String printed = shownHere(join(head(64), shortCall(1), (byte[]) row[0]));

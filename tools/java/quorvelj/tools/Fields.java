@@ -169,9 +169,8 @@ final class Fields {
         switch (member.kind) {
             case "text":
                 int endOfText = endOfText(start, end);
-                missing = countUnwritten(start, endOfText);
-                return missing > 0
-                        ? hex(start, end) + rest
+                return countUnwritten(start, endOfText) > 0
+                        ? '"' + Text.shown(bytes, start, unwritten.nextSetBit(start)) + '"' + rest
                         : quoted(start, end) + (endOfText == end ? " without end" : "");
             case "bytes":
                 return isToken(start, end)
