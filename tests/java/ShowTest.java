@@ -179,6 +179,8 @@ public final class ShowTest {
                             unwritten(10))),
             call(14, 1, 9000005, 0, 0, "QV_GetDMLU", NULL, NULL,
                     output(32, 0, 0, zeros(8), literal(1, 0, 0, 0, 9), zeros(19))),
+            call(15, 1, 9000005, 0, 0, "QV_GetArrayCondition", NULL, NULL,
+                    output(100, 0, 0, zeros(48), literal(3), zeros(51))),
             call(133, 1, 9000006, 0, 0, "QV_GetThreshold", value(1))));
     }
 
@@ -253,7 +255,7 @@ public final class ShowTest {
             {"newer", "newer is a recording of version 2, not 1"},
             {"wide", "wide is a recording of a process of 65 bits"},
             {"first 7", "no call 7 in first"},
-            {"first 1,15-99", "no call 15-99 in first"},
+            {"first 1,16-99", "no call 16-99 in first"},
             {"first 1-", "no numbers of calls: 1-"},
             {"first 1 2", "more than one of CALLS, --record and --against"},
             {"first --record", "--record without a value"},
