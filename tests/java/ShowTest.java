@@ -338,7 +338,8 @@ public final class ShowTest {
             String printed = shownHere(join(head(64), shortCall(1), (byte[]) row[0]));
             expect(status == 1 && printed.contains("  F() = 0  not in the catalogue\n")
                     && printed.endsWith("damaged: damaged at byte " + row[1]
-                            + "; what precedes the entry is shown\n"), row[1] + " got " + status + "\n" + printed);
+                            + "; what precedes the entry is shown\n"),
+                    row[1] + " got " + status + "\n" + printed);
         }
     }
 

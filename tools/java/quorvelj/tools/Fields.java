@@ -452,9 +452,7 @@ final class Fields {
             int start = base + (int) member.offset;
             String name = record.name + '.' + member.name;
             if (isFlag(record, member)) {
-                int end = start + (int) member.bytes;
-                boolean isWritten = countUnwritten(start, end) == 0;
-                if (isWritten && (number(member, start) & ~1) != 0) {
+                if ((number(member, start) & ~1) != 0) {
                     findings.lines.add("neither 0 nor 1: " + name);
                 }
             } else {
@@ -595,8 +593,9 @@ final class Fields {
         int memberEnd = start + (int) member.allBytes();
         boolean isMissing = isUnwritten(start, memberEnd);
         if (isMissing != other.isUnwritten(start, memberEnd) && member.extents.length > 0) {
-            String difference = isMissing ? "not written against written" : "written against not written";
-            lines.add(text(start, memberEnd, name, difference));
+            String value = isMissing ? "not written" : "written";
+            String otherValue = isMissing ? "written" : "not written";
+            lines.add(text(start, memberEnd, name, value + " against " + otherValue));
             return;
         }
         if (member.kind.equals("bytes")) {

@@ -544,7 +544,12 @@ final class Show {
             }
             if (!lines.isEmpty()) {
                 show.line(
-                        "call " + call.number + "  " + call.function + "  against call " + otherCall.number);
+                        "call "
+                                + call.number
+                                + "  "
+                                + call.function
+                                + "  against call "
+                                + otherCall.number);
             }
             for (String line : lines) {
                 show.line(line);
