@@ -19,6 +19,8 @@ public final class Catalogue {
     private static final String FIRST_LINE = "quorvelj-catalogue 1";
     private static final Map<Character, String> PRIMITIVES = primitives();
 
+    private static Catalogue own;
+
     /** A record of the library. */
     public static final class Record {
         public final String name;
@@ -252,8 +254,15 @@ public final class Catalogue {
         return new Catalogue(Files.readAllLines(file, StandardCharsets.UTF_8));
     }
 
-    /** That of the bridge with which this program was delivered. */
-    public static Catalogue own() throws IOException {
+    /** That of the bridge with which this program was delivered; read once. */
+    public static synchronized Catalogue own() throws IOException {
+        if (own == null) {
+            own = readOwn();
+        }
+        return own;
+    }
+
+    private static Catalogue readOwn() throws IOException {
         try (InputStream in = Catalogue.class.getResourceAsStream("catalogue.txt")) {
             if (in == null) {
                 throw new IOException("this jar has no catalogue");

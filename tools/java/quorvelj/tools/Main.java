@@ -1,6 +1,9 @@
 package quorvelj.tools;
 
+import java.io.FileDescriptor;
+import java.io.FileOutputStream;
 import java.io.IOException;
+import java.io.OutputStream;
 import java.util.Arrays;
 import java.util.List;
 
@@ -18,19 +21,29 @@ public final class Main {
     }
 
     public static void main(String[] arguments) {
-        System.exit(run(Arrays.asList(arguments)));
+        System.exit(run(Arrays.asList(arguments), new FileOutputStream(FileDescriptor.out)));
     }
 
-    private static int run(List<String> arguments) {
+    /** Runs a command and returns the exit status. What `show` shows goes to `out`. */
+    public static int run(List<String> arguments, OutputStream out) {
         try {
+            String command = arguments.isEmpty() ? "" : arguments.get(0);
             if (arguments.isEmpty() || arguments.contains("--help")) {
-                System.out.print("java -jar quorvelj-tools.jar " + Doctor.USAGE);
+                if (!command.equals("show")) {
+                    System.out.print("java -jar quorvelj-tools.jar " + Doctor.USAGE);
+                }
+                if (!command.equals("doctor")) {
+                    System.out.print("java -jar quorvelj-tools.jar " + Show.USAGE);
+                }
                 return arguments.isEmpty() ? 2 : 0;
             }
-            if (arguments.get(0).equals("doctor")) {
+            if (command.equals("doctor")) {
                 return Doctor.run(arguments.subList(1, arguments.size()), System.out);
             }
-            throw new Misuse("unknown: " + arguments.get(0));
+            if (command.equals("show")) {
+                return Show.run(arguments.subList(1, arguments.size()), out);
+            }
+            throw new Misuse("unknown: " + command);
         } catch (Misuse | IOException e) {
             System.err.println("quorvelj-tools: " + e.getMessage());
             return 2;
