@@ -20,12 +20,6 @@ const mini::Slot& filled(mini::Object* object, const char* name) {
   return *slot;
 }
 
-/// Without the space that a trace puts behind it.
-std::string nameOf(std::string function) {
-  function.resize(function.find_last_not_of(' ') + 1);
-  return function;
-}
-
 }  // namespace
 
 MiniJvm::MiniJvm() : jni_(std::make_unique<mini::JniTable>(profile)) {}
@@ -102,37 +96,13 @@ void MiniJvm::removeClass(const std::string& name) { heap().remove(name); }
 void MiniJvm::removeField(const std::string& name) { heap().remove(name); }
 
 void MiniJvm::failCall(int call) { jni_->failingCall = call; }
-std::string MiniJvm::failedFunction() const { return nameOf(jni_->failedFunction); }
+std::string MiniJvm::failedFunction() const { return jni_->failedFunction; }
 int MiniJvm::fallibleCalls() const { return jni_->fallibleCalls; }
 int MiniJvm::calls() const { return jni_->calls; }
 int MiniJvm::callsUnderException() const { return jni_->callsUnderException; }
 const char* MiniJvm::deepestFrame() const { return jni_->deepestFrame; }
 
 void MiniJvm::forgetResults() { heap().forgetResults(); }
-void MiniJvm::recordCallSites() { jni_->recording = true; }
-
-std::vector<CallSite> MiniJvm::callSites() const {
-  std::vector<CallSite> sites;
-  const auto add = [&](const std::string& className, const std::string& field,
-                       const mini::CallList& list) {
-    for (const mini::Calls& calls : list) {
-      std::string function = nameOf(calls.function);
-      for (int depth = 0; depth < calls.depth; ++depth) {
-        function += "[]";
-      }
-      sites.push_back({className, field, function, calls.first,
-                       calls.lastElement == 0 ? calls.last : calls.lastElement});
-    }
-  };
-  for (const auto& [className, type] : heap().classes()) {
-    for (const auto& [key, member] : type->members) {
-      add(className, member->name, member->calls);
-    }
-  }
-  add("", "", heap().unheldCalls());
-  add("", "", jni_->unclaimed);
-  return sites;
-}
 
 std::optional<PendingException> MiniJvm::pending() const {
   mini::Object* const thrown = jni_->pending;

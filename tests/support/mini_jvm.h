@@ -29,17 +29,6 @@ struct InputProfile {
   mini::RandomInputs* random = nullptr;
 };
 
-/// A JNI function that is called for a field, or for no field by the method itself.
-struct CallSite {
-  std::string className;  // "" without a field
-  std::string field;
-  std::string function;  // with "[]" for every array of the field's value around it
-  /// The numbers, among the calls that can fail, of its first call and of its last: that for the
-  /// last element of the first array that holds the field's object, if any does.
-  int first;
-  int last;
-};
-
 /// A Java virtual machine of the JNI functions that the bridge may use, over objects in memory. A
 /// class, a field or a method comes into being when native code asks for it. Any other JNI function
 /// ends the process.
@@ -95,10 +84,6 @@ class MiniJvm {
   int callsUnderException() const;
   /// The address of the deepest frame of a JNI function so far.
   const char* deepestFrame() const;
-
-  /// From now on finds out for which field each call is made.
-  void recordCallSites();
-  std::vector<CallSite> callSites() const;
 
   std::optional<PendingException> pending() const;
   void clearPending();

@@ -26,17 +26,6 @@ struct JniTable {
   bool enter(bool fallible, const char* call, const Detail&... detail);
   void throwNew(const std::string& className, const std::string& message = "");
 
-  // While recording, each call that can fail is put down to the field that it is made for. What
-  // makes a value is put down when a field holds the value.
-
-  void costs(Member& field, const char* call, int depth = 0);
-  void costs(Object* object, const char* call);
-  void costsWhatIsMadeNext(const char* call);
-  /// An object that this call made.
-  Object* made(Object* object, const char* call);
-  void holds(Member& field, int depth, Object* value);
-  void holds(Object* array, Object* value);
-
   struct Env {
     JNIEnv env;
     JniTable* table;
@@ -57,8 +46,6 @@ struct JniTable {
   int calls = 0;
   /// Those that JNI forbids while an exception is pending, as one was.
   int callsUnderException = 0;
-  bool recording = false;
-  CallList unclaimed;
   /// The frame of the deepest JNI function that native code called.
   const char* deepestFrame = reinterpret_cast<const char*>(UINTPTR_MAX);
 };
