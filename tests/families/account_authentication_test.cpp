@@ -39,7 +39,6 @@ TEST_F(AccountAuthentication, ResultRecords) {
   // 21 accounts of 544 bytes behind a word.
   expectFromUnit("QV_GetAccountInformation", 11428,
                  at("4:account_info[0] 10884:account_info[20]", kAccount));
-  EXPECT_EQ(get(information("QV_GetAccountInformation"), "account_info"), "QVAccountBaseInfo[21]");
   expectFromUnit("QV_GetOwnUserPermission", 76,
                  "0:int32 operation_auth[0]; 32:int32 operation_auth[8] "
                  "original_operation_auth[0]; 68:int32 original_operation_auth[8] role");

@@ -173,31 +173,5 @@ TEST_F(HostGroups, WorldWideNamesAndTargets) {
   EXPECT_EQ(lastText("QV_TargetIdImport", 1), std::string(1023, 'p'));
 }
 
-TEST_F(HostGroups, ClassesOfUnknownFieldsAreBuilt) {
-  expectFields(information("QV_GetHGOptionAll"),
-               "support_index=HGOptionValidIndex; valid_index=HGOptionValidIndex");
-  expectFields(information("QV_GetPortOption"),
-               "support_index=PortOptionValidIndex; valid_index=PortOptionValidIndex");
-  expectFields(information("QV_GetHGParameterList"),
-               "platinfo=PlatformInfo[20]; platinfo[19]=PlatformInfo");
-  expectFields(information("QV_GetHGParameterList2"),
-               "platinfo[19].middlewareinfo=MiddlewareInfo[20]; "
-               "platinfo[19].middlewareinfo[19]=MiddlewareInfo");
-  expectFields(
-      information("QV_GetHGParameterID", 0),
-      "platform=PlatFormID[16]; platform[15]=PlatFormID; alternatepath=AlternatePathID[16]; "
-      "alternatepath[15]=AlternatePathID; failover=FailOverID[16]; failover[15]=FailOverID; "
-      "specialmode=SpecialModeID[16]; specialmode[15]=SpecialModeID");
-  expectFields(call("QV_GetWWNInformation", {unit_}).result,
-               "ctl[1].port=WWNPortInfo[8]; ctl[1].port[7]=WWNPortInfo");
-  expectFields(information("QV_GetWWNHGInformation"),
-               "ctl[1].port=WWNHGPortInfo[8]; ctl[1].port[7]=WWNHGPortInfo");
-  expectFields(
-      call("QV_GetTargetId", {unit_, number(0)}).result,
-      "[1].target_config.mapping=TargetLunList[16]; [1].target_config.mapping[15]=TargetLunList");
-  expectFields(call("QV_WZTargetIdImport", {unit_, text("a"), text("b")}).result,
-               "[1].target_config=WZTargetConfig");
-}
-
 }  // namespace
 }  // namespace quorvelj::testing

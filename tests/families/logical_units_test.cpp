@@ -32,8 +32,6 @@ TEST_F(LogicalUnits, BuiltRecords) {
                  at("0:lu[0] 98292:lu[8191]", kCorrection));
   expectFromUnit("QV_GetLuOwnership", 229380,
                  "0:int32 count" + at("4:lu[0] 229352:lu[8191]", kOwner));
-  expectFields(information("QV_GetLogicalUnit"), "=LogicalUnit[8192]");
-  expectFields(information("QV_GetLuOwnership"), "lu=LuOwnershipInfo[8192]");
 }
 
 // Of a longer array the elements beyond the record's are left out; an array that is too short ends
