@@ -56,9 +56,6 @@ TEST_F(AccountAuthentication, Sessions) {
   const jobject session = create("QVSessionInfo");
   set(session, "session_id#=31");
   expectTooShort("QV_LogoutQVAccount", {unit_, session, create("LogoutOption")});
-  setNull(session, "session_id");
-  quorvelSimForceResult("QV_LogoutQVAccount", 0, 1);
-  EXPECT_EQ(call("QV_LogoutQVAccount", {unit_, session, create("LogoutOption")}).failure, "");
 }
 
 TEST_F(AccountAuthentication, WhatIsSetIsReadBack) {

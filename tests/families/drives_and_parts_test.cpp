@@ -59,8 +59,6 @@ TEST_F(DrivesAndParts, SettingRecords) {
 
   update("QV_SetDiskDriveRestoration", create("DiskDriveRestoration", "sparemode=2"));
   expectFields(information("QV_GetDiskDriveRestoration"), "sparemode=2; interval=0");
-  const jobject leds = create("LocateLEDInformation", "unit#=59");
-  expectTooShort("QV_SetLocateLEDInformation", {unit_, session_, leds});
 }
 
 TEST_F(DrivesAndParts, PartRecords) {

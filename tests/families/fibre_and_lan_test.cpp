@@ -122,10 +122,6 @@ TEST_F(FibreAndLan, ImportedPermissions) {
   EXPECT_EQ(lastInt(method, 2), 7);
   const jobject permissions = call(method, {unit_, text("hosts.txt"), number(7)}).result;
   expectFields(permissions, "=FibreInformationPermission[128]; [1].node_name=1000000000000001");
-  // Null texts reach the library as empty ones.
-  EXPECT_EQ(call(method, {nullptr, text("hosts.txt"), number(7)}).failure,
-            "DiskArrayException 20001");
-  EXPECT_EQ(call(method, {unit_, nullptr, number(7)}).failure, "DiskArrayException 20004");
 }
 
 }  // namespace

@@ -164,13 +164,6 @@ TEST_F(HostGroups, WorldWideNamesAndTargets) {
   const jobject id = create("TargetId");
   expectRead("QV_SetTargetId", {unit_, number(1), id}, id, 2, 8268, target);
   EXPECT_EQ(lastInt("QV_SetTargetId", 1), 1);
-
-  const std::string path(1100, 'p');
-  call("QV_WZTargetIdImport", {unit_, text(path), text("second")});
-  EXPECT_EQ(lastText("QV_WZTargetIdImport", 1), std::string(1023, 'p'));
-  EXPECT_EQ(lastText("QV_WZTargetIdImport", 2), "second");
-  call("QV_TargetIdImport", {unit_, text(path)});
-  EXPECT_EQ(lastText("QV_TargetIdImport", 1), std::string(1023, 'p'));
 }
 
 }  // namespace

@@ -72,13 +72,6 @@ TEST_F(RemotePaths, SynchronisationOfPorts) {
   expectRead("QV_SetSyncControl", {unit_, number(1), control, number(9)}, control, 2, 8, ports);
   EXPECT_EQ(lastInt("QV_SetSyncControl", 1), 1);
   EXPECT_EQ(lastInt("QV_SetSyncControl", 3), 9);
-
-  // The low byte of each int is stored, and comes back with its sign.
-  set(control, "port_val[0].board_type", "511");
-  EXPECT_EQ(call("QV_SetSyncControl", {unit_, number(1), control, number(0)}).failure, "");
-  const char* const path = "port_val[0].board_type";
-  EXPECT_EQ(get(call("QV_GetSyncControl", {unit_, number(1)}).result, path), "-1");
-  EXPECT_EQ(get(call("QV_GetSyncControl", {unit_, number(0)}).result, path), "0");
 }
 
 TEST_F(RemotePaths, PathsComeAndGo) {
