@@ -24,7 +24,7 @@ constexpr int kOrdinaryCode = 1234;
 
 /// What there was at the call of the library.
 struct AtLibrary {
-  const MiniJvm* jvm = nullptr;
+  MiniJvm* jvm = nullptr;
   std::string function;
   int callsUnderException = 0;
   bool pending = false;
@@ -107,7 +107,7 @@ class Fuzz : public ::testing::Test {
     quorvelSimReset();
     quorvelSimObserve([](const char* function) {
       atLibrary.function = function;
-      atLibrary.callsUnderException = atLibrary.jvm->callsUnderException();
+      atLibrary.callsUnderException = atLibrary.jvm->callsUnderException;
       atLibrary.pending = atLibrary.jvm->pending().has_value();
     });
     // What fills a result is not what is asked here.
@@ -119,9 +119,9 @@ class Fuzz : public ::testing::Test {
     jvm.clearPending();
     jvm.profile.random = &random;
     const std::vector<jvalue> arguments = jvm.newArguments(method);
-    const int misuses = jvm.misuses();
-    const int unreleased = jvm.unreleased();
-    const int before = jvm.callsUnderException();
+    const int misuses = jvm.heap.misuses();
+    const int unreleased = jvm.unreleased;
+    const int before = jvm.callsUnderException;
     atLibrary = {&jvm, "", before, false};
     method.invoke(jvm.env(), arguments);
 
@@ -131,8 +131,8 @@ class Fuzz : public ::testing::Test {
     EXPECT_EQ(testRuntime().damaged, 0) << "a record was written outside of, or released twice";
     EXPECT_EQ(testRuntime().liveRecords,
               testRuntime().allocations == 0 ? 0 : departure.neverReleased);
-    EXPECT_EQ(jvm.misuses(), misuses) << "a dead, null or wrong reference or field was used";
-    EXPECT_EQ(jvm.unreleased() - unreleased, libraryCalls * departure.neverReleasedCharacters);
+    EXPECT_EQ(jvm.heap.misuses(), misuses) << "a dead, null or wrong reference or field was used";
+    EXPECT_EQ(jvm.unreleased - unreleased, libraryCalls * departure.neverReleasedCharacters);
     EXPECT_EQ(atLibrary.callsUnderException, before) << "read on while an exception was pending";
     expectException(method, jvm.pending(), libraryCalls == 1, libraryResult);
     if (libraryCalls == 1) {

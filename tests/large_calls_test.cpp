@@ -32,16 +32,16 @@ TEST_P(LargeCalls, HoldOneRecordAndFewReferences) {
   const auto& [name, recordBytes, references] = GetParam();
   constexpr std::size_t kSessionBytes = 32;
   MiniJvm jvm;
-  jvm.forgetResults();
+  jvm.heap.forgetResults();
   const NativeMethod& method = nativeMethod(name);
   std::vector<jvalue> arguments(method.argumentTypes().size());
   arguments[0].l = jvm.newText("north");
-  const int before = jvm.liveReferences();
+  const int before = jvm.heap.liveReferences();
   EXPECT_NE(method.invoke(jvm.env(), arguments).l, nullptr);
   EXPECT_EQ(testRuntime().mostBytes, recordBytes + kSessionBytes);
   EXPECT_EQ(testRuntime().liveRecords, 0);
-  EXPECT_EQ(jvm.mostReferences() - before, references);
-  EXPECT_EQ(jvm.liveReferences() - before, 1);
+  EXPECT_EQ(jvm.heap.mostReferences() - before, references);
+  EXPECT_EQ(jvm.heap.liveReferences() - before, 1);
 }
 
 constexpr std::size_t kRequestBytes = 4;

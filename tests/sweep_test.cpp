@@ -81,8 +81,8 @@ Play* playing = nullptr;
 
 void observe(const char* function) {
   playing->outcome.function = function;
-  playing->outcome.fallibleCallsBefore = playing->jvm.fallibleCalls();
-  playing->outcome.callsUnderExceptionBefore = playing->jvm.callsUnderException();
+  playing->outcome.fallibleCallsBefore = playing->jvm.fallibleCalls;
+  playing->outcome.callsUnderExceptionBefore = playing->jvm.callsUnderException;
   playing->libraryFrame = static_cast<const char*>(__builtin_frame_address(0));
 }
 
@@ -98,28 +98,28 @@ Outcome play(const NativeMethod& method, const Fault& fault) {
   quorvelSimPrepareOutput("*", output.data(), output.size());
   resetTestRuntime(fault.allocation);
   jvm.profile = fault.inputs;
-  jvm.forgetResults();
+  jvm.heap.forgetResults();
   std::vector<jvalue> arguments = jvm.newArguments(method);
   if (fault.nullArgument >= 0) {
     arguments[static_cast<std::size_t>(fault.nullArgument)].l = nullptr;
   }
-  const int references = jvm.liveReferences();
-  jvm.failCall(fault.jniCall);
+  const int references = jvm.heap.liveReferences();
+  jvm.failingCall = fault.jniCall;
 
   dirtyStack();
   outcome.result = method.invoke(jvm.env(), arguments);
   outcome.pending = jvm.pending();
-  outcome.fallibleCalls = jvm.fallibleCalls();
-  outcome.callsUnderException = jvm.callsUnderException();
-  outcome.failedFunction = jvm.failedFunction();
+  outcome.fallibleCalls = jvm.fallibleCalls;
+  outcome.callsUnderException = jvm.callsUnderException;
+  outcome.failedFunction = jvm.failedFunction;
   outcome.allocations = testRuntime().allocations;
   outcome.leakedRecords = testRuntime().liveRecords;
   outcome.libraryCalls = quorvelSimCallCount("*");
-  outcome.newReferences = jvm.liveReferences() - references;
+  outcome.newReferences = jvm.heap.liveReferences() - references;
 
   quorvelSimObserve(nullptr);
   playing = nullptr;
-  const char* const deepest = std::min(jvm.deepestFrame(), libraryFrame);
+  const char* const deepest = std::min(jvm.deepestFrame, libraryFrame);
   const std::ptrdiff_t stack = deepest == kNoFrame ? 0 : callersFrame - deepest;
   if (stack > totals.stack) {
     totals.stack = stack;
@@ -129,8 +129,8 @@ Outcome play(const NativeMethod& method, const Fault& fault) {
   EXPECT_LE(stack, kMostStack);
 #endif
   EXPECT_EQ(testRuntime().damaged, 0) << "a record was written outside of, or released twice";
-  EXPECT_EQ(jvm.misuses(), 0) << "a dead, null or wrong reference was used";
-  EXPECT_EQ(jvm.unreleased(), outcome.libraryCalls * departure.neverReleasedCharacters)
+  EXPECT_EQ(jvm.heap.misuses(), 0) << "a dead, null or wrong reference was used";
+  EXPECT_EQ(jvm.unreleased, outcome.libraryCalls * departure.neverReleasedCharacters)
       << "characters or elements were not released";
   EXPECT_LE(outcome.libraryCalls, 1);
   if (method.resultKind() == 'L' && outcome.result.l == nullptr && fault.allocation == 0 &&
@@ -337,22 +337,22 @@ void sweepField(const std::string& className, const Field& whole, bool built) {
     SCOPED_TRACE(className + '.' + field.name + ", JNI call " + std::to_string(failedCall));
     resetTestRuntime();
     MiniJvm jvm;
-    jvm.failCall(failedCall);
+    jvm.failingCall = failedCall;
     if (built) {
       const jobject object = build(jvm.env(), map, record.data());
       // A text that cannot be stored does not end a builder, nor do texts that are not stored last.
-      const std::string& failed = jvm.failedFunction();
+      const std::string& failed = jvm.failedFunction;
       const bool goesOn = field.kind == FieldKind::kText && failedCall > kCallsForTheObject &&
                           (field.rank == 0 || failed == "GetFieldID" || failed == "SetObjectField");
       EXPECT_EQ(object != nullptr, failedCall == 0 || goesOn);
     } else {
       const jobject object = jvm.newInput('L' + className + ';');
       const int result = read(jvm.env(), map, object, record.data());
-      EXPECT_TRUE((result == 0) == (failedCall == 0) || isPassedOver(jvm.failedFunction()));
+      EXPECT_TRUE((result == 0) == (failedCall == 0) || isPassedOver(jvm.failedFunction));
     }
     EXPECT_EQ(jvm.pending().has_value(), failedCall != 0);
-    EXPECT_EQ(jvm.misuses() + jvm.unreleased() + testRuntime().liveRecords, 0);
-    calls = failedCall == 0 ? jvm.fallibleCalls() : calls;
+    EXPECT_EQ(jvm.heap.misuses() + jvm.unreleased + testRuntime().liveRecords, 0);
+    calls = failedCall == 0 ? jvm.fallibleCalls : calls;
   }
   totals.jniFaults += calls;
 }

@@ -33,12 +33,12 @@ class Dll : public ::testing::TestWithParam<NativeMethod> {
     if (nullArgument >= 0) {
       arguments[static_cast<std::size_t>(nullArgument)].l = nullptr;
     }
-    jvm.failCall(failingCall);
+    jvm.failingCall = failingCall;
     Outcome outcome;
     outcome.result = GetParam().invoke(jvm.env(), arguments);
     outcome.pending = jvm.pending();
-    outcome.fallibleCalls = jvm.fallibleCalls();
-    EXPECT_EQ(jvm.misuses(), 0);
+    outcome.fallibleCalls = jvm.fallibleCalls;
+    EXPECT_EQ(jvm.heap.misuses(), 0);
     EXPECT_LE(quorvelSimCallCount("*"), 1);
     return outcome;
   }

@@ -45,13 +45,13 @@ Pointer as(jobject reference) {
   std::abort();
 }
 
-/// The JNI function that does its work by `Function`, on the table of its environment.
+/// The JNI function that does its work by `Function`, on the JVM of its environment.
 template <auto Function>
 struct Entry;
-template <class Result, class... Argument, Result (*Function)(JniTable&, Argument...)>
+template <class Result, class... Argument, Result (*Function)(MiniJvm&, Argument...)>
 struct Entry<Function> {
   static Result JNICALL call(JNIEnv* env, Argument... arguments) {
-    JniTable& jvm = *reinterpret_cast<JniTable::Env*>(env)->table;
+    MiniJvm& jvm = MiniJvm::of(env);
     // The frame tells how deep the stack of native code is.
     const auto* const frame = static_cast<const char*>(__builtin_frame_address(0));
     jvm.deepestFrame = std::min(jvm.deepestFrame, frame, std::less<>());
@@ -65,13 +65,12 @@ bool allowedUnderException(const char* call) {
   return *call == 'E' || *call == 'D' || *call == 'R';
 }
 
-}  // namespace
-
+/// Enters a JNI call: counts and traces it. True where the call must fail.
 template <class... Detail>
-bool JniTable::enter(bool fallible, const char* call, const Detail&... detail) {
-  ++calls;
-  if (pending != nullptr && !allowedUnderException(call)) {
-    ++callsUnderException;
+bool enter(MiniJvm& jvm, bool fallible, const char* call, const Detail&... detail) {
+  ++jvm.calls;
+  if (jvm.thrown != nullptr && !allowedUnderException(call)) {
+    ++jvm.callsUnderException;
   }
   if (recorder().tracing) {
     std::ostringstream event;
@@ -79,55 +78,57 @@ bool JniTable::enter(bool fallible, const char* call, const Detail&... detail) {
     static_cast<void>(((event << ' ' << detail), ...));
     recorder().add(event.str());
   }
-  if (fallible && ++fallibleCalls == failingCall) {
-    failedFunction = call;
+  if (fallible && ++jvm.fallibleCalls == jvm.failingCall) {
+    jvm.failedFunction = call;
     return true;
   }
   return false;
 }
 
-namespace {
+void throwNew(MiniJvm& jvm, const std::string& className, const std::string& message = "") {
+  jvm.thrown = Heap::hold(jvm.heap.make(className.c_str(), message));
+}
 
 // The JNI functions. Each enters its call, then fails or does its work.
 
-jclass findClass(JniTable& jvm, const char* name) {
-  if (jvm.enter(true, "FindClass", name) || jvm.heap.isRemoved(name)) {
-    jvm.throwNew("java/lang/NoClassDefFoundError", name);
+jclass findClass(MiniJvm& jvm, const char* name) {
+  if (enter(jvm, true, "FindClass", name) || jvm.heap.isRemoved(name)) {
+    throwNew(jvm, "java/lang/NoClassDefFoundError", name);
     return nullptr;
   }
   return as<jclass>(jvm.heap.refer(jvm.heap.findClass(name)->mirror));
 }
 
-jclass getObjectClass(JniTable& jvm, jobject object) {
-  jvm.enter(false, "GetObjectClass");
+jclass getObjectClass(MiniJvm& jvm, jobject object) {
+  enter(jvm, false, "GetObjectClass");
   Object* const target = jvm.heap.resolve(object);
   return target == nullptr ? nullptr : as<jclass>(jvm.heap.refer(target->type->mirror));
 }
 
-Member* member(JniTable& jvm, const char* call, jclass type, const char* name,
-               const char* signature, const char* error) {
-  const bool fails = jvm.enter(true, call, name, signature);
+Member* member(MiniJvm& jvm, const char* call, jclass type, const char* name, const char* signature,
+               const char* error) {
+  const bool fails = enter(jvm, true, call, name, signature);
   Object* const mirror = jvm.heap.resolve(type);
   const bool known = mirror != nullptr && mirror->mirrored != nullptr && !jvm.heap.isRemoved(name);
   Member* const found =
       fails || !known ? nullptr : jvm.heap.findMember(mirror->mirrored, name, signature);
   if (found == nullptr) {
-    jvm.throwNew(error, name);
+    throwNew(jvm, error, name);
   }
   return found;
 }
-jfieldID getFieldId(JniTable& jvm, jclass type, const char* name, const char* signature) {
+jfieldID getFieldId(MiniJvm& jvm, jclass type, const char* name, const char* signature) {
   return reinterpret_cast<jfieldID>(
       member(jvm, "GetFieldID", type, name, signature, "java/lang/NoSuchFieldError"));
 }
-jmethodID getMethodId(JniTable& jvm, jclass type, const char* name, const char* signature) {
+jmethodID getMethodId(MiniJvm& jvm, jclass type, const char* name, const char* signature) {
   return reinterpret_cast<jmethodID>(
       member(jvm, "GetMethodID", type, name, signature, "java/lang/NoSuchMethodError"));
 }
 
-jobject newObjectV(JniTable& jvm, jclass type, jmethodID id, va_list arguments) {
-  if (jvm.enter(true, "NewObject")) {
-    jvm.throwNew(kNoMemory);
+jobject newObjectV(MiniJvm& jvm, jclass type, jmethodID id, va_list arguments) {
+  if (enter(jvm, true, "NewObject")) {
+    throwNew(jvm, kNoMemory);
     return nullptr;
   }
   const auto* const constructor = reinterpret_cast<Member*>(id);
@@ -140,7 +141,7 @@ jobject newObjectV(JniTable& jvm, jclass type, jmethodID id, va_list arguments) 
     const auto count = static_cast<std::size_t>(va_arg(arguments, jint));
     const auto& all = std::get<std::vector<jbyte>>(bytes->payload);
     if (offset + count > all.size()) {
-      jvm.throwNew("java/lang/StringIndexOutOfBoundsException");
+      throwNew(jvm, "java/lang/StringIndexOutOfBoundsException");
       return nullptr;
     }
     object->payload = std::string(all.begin() + static_cast<std::ptrdiff_t>(offset),
@@ -149,36 +150,36 @@ jobject newObjectV(JniTable& jvm, jclass type, jmethodID id, va_list arguments) 
   return jvm.heap.refer(object);
 }
 
-jint throwObject(JniTable& jvm, jthrowable throwable) {
-  jvm.enter(false, "Throw");
-  jvm.pending = Heap::hold(jvm.heap.resolve(throwable));
+jint throwObject(MiniJvm& jvm, jthrowable throwable) {
+  enter(jvm, false, "Throw");
+  jvm.thrown = Heap::hold(jvm.heap.resolve(throwable));
   return 0;
 }
-jint throwNewObject(JniTable& jvm, jclass type, const char* message) {
+jint throwNewObject(MiniJvm& jvm, jclass type, const char* message) {
   const std::string& name = jvm.heap.resolve(type)->mirrored->name;
-  if (jvm.enter(true, "ThrowNew", name, std::quoted(message))) {
-    jvm.throwNew(kNoMemory);
+  if (enter(jvm, true, "ThrowNew", name, std::quoted(message))) {
+    throwNew(jvm, kNoMemory);
     return -1;
   }
-  jvm.throwNew(name, message);
+  throwNew(jvm, name, message);
   return 0;
 }
-jthrowable exceptionOccurred(JniTable& jvm) {
-  jvm.enter(false, "ExceptionOccurred");
-  return jvm.pending == nullptr ? nullptr : as<jthrowable>(jvm.heap.refer(jvm.pending));
+jthrowable exceptionOccurred(MiniJvm& jvm) {
+  enter(jvm, false, "ExceptionOccurred");
+  return jvm.thrown == nullptr ? nullptr : as<jthrowable>(jvm.heap.refer(jvm.thrown));
 }
-void deleteLocalRef(JniTable& jvm, jobject reference) {
-  jvm.enter(false, "DeleteLocalRef");
+void deleteLocalRef(MiniJvm& jvm, jobject reference) {
+  enter(jvm, false, "DeleteLocalRef");
   jvm.heap.deleteReference(reference);
 }
 
 /// The slot of a field access, or null where the access fails.
-Slot* access(JniTable& jvm, const char* call, jobject object, jfieldID id, const char* signature) {
+Slot* access(MiniJvm& jvm, const char* call, jobject object, jfieldID id, const char* signature) {
   auto* const field = reinterpret_cast<Member*>(id);
-  const bool fails = jvm.enter(true, call);
+  const bool fails = enter(jvm, true, call);
   Object* const target = jvm.heap.resolve(object);
   if (fails || target == nullptr) {
-    jvm.throwNew("java/lang/InternalError");
+    throwNew(jvm, "java/lang/InternalError");
     return nullptr;
   }
   if ((field->holdsObject() ? *signature != 'L' : field->signature != signature) ||
@@ -193,15 +194,15 @@ Slot* access(JniTable& jvm, const char* call, jobject object, jfieldID id, const
   }
   return &slot;
 }
-jint getIntField(JniTable& jvm, jobject object, jfieldID id) {
+jint getIntField(MiniJvm& jvm, jobject object, jfieldID id) {
   const Slot* const slot = access(jvm, "GetIntField", object, id, "I");
   return slot == nullptr ? 0 : slot->number;
 }
-jshort getShortField(JniTable& jvm, jobject object, jfieldID id) {
+jshort getShortField(MiniJvm& jvm, jobject object, jfieldID id) {
   const Slot* const slot = access(jvm, "GetShortField", object, id, "S");
   return slot == nullptr ? jshort{0} : static_cast<jshort>(slot->number);
 }
-jobject getObjectField(JniTable& jvm, jobject object, jfieldID id) {
+jobject getObjectField(MiniJvm& jvm, jobject object, jfieldID id) {
   const Slot* const slot = access(jvm, "GetObjectField", object, id, "L");
   return slot == nullptr ? nullptr : jvm.heap.refer(slot->object);
 }
@@ -210,34 +211,34 @@ void store(Slot* slot, jint number, Object* object) {
     *slot = {true, number, object};
   }
 }
-void setIntField(JniTable& jvm, jobject object, jfieldID id, jint value) {
+void setIntField(MiniJvm& jvm, jobject object, jfieldID id, jint value) {
   store(access(jvm, "SetIntField", object, id, "I"), value, nullptr);
 }
-void setShortField(JniTable& jvm, jobject object, jfieldID id, jshort value) {
+void setShortField(MiniJvm& jvm, jobject object, jfieldID id, jshort value) {
   store(access(jvm, "SetShortField", object, id, "S"), value, nullptr);
 }
 /// What a field or an array keeps of a value.
-Object* kept(JniTable& jvm, jobject value) {
+Object* kept(MiniJvm& jvm, jobject value) {
   return value == nullptr ? nullptr : jvm.heap.keep(jvm.heap.resolve(value));
 }
-void setObjectField(JniTable& jvm, jobject object, jfieldID id, jobject value) {
+void setObjectField(MiniJvm& jvm, jobject object, jfieldID id, jobject value) {
   store(access(jvm, "SetObjectField", object, id, "L"), 0, kept(jvm, value));
 }
 
-jstring newStringUtf(JniTable& jvm, const char* text) {
-  if (jvm.enter(true, "NewStringUTF", text)) {
-    jvm.throwNew(kNoMemory);
+jstring newStringUtf(MiniJvm& jvm, const char* text) {
+  if (enter(jvm, true, "NewStringUTF", text)) {
+    throwNew(jvm, kNoMemory);
     return nullptr;
   }
   return as<jstring>(jvm.heap.refer(jvm.heap.make("java/lang/String", std::string(text))));
 }
-jsize getStringUtfLength(JniTable& jvm, jstring text) {
-  jvm.enter(false, "GetStringUTFLength");
+jsize getStringUtfLength(MiniJvm& jvm, jstring text) {
+  enter(jvm, false, "GetStringUTFLength");
   return static_cast<jsize>(jvm.heap.resolve(text)->length());
 }
-const char* getStringUtfChars(JniTable& jvm, jstring text, jboolean*) {
-  if (jvm.enter(true, "GetStringUTFChars")) {
-    jvm.throwNew(kNoMemory);
+const char* getStringUtfChars(MiniJvm& jvm, jstring text, jboolean*) {
+  if (enter(jvm, true, "GetStringUTFChars")) {
+    throwNew(jvm, kNoMemory);
     return nullptr;
   }
   const std::string& source = *jvm.heap.resolve(text)->text();
@@ -247,36 +248,36 @@ const char* getStringUtfChars(JniTable& jvm, jstring text, jboolean*) {
   ++jvm.unreleased;
   return characters;
 }
-void releaseStringUtfChars(JniTable& jvm, jstring, const char* characters) {
-  jvm.enter(false, "ReleaseStringUTFChars");
+void releaseStringUtfChars(MiniJvm& jvm, jstring, const char* characters) {
+  enter(jvm, false, "ReleaseStringUTFChars");
   jvm.characters.erase(characters);
   --jvm.unreleased;
 }
 
-jsize getArrayLength(JniTable& jvm, jarray array) {
-  jvm.enter(false, "GetArrayLength");
+jsize getArrayLength(MiniJvm& jvm, jarray array) {
+  enter(jvm, false, "GetArrayLength");
   return static_cast<jsize>(jvm.heap.resolve(array)->length());
 }
 /// A new array of `length` elements of one payload type.
 template <class Element, class Array>
-Array newArray(JniTable& jvm, const char* call, const char* className, jsize length) {
-  if (jvm.enter(true, call, length) || length < 0) {
-    jvm.throwNew(length < 0 ? "java/lang/NegativeArraySizeException" : kNoMemory);
+Array newArray(MiniJvm& jvm, const char* call, const char* className, jsize length) {
+  if (enter(jvm, true, call, length) || length < 0) {
+    throwNew(jvm, length < 0 ? "java/lang/NegativeArraySizeException" : kNoMemory);
     return nullptr;
   }
   Object* const made = jvm.heap.makeArray(className, static_cast<std::size_t>(length), Element{});
   return as<Array>(jvm.heap.refer(made));
 }
-jintArray newIntArray(JniTable& jvm, jsize length) {
+jintArray newIntArray(MiniJvm& jvm, jsize length) {
   return newArray<jint, jintArray>(jvm, "NewIntArray", "[I", length);
 }
-jshortArray newShortArray(JniTable& jvm, jsize length) {
+jshortArray newShortArray(MiniJvm& jvm, jsize length) {
   return newArray<jshort, jshortArray>(jvm, "NewShortArray", "[S", length);
 }
-jbyteArray newByteArray(JniTable& jvm, jsize length) {
+jbyteArray newByteArray(MiniJvm& jvm, jsize length) {
   return newArray<jbyte, jbyteArray>(jvm, "NewByteArray", "[B", length);
 }
-jobjectArray newObjectArray(JniTable& jvm, jsize length, jclass type, jobject) {
+jobjectArray newObjectArray(MiniJvm& jvm, jsize length, jclass type, jobject) {
   const std::string element = jvm.heap.resolve(type)->mirrored->name;
   const std::string name = element[0] == '[' ? '[' + element : "[L" + element + ';';
   return newArray<Object*, jobjectArray>(jvm, "NewObjectArray", name.c_str(), length);
@@ -284,8 +285,8 @@ jobjectArray newObjectArray(JniTable& jvm, jsize length, jclass type, jobject) {
 
 /// The elements of a region, or null with the exception where it cannot be accessed.
 template <class Element>
-Element* region(JniTable& jvm, const char* call, jarray array, jsize start, jsize count) {
-  const bool fails = jvm.enter(true, call, count);
+Element* region(MiniJvm& jvm, const char* call, jarray array, jsize start, jsize count) {
+  const bool fails = enter(jvm, true, call, count);
   Object* const target = jvm.heap.resolve(array);
   auto* const payload = target == nullptr ? nullptr : target->get<std::vector<Element>>();
   if (payload == nullptr) {
@@ -294,29 +295,29 @@ Element* region(JniTable& jvm, const char* call, jarray array, jsize start, jsiz
   }
   if (fails || start < 0 || count < 0 ||
       static_cast<std::size_t>(start) + static_cast<std::size_t>(count) > payload->size()) {
-    jvm.throwNew(kBounds);
+    throwNew(jvm, kBounds);
     return nullptr;
   }
   return payload->data() + start;
 }
 template <class Element, class Array>
-void getRegion(JniTable& jvm, Array array, jsize start, jsize count, Element* values) {
+void getRegion(MiniJvm& jvm, Array array, jsize start, jsize count, Element* values) {
   const Element* const first = region<Element>(jvm, Region<Element>::kGet, array, start, count);
   if (first != nullptr) {
     std::copy_n(first, count, values);
   }
 }
 template <class Element, class Array>
-void setRegion(JniTable& jvm, Array array, jsize start, jsize count, const Element* values) {
+void setRegion(MiniJvm& jvm, Array array, jsize start, jsize count, const Element* values) {
   Element* const first = region<Element>(jvm, Region<Element>::kSet, array, start, count);
   if (first != nullptr) {
     std::copy_n(values, count, first);
   }
 }
 
-jint* getIntElements(JniTable& jvm, jintArray array, jboolean*) {
-  if (jvm.enter(true, "GetIntArrayElements")) {
-    jvm.throwNew(kNoMemory);
+jint* getIntElements(MiniJvm& jvm, jintArray array, jboolean*) {
+  if (enter(jvm, true, "GetIntArrayElements")) {
+    throwNew(jvm, kNoMemory);
     return nullptr;
   }
   const auto& source = std::get<std::vector<jint>>(jvm.heap.resolve(array)->payload);
@@ -325,8 +326,8 @@ jint* getIntElements(JniTable& jvm, jintArray array, jboolean*) {
   ++jvm.unreleased;
   return copy;
 }
-void releaseIntElements(JniTable& jvm, jintArray array, jint* elements, jint) {
-  jvm.enter(false, "ReleaseIntArrayElements");
+void releaseIntElements(MiniJvm& jvm, jintArray array, jint* elements, jint) {
+  enter(jvm, false, "ReleaseIntArrayElements");
   auto& target = std::get<std::vector<jint>>(jvm.heap.resolve(array)->payload);
   std::copy_n(elements, target.size(), target.begin());
   --jvm.unreleased;
@@ -334,35 +335,28 @@ void releaseIntElements(JniTable& jvm, jintArray array, jint* elements, jint) {
 }
 
 /// The place of an element, or null with the exception where there is none.
-Object** element(JniTable& jvm, const char* call, jobjectArray array, jsize index) {
-  const bool fails = jvm.enter(true, call);
+Object** element(MiniJvm& jvm, const char* call, jobjectArray array, jsize index) {
+  const bool fails = enter(jvm, true, call);
   auto& elements = *jvm.heap.resolve(array)->elements();
   if (fails || index < 0 || static_cast<std::size_t>(index) >= elements.size()) {
-    jvm.throwNew(kBounds);
+    throwNew(jvm, kBounds);
     return nullptr;
   }
   return &elements[static_cast<std::size_t>(index)];
 }
-jobject getElement(JniTable& jvm, jobjectArray array, jsize index) {
+jobject getElement(MiniJvm& jvm, jobjectArray array, jsize index) {
   Object** const place = element(jvm, "GetObjectArrayElement", array, index);
   return place == nullptr ? nullptr : jvm.heap.refer(*place);
 }
-void setElement(JniTable& jvm, jobjectArray array, jsize index, jobject value) {
+void setElement(MiniJvm& jvm, jobjectArray array, jsize index, jobject value) {
   Object** const place = element(jvm, "SetObjectArrayElement", array, index);
   if (place != nullptr) {
     *place = kept(jvm, value);
   }
 }
 
-}  // namespace
-
-void JniTable::throwNew(const std::string& className, const std::string& message) {
-  pending = Heap::hold(heap.make(className.c_str(), message));
-}
-
-JniTable::JniTable(const InputProfile& inputs)
-    : profile(inputs), functions(std::make_unique<JNINativeInterface_>()) {
-  JNINativeInterface_& table = *functions;
+JNINativeInterface_ newTable() {
+  JNINativeInterface_ table;
   auto* const entries = reinterpret_cast<void (*(*))()>(&table);
   std::fill_n(entries, sizeof table / sizeof *entries, reinterpret_cast<void (*)()>(&unlisted));
   table.FindClass = &Entry<&findClass>::call;
@@ -399,7 +393,14 @@ JniTable::JniTable(const InputProfile& inputs)
   table.SetShortArrayRegion = &Entry<&setRegion<jshort, jshortArray>>::call;
   table.GetByteArrayRegion = &Entry<&getRegion<jbyte, jbyteArray>>::call;
   table.SetByteArrayRegion = &Entry<&setRegion<jbyte, jbyteArray>>::call;
-  env = {{functions.get()}, this};
+  return table;
+}
+
+}  // namespace
+
+const JNINativeInterface_& jniTable() {
+  static const JNINativeInterface_ table = newTable();
+  return table;
 }
 
 }  // namespace quorvelj::testing::mini
