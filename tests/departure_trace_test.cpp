@@ -264,17 +264,6 @@ TEST_F(DepartureTrace, WholeMappingIsOneRecord) {
   }
 }
 
-TEST_F(DepartureTrace, WithoutAHostGroupItsRecordStaysAsItWasAllocated) {
-  for (const char* const method : {"QV_CreateHG", "QV_ChangeHG"}) {
-    std::vector<jvalue> arguments = argumentsOf(method);
-    arguments[5].l = nullptr;
-    invoke(method, arguments);
-    std::string given(33, '\0');
-    EXPECT_EQ(quorvelSimLastInput(method, 5, given.data(), given.size()), 33U);
-    EXPECT_EQ(given, std::string(33, '\xA5'));
-  }
-}
-
 TEST_F(DepartureTrace, LogicalUnitsEndAtTheFirstThatCannotBeBuilt) {
   // An object takes 4 calls, each of its ints 5, and its store 2.
   constexpr int kAnElement = 4 + 24 * 5 + 2;

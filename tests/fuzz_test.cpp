@@ -9,12 +9,11 @@
 #include <cstdlib>
 #include <random>
 
-#include "simulator/control.h"
 #include "tests/support/departures.h"
 #include "tests/support/drawing.h"
 #include "tests/support/mini_jvm.h"
 #include "tests/support/mini_jvm/random_inputs.h"
-#include "tests/support/test_runtime.h"
+#include "tests/support/simulated_library.h"
 
 namespace quorvelj::testing {
 namespace {
@@ -95,13 +94,8 @@ void expectException(const NativeMethod& method, const std::optional<PendingExce
   }
 }
 
-class Fuzz : public ::testing::Test {
+class Fuzz : public SimulatedLibrary {
  protected:
-  ~Fuzz() override {
-    quorvelSimReset();
-    resetTestRuntime();
-  }
-
   void play(const NativeMethod& method, std::uint32_t seed) {
     mini::RandomInputs random(seed);
     quorvelSimReset();

@@ -1,10 +1,9 @@
 // What the calls that return the most objects, up to a million, hold while they build them.
 #include <gtest/gtest.h>
 
-#include "simulator/control.h"
 #include "tests/support/mini_jvm.h"
 #include "tests/support/native_methods.h"
-#include "tests/support/test_runtime.h"
+#include "tests/support/simulated_library.h"
 
 namespace quorvelj::testing {
 namespace {
@@ -15,22 +14,12 @@ struct LargeCall {
   int references;
 };
 
-class LargeCalls : public ::testing::TestWithParam<LargeCall> {
- protected:
-  LargeCalls() {
-    quorvelSimReset();
-    quorvelSimForceResult("*", 0, 1);
-    resetTestRuntime();
-  }
-  ~LargeCalls() override {
-    quorvelSimReset();
-    resetTestRuntime();
-  }
-};
+class LargeCalls : public SimulatedLibrary, public ::testing::WithParamInterface<LargeCall> {};
 
 TEST_P(LargeCalls, HoldOneRecordAndFewReferences) {
   const auto& [name, recordBytes, references] = GetParam();
   constexpr std::size_t kSessionBytes = 32;
+  quorvelSimForceResult("*", 0, 1);
   MiniJvm jvm;
   jvm.heap.forgetResults();
   const NativeMethod& method = nativeMethod(name);
