@@ -62,9 +62,7 @@ struct Outcome {
 
 struct Totals {
   int jniFaults = 0;
-  int allocations = 0;
-  int libraryResults = 0;
-  int inputs = 0;
+  int plays = 0;
   std::ptrdiff_t stack = 0;
   std::string deepest;
 } totals;
@@ -119,6 +117,8 @@ Outcome play(const NativeMethod& method, const Fault& fault) {
 
   quorvelSimObserve(nullptr);
   playing = nullptr;
+  totals.plays += 1;
+  totals.jniFaults += fault.jniCall == 0 ? 0 : 1;
   const char* const deepest = std::min(jvm.deepestFrame, libraryFrame);
   const std::ptrdiff_t stack = deepest == kNoFrame ? 0 : callersFrame - deepest;
   if (stack > totals.stack) {
@@ -401,7 +401,6 @@ TEST_P(Sweep, Succeeds) {
     EXPECT_EQ(outcome.leakedRecords, departureOf(method).neverReleased);
     EXPECT_EQ(outcome.newReferences, method.resultKind() == 'L' ? 1 : 0);
     EXPECT_TRUE(method.resultKind() != 'L' || outcome.result.l != nullptr);
-    totals.inputs += 1;
   }
 }
 
@@ -412,7 +411,6 @@ TEST_P(Sweep, LibraryResults) {
     expectCode(outcome, departureOf(GetParam()).returnsResult && code == -1 ? 256 : code);
     expectRefusalValue(GetParam(), outcome, code);
     EXPECT_EQ(outcome.leakedRecords, departureOf(GetParam()).neverReleased);
-    totals.libraryResults += 1;
   }
 }
 
@@ -439,7 +437,6 @@ TEST_P(Sweep, JniCallsFail) {
       if (outcome.libraryCalls == 1 && fault <= refused.fallibleCallsBefore) {
         inputs.expectAfterFault(fault, outcome);
       }
-      totals.jniFaults += 1;
     }
   }
 }
@@ -451,7 +448,6 @@ TEST_P(Sweep, EachAllocationFails) {
   for (int allocation = 1; allocation <= allocations; ++allocation) {
     SCOPED_TRACE("allocation " + std::to_string(allocation));
     const Outcome outcome = play(method, {.allocation = allocation});
-    totals.allocations += 1;
     if (allocation >= departure.firstUntestedAllocation) {
       EXPECT_FALSE(outcome.pending);
       EXPECT_EQ(outcome.libraryCalls, 1);
@@ -475,7 +471,6 @@ TEST_P(Sweep, EachAllocationFails) {
     const bool ended = outcome.pending->code == 2817 && outcome.result.l == nullptr;
     expectCode(outcome, ended ? 2817 : 65535);
     EXPECT_EQ(outcome.leakedRecords, departure.neverReleased);
-    totals.allocations += 1;
   }
 }
 
@@ -488,7 +483,6 @@ TEST_P(Sweep, EachArgumentIsNull) {
     SCOPED_TRACE("argument " + std::to_string(index));
     const Outcome outcome = play(GetParam(), {.nullArgument = static_cast<int>(index)});
     const Departure& departure = departureOf(GetParam());
-    totals.inputs += 1;
     if (types[index] == kText && !departure.acceptsNullText) {
       expectCode(outcome, 258);
       expectFailureValue(GetParam(), outcome);
@@ -516,16 +510,14 @@ TEST_P(Sweep, AnyJavaInput) {
     EXPECT_TRUE(outcome.libraryCalls == 1 || departureOf(GetParam()).stopsUnread);
     EXPECT_EQ(outcome.leakedRecords, departureOf(GetParam()).neverReleased);
     EXPECT_EQ(outcome.callsUnderExceptionBefore, 0) << "something was read behind an exception";
-    totals.inputs += 1;
   }
 }
 
 void Sweep::TearDownTestSuite() {
   std::printf(
-      "sweep: %d JNI faults, %d allocations refused, %d library results, %d inputs\n"
+      "sweep: %d calls of native methods, %d JNI faults\n"
       "stack: at most %td bytes, in %s\n",
-      totals.jniFaults, totals.allocations, totals.libraryResults, totals.inputs, totals.stack,
-      totals.deepest.c_str());
+      totals.plays, totals.jniFaults, totals.stack, totals.deepest.c_str());
 }
 
 INSTANTIATE_TEST_SUITE_P(NativeMethods, Sweep,

@@ -1,8 +1,6 @@
 #include "tests/support/mini_jvm.h"
 
-#include <cstdio>
-#include <cstdlib>
-
+#include "tests/support/fail.h"
 #include "tests/support/mini_jvm/inputs.h"
 #include "tests/support/mini_jvm/jni_table.h"
 
@@ -13,8 +11,7 @@ namespace {
 const mini::Slot& filled(mini::Object* object, const char* name) {
   const mini::Slot* const slot = object == nullptr ? nullptr : object->findSet(name);
   if (slot == nullptr) {
-    std::fprintf(stderr, "no field %s was set\n", name);
-    std::abort();
+    fail(std::string("no field was set: ") + name);
   }
   return *slot;
 }

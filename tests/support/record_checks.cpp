@@ -4,11 +4,11 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <cstdlib>
 #include <map>
 #include <string_view>
 
 #include "simulator/control.h"
+#include "tests/support/fail.h"
 #include "tests/support/field_log.h"
 #include "tests/support/split.h"
 
@@ -41,8 +41,7 @@ Member memberOf(const std::string& kind) {
   const std::size_t letters = known ? kind.size() : kind.find_first_of("0123456789");
   const auto found = members.find(kind.substr(0, letters));
   if (found == members.end() || (!known && found->second.width != 0)) {
-    std::fprintf(stderr, "no kind of member: %s\n", kind.c_str());
-    std::abort();
+    fail("no kind of member: " + kind);
   }
   Member member = found->second;
   if (!known) {

@@ -2,13 +2,12 @@
 
 #include <algorithm>
 #include <cstdarg>
-#include <cstdio>
-#include <cstdlib>
 #include <functional>
 #include <iomanip>
 #include <sstream>
 #include <utility>
 
+#include "tests/support/fail.h"
 #include "tests/support/mini_jvm/inputs.h"
 #include "tests/support/recorder.h"
 
@@ -41,8 +40,7 @@ Pointer as(jobject reference) {
 }
 
 [[noreturn]] void JNICALL unlisted() {
-  std::fputs("a JNI function that the bridge must not use was called\n", stderr);
-  std::abort();
+  fail("a JNI function that the bridge must not use was called");
 }
 
 /// The JNI function that does its work by `Function`, on the JVM of its environment.
