@@ -16,9 +16,8 @@ const Members kOption =
 const Members kBanner = "0:int32 warning_banner_display; 4:text6000 warning_banner";
 
 TEST_F(AccountAuthentication, RequestRecords) {
-  const jobject request = create("LoginRequest");
-  expectRead("QV_LoginQVAccount", {unit_, request}, request, 1, 648,
-             "0:text257 user_id passwd; 516:int32 log_option; 520:text128 log_string");
+  expectRequest("QV_LoginQVAccount", "LoginRequest", 648,
+                "0:text257 user_id passwd; 516:int32 log_option; 520:text128 log_string");
   expectRequest("QV_LogoutQVAccount QV_LogoutQVAccountAlertCheck", "LogoutOption", 4,
                 "0:int32 log_option");
   expectRequest("QV_ForcedLogoutQVAccount QV_DeleteAccount", "AccountIdentifier", 257,

@@ -11,14 +11,14 @@ TEST_F(AlertCheck, Records) {
   for (int recipient = 0; recipient < 20; ++recipient) {
     set(mail, "to[" + std::to_string(recipient) + ']', "");
   }
-  expectRead("QV_SetEmailInfo", {mail}, mail, 0, 2248,
-             "0:int32 on_off; 244:int32 tonum; 4:text40 domain; 44:text100 smtp from; 248:text100 "
-             "to[0]; 2148:text100 to[19]");
+  expectRequest(
+      "QV_SetEmailInfo", mail, 2248,
+      "0:int32 on_off; 244:int32 tonum; 4:text40 domain; 44:text100 smtp from; 248:text100 "
+      "to[0]; 2148:text100 to[19]");
   expectBuilt("QV_GetEmailInfo", {}, 2248,
               "0:int32 on_off; 4:text40 domain; 44:text100 smtp from; 244:int32 tonum; visited to");
   const Members user = "0:text257 user_id passwd; 516:int32 account_enable";
-  const jobject checker = create("AlertCheckUser");
-  expectRead("QV_SetAlertCheckUser", {checker}, checker, 0, 520, user);
+  expectRequest("QV_SetAlertCheckUser", "AlertCheckUser", 520, user);
   expectBuilt("QV_GetAlertCheckUser", {}, 520, user);
 
   const Members alertMail =

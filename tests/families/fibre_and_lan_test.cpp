@@ -83,8 +83,7 @@ TEST_F(FibreAndLan, ResultRecords) {
 
 TEST_F(FibreAndLan, RequestRecords) {
   expectRequest("QV_SetLANInformation", "LANInformation", 80, kLan, {1, 7});
-  const jobject both = create("LANInformationEx");
-  expectRead("QV_SetLANInformationEx", {unit_, both}, both, 1, 144, kLanEx);
+  expectRequest("QV_SetLANInformationEx", "LANInformationEx", 144, kLanEx);
   expectRequest("QV_SetLANPortNumber", "LANPortNumber", 40, kPortNumbers, {-1});
   expectRequest("QV_LANExport", "LANFile", 264, "0:text256 filename");
   expectRequest("QV_LANImport", "LANFile", 264, "0:text256 filename");

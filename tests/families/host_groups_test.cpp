@@ -149,8 +149,7 @@ TEST_F(HostGroups, WorldWideNamesAndTargets) {
   expectBuilt("QV_GetWWNInformation", {unit_}, 297060, wwn);
   expectGetAndSet("WWNHGInformation", "WWNHGInformation", 155780,
                   "0:int32 lun_manage; visited ctl");
-  const jobject names = create("WWNInformation");
-  expectRead("QV_SetWWNInformation", {unit_, names}, names, 1, 297060, wwn);
+  expectRequest("QV_SetWWNInformation", "WWNInformation", 297060, wwn);
 
   const Members target =
       "0:int32 ctrl_flag target_id_mode target_config.single target_config.multi[0]; 72:int32 "
@@ -161,9 +160,7 @@ TEST_F(HostGroups, WorldWideNamesAndTargets) {
   expectBuilt("QV_TargetIdImport", {unit_, text("file")}, 16536, targets);
   expectBuilt("QV_WZTargetIdImport", {unit_, text("first"), text("second")}, 16536,
               at("0:[0] 8268:[1]", "0:int32 ctrl_flag target_id_mode; visited target_config"));
-  const jobject id = create("TargetId");
-  expectRead("QV_SetTargetId", {unit_, number(1), id}, id, 2, 8268, target);
-  EXPECT_EQ(lastInt("QV_SetTargetId", 1), 1);
+  expectRequest("QV_SetTargetId", "TargetId", 8268, target, {1});
 }
 
 }  // namespace

@@ -54,15 +54,12 @@ TEST_F(LogicalUnits, ReadRecords) {
                 "0:int32 correction_mode lu_count lu[0]; 32772:int32 lu[8191]");
 
   const jobject formats = create("FormatEntryList", "lu[2048]=7");
-  expectRead("QV_EntryFormatList", {unit_, formats}, formats, 1, 2048, "0:bytes2048 lu");
-  EXPECT_EQ(lastText("QV_EntryFormatList", 0), "north");
+  expectRequest("QV_EntryFormatList", formats, 2048, "0:bytes2048 lu");
   const jobject quick = create("QuickFormatEntryList", "lu[8192]=7");
   expectRequest("QV_EntryQuickFormatList", quick, 8192, "0:bytes8192 lu");
 
-  const jobject reallocation = create("LogicalUnitReallocationRequest");
-  expectRead("QV_LogicalUnitRealloc", {unit_, reallocation}, reallocation, 1, 12,
-             "0:int32 lun lusize newlun");
-  EXPECT_EQ(lastText("QV_LogicalUnitRealloc", 0), "north");
+  expectRequest("QV_LogicalUnitRealloc", "LogicalUnitReallocationRequest", 12,
+                "0:int32 lun lusize newlun");
   expectRequest("QV_LogicalUnitAdd", "LogicalUnit", 96, kLogicalUnit);
   expectRequest("QV_SetLuOwnership", "LuOwnershipInfo", 28, kOwner);
 }

@@ -42,8 +42,8 @@ TEST_F(UnitCondition, Records) {
       {9});
 
   const jobject request = create("ArrayConditionRequest");
-  expectRead("QV_GetArrayCondition", {unit_, request}, request, 1, 552,
-             "0:int32 login_request; 4:text257 user_id passwd; 518:bytes32 session.session_id");
+  expectRequest("QV_GetArrayCondition", request, 552,
+                "0:int32 login_request; 4:text257 user_id passwd; 518:bytes32 session.session_id");
   expectBuilt("QV_GetArrayCondition", {unit_, request}, 100,
               "0:int32 login_kind valid_index login_result operation_auth[0]; 44:int32 "
               "operation_auth[8] alert_valid alert[0] alert[1] alert_sa lu_count all_lu_capa_h "

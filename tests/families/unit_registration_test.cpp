@@ -18,17 +18,12 @@ TEST_F(UnitRegistration, Records) {
       "device_type; 85:int8 unit_conf alert; 87:text256 ctl0 ctl1; 599:text9 serial; 608:int32 "
       "ssl_used";
   expectBuilt("QV_GetUnitParam", {unit_}, 612, unitParam);
-  const jobject param = create("QVUnitParam");
-  for (const char* const method : {"QV_UnitAdd", "QV_UnitAddByIP"}) {
-    expectRead(method, {param}, param, 0, 612, unitParam);
-  }
-  for (const char* const method : {"QV_UnitChange", "QV_UnitChangeByIP"}) {
-    expectRead(method, {unit_, param}, param, 1, 612, unitParam);
-  }
+  expectRequest("QV_UnitAdd QV_UnitAddByIP QV_UnitChange QV_UnitChangeByIP", "QVUnitParam", 612,
+                unitParam);
   const Members request = "0:uint8 connect_type; 1:text256 ip_dev";
   const jobject discovery = create("DiscoverUnitRequest");
   for (const char* const method : {"QV_DiscoverUnitInformation", "QV_DiscoverUnitInformationEx"}) {
-    expectRead(method, {discovery}, discovery, 0, 264, request + "260:int32 communication_mode");
+    expectRequest(method, discovery, 264, request + "260:int32 communication_mode");
     expectBuilt(method, {discovery}, 276,
                 request +
                     "257:uint8 qv_type device_type unit_conf ctlno; 261:text11 serial; 272:int32 "

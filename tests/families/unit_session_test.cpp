@@ -15,10 +15,7 @@ class UnitSession : public RegisteredUnit {
 TEST_F(UnitSession, UserRecords) {
   const Members members = "0:text17 user passwd";
   const jobject object = create("ArrayUser");
-  for (const char* const method : {"QV_LoginQVUnit", "QV_RegistUser", "QV_DeleteUser"}) {
-    expectRead(method, {unit_, number(7), object}, object, 2, 34, members);
-    EXPECT_EQ(lastInt(method, 1), 7);
-  }
+  expectRequest("QV_LoginQVUnit QV_RegistUser QV_DeleteUser", "ArrayUser", 34, members, {7});
   const jobject other = user("other", "");
   expectRead("QV_ChangeUser", {unit_, number(7), object, other}, object, 2, 34, members);
   expectRead("QV_ChangeUser", {unit_, number(7), other, object}, object, 3, 34, members);
