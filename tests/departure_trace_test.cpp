@@ -147,12 +147,7 @@ TEST_F(DepartureTrace, FlatInformationIsPartialWithoutAnException) {
                           newArray("DiskDriveInformation", 450) + "flush");
   expectEnd(events, "SetObjectArrayElement, DeleteLocalRef, free, flush");
 
-  jvm_.failingCall = jvm_.fallibleCalls + 500;
-  const std::vector<int> nulls = nullsOf(invoke("QV_GetDriveInformationAll").l, 450);
-  ASSERT_FALSE(nulls.empty());
-  EXPECT_GT(nulls.front(), 0);
-  EXPECT_EQ(nulls.size(), static_cast<std::size_t>(450 - nulls.front()));
-  EXPECT_EQ(thrown(), "NoSuchFieldError add_info_index");
+  // Where an element cannot be built, the rest stays null.
   jvm_.heap.remove("drive_rotation");
   expectEnd(trace("QV_GetDriveInformationAll"), "GetFieldID drive_rotation I, free, flush");
   EXPECT_EQ(nullsOf(result_.l, 450).size(), 450U);

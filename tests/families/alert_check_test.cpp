@@ -15,6 +15,9 @@ TEST_F(AlertCheck, Records) {
       "QV_SetEmailInfo", mail, 2248,
       "0:int32 on_off; 244:int32 tonum; 4:text40 domain; 44:text100 smtp from; 248:text100 "
       "to[0]; 2148:text100 to[19]");
+  set(mail, "tonum=1; to[0]=someone");
+  EXPECT_EQ(call("QV_SetEmailInfo", {mail}).failure, "");
+  expectFields(call("QV_GetEmailInfo", {}).result, "to=String[1]; to[0]=someone");
   expectBuilt("QV_GetEmailInfo", {}, 2248,
               "0:int32 on_off; 4:text40 domain; 44:text100 smtp from; 244:int32 tonum; visited to");
   const Members user = "0:text257 user_id passwd; 516:int32 account_enable";
@@ -61,17 +64,6 @@ TEST_F(AlertCheck, RecipientsAreAsManyAsTheirNumberAndNeverMoreThanTheRecordHas)
   expectRecipients("21", "\x15\0\0\0", "String[20]");
   expectRecipients("2147483647", "\xFF\xFF\xFF\x7F", "String[20]");
   expectRecipients("-1", "\xFF\xFF\xFF\xFF", "String[0]");
-}
-
-TEST_F(AlertCheck, RecipientsThatAreSet) {
-  const jobject mail = create("EmailInfo", "tonum=5");
-  for (const std::string field : {"domain", "smtp", "from", "to[0]", "to[1]", "to[2]"}) {
-    set(mail, field, "the " + field);
-  }
-  EXPECT_EQ(call("QV_SetEmailInfo", {mail}).failure, "");
-  EXPECT_EQ(lastInt("QV_SetEmailInfo", 0, 244), 5);
-  EXPECT_STREQ(lastInput("QV_SetEmailInfo", 0).c_str() + 448, "the to[2]");
-  expectFields(call("QV_GetEmailInfo", {}).result, "to=String[5]; to[1]=the to[1]");
 }
 
 }  // namespace

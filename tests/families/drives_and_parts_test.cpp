@@ -121,12 +121,5 @@ TEST_F(DrivesAndParts, PartsAreWrittenToAFile) {
   EXPECT_EQ(lastText("QV_PartsListExport", 2).size(), 1023U);
 }
 
-TEST_F(DrivesAndParts, OnlyTheFlatStatusTakesNoName) {
-  EXPECT_EQ(call("QV_GetDriveStatus", {nullptr, session_}).failure, "DiskArrayException 20001");
-  EXPECT_EQ(lastText("QV_GetDriveStatus", 0), "");
-  EXPECT_EQ(call("QV_GetDriveInformationAll", {nullptr, session_}).failure,
-            "DiskArrayException 258");
-}
-
 }  // namespace
 }  // namespace quorvelj::testing

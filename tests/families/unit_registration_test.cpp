@@ -54,14 +54,6 @@ TEST_F(UnitRegistration, NamesAreCutToTheirBuffer) {
   EXPECT_EQ(lastText("QV_UnitChange", 0), name);
   EXPECT_EQ(call("QV_UnitDelete", {text("")}).failure, "DiskArrayException 20001");
   EXPECT_EQ(lastText("QV_UnitDelete", 0), "");
-  // A character that does not fit whole is cut inside: 63 letters and the first of two bytes.
-  const std::string inside = std::string(63, 'n') + "é";
-  call("QV_UnitDelete", {text(inside)});
-  EXPECT_EQ(lastText("QV_UnitDelete", 0), std::string(63, 'n') + "\xC3");
-  // Java can be given such a text back.
-  EXPECT_EQ(call("QV_UnitAdd", {unit(inside)}).failure, "");
-  const jobject table = call("QV_GetUnitParamTable", {number(2)}).result;
-  expectFields(table, "=QVUnitParam[2]; [0].group_name=");
 }
 
 TEST_F(UnitRegistration, AUnitOfANameAndAnAddress) {

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdio>
 #include <iterator>
 #include <map>
 #include <string_view>
@@ -17,20 +16,6 @@ namespace quorvelj::testing {
 namespace {
 
 using Kind = Member::Kind;
-
-/// Says at the end how much was compared.
-class Compared : public ::testing::Environment {
- public:
-  void TearDown() override { std::printf("records: %d values compared\n", values); }
-  int values = 0;
-};
-
-Compared& compared() {
-  static auto* const environment = new Compared;
-  return *environment;
-}
-
-const auto* const kCompared = ::testing::AddGlobalTestEnvironment(&compared());
 
 /// A member of a kind that a list names, such as "int32" or "text17".
 Member memberOf(const std::string& kind) {
@@ -237,7 +222,6 @@ void expectBuilt(const char* method, const std::vector<jobject>& arguments, std:
     for (const Member& member : valued) {
       EXPECT_EQ(get(called.result, member.path), sampleOf(member, round, FilledBy::kLibrary).java)
           << member.path;
-      ++compared().values;
     }
   }
 }
@@ -261,7 +245,6 @@ void expectRead(const char* method, const std::vector<jobject>& arguments, jobje
       EXPECT_EQ(record.substr(member.offset, member.width),
                 sampleOf(member, round, FilledBy::kBridge).bytes)
           << member.path;
-      ++compared().values;
     }
   }
 }
