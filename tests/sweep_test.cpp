@@ -345,10 +345,13 @@ void sweepField(const std::string& className, const Field& whole, bool built) {
       const bool goesOn = field.kind == FieldKind::kText && failedCall > kCallsForTheObject &&
                           (field.rank == 0 || failed == "GetFieldID" || failed == "SetObjectField");
       EXPECT_EQ(object != nullptr, failedCall == 0 || goesOn);
+      // A class that is missing is named by an exception that takes the place of the JVM's.
+      EXPECT_TRUE(goesOn || failed == "FindClass" || jvm.callsUnderException == 0);
     } else {
       const jobject object = jvm.newInput('L' + className + ';');
       const int result = read(jvm.env(), map, object, record.data());
       EXPECT_TRUE((result == 0) == (failedCall == 0) || isPassedOver(jvm.failedFunction));
+      EXPECT_TRUE(isPassedOver(jvm.failedFunction) || jvm.callsUnderException == 0);
     }
     EXPECT_EQ(jvm.pending().has_value(), failedCall != 0);
     EXPECT_EQ(jvm.heap.misuses() + jvm.unreleased + testRuntime().liveRecords, 0);
