@@ -250,15 +250,6 @@ TEST_F(DepartureTrace, ResultsOfTheirOwnThatCannotBeMadeAre2817) {
   EXPECT_EQ(thrown(), "DiskArrayException 2817");
 }
 
-TEST_F(DepartureTrace, WholeMappingIsOneRecord) {
-  for (const char* const method :
-       {"QV_GetLuMappingListAll", "QV_GetLuMappingListAllLite", "QV_SetLuMappingListAll"}) {
-    SCOPED_TRACE(method);
-    expectEvents(only(trace(method), "malloc, calloc, free"),
-                 mallocOf<QVSessionInfo>() + mallocOf<LuMapping>() + "free, free");
-  }
-}
-
 TEST_F(DepartureTrace, LogicalUnitsEndAtTheFirstThatCannotBeBuilt) {
   // An object takes 4 calls, each of its ints 5, and its store 2.
   constexpr int kAnElement = 4 + 24 * 5 + 2;

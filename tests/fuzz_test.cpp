@@ -12,7 +12,7 @@
 #include "tests/support/departures.h"
 #include "tests/support/drawing.h"
 #include "tests/support/mini_jvm.h"
-#include "tests/support/mini_jvm/random_inputs.h"
+#include "tests/support/mini_jvm/inputs.h"
 #include "tests/support/simulated_library.h"
 
 namespace quorvelj::testing {

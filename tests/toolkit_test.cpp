@@ -8,7 +8,6 @@
 
 #include "bridge/jni_toolkit.h"
 #include "tests/support/mini_jvm.h"
-#include "tests/support/recorder.h"
 #include "tests/support/test_runtime.h"
 
 namespace quorvelj::testing {

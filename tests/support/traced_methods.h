@@ -10,7 +10,6 @@
 #include "arraylib/accounts.h"
 #include "tests/support/mini_jvm.h"
 #include "tests/support/native_methods.h"
-#include "tests/support/recorder.h"
 #include "tests/support/simulated_library.h"
 #include "tests/support/split.h"
 

@@ -9,7 +9,7 @@
 
 #include "tests/support/fail.h"
 #include "tests/support/mini_jvm/inputs.h"
-#include "tests/support/recorder.h"
+#include "tests/support/test_runtime.h"
 
 namespace quorvelj::testing::mini {
 namespace {
