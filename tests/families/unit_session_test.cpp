@@ -92,9 +92,10 @@ TEST_F(UnitSession, NamesReachTheLibraryInTheLongBufferOrAreCut) {
   // The kinds of the further arguments: i an int, s the session and a a user of the array.
   const auto expectName = [&](std::size_t length, const std::string& methods) {
     for (const std::string& listed : split(methods, "; ")) {
-      const std::string method = split(listed, " ")[0];
+      const std::vector<std::string> words = split(listed, " ");
+      const std::string& method = words[0];
       std::vector<jobject> arguments{text(std::string(100, 'n'))};
-      for (const char kind : split(listed, " ")[1]) {
+      for (const char kind : words[1]) {
         arguments.push_back(kind == 'i' ? number(1) : kind == 's' ? session_ : user("a", "b"));
       }
       EXPECT_EQ(call(method.c_str(), arguments).failure, "DiskArrayException 20001") << method;
