@@ -31,7 +31,7 @@ TEST_F(FrameTrace, Query) {
   expectEvents(trace(method), kBegin + mallocOf<AccountBanner>() + kThrowOutOfMemory);
   resetTestRuntime();
   jvm_.clearPending();
-  jvm_.removeField("warning_banner_display");
+  jvm_.heap.remove("warning_banner_display");
   expectEvents(trace(method),
                begun + "GetObjectClass, GetFieldID warning_banner_display I, free" + kThrow);
   EXPECT_EQ(thrown(), "DiskArrayException 2817");
@@ -62,7 +62,7 @@ TEST_F(FrameTrace, InputsAreReadBehindANullAndNotBehindAnException) {
     expectEvents(only(trace(method, arguments), inputs),
                  "GetFieldID session_id [B" + Events(field));
   }
-  jvm_.removeField("session_id");
+  jvm_.heap.remove("session_id");
   for (const auto& [method, field] : methods) {
     expectEvents(only(trace(method), inputs), "GetFieldID session_id [B");
     jvm_.clearPending();

@@ -9,12 +9,11 @@
 #include <cstdlib>
 #include <random>
 
-#include "simulator/control.h"
 #include "tests/support/departures.h"
 #include "tests/support/drawing.h"
 #include "tests/support/mini_jvm.h"
-#include "tests/support/mini_jvm/random_inputs.h"
-#include "tests/support/test_runtime.h"
+#include "tests/support/mini_jvm/inputs.h"
+#include "tests/support/simulated_library.h"
 
 namespace quorvelj::testing {
 namespace {
@@ -24,7 +23,7 @@ constexpr int kOrdinaryCode = 1234;
 
 /// What there was at the call of the library.
 struct AtLibrary {
-  const MiniJvm* jvm = nullptr;
+  MiniJvm* jvm = nullptr;
   std::string function;
   int callsUnderException = 0;
   bool pending = false;
@@ -95,19 +94,14 @@ void expectException(const NativeMethod& method, const std::optional<PendingExce
   }
 }
 
-class Fuzz : public ::testing::Test {
+class Fuzz : public SimulatedLibrary {
  protected:
-  ~Fuzz() override {
-    quorvelSimReset();
-    resetTestRuntime();
-  }
-
   void play(const NativeMethod& method, std::uint32_t seed) {
     mini::RandomInputs random(seed);
     quorvelSimReset();
     quorvelSimObserve([](const char* function) {
       atLibrary.function = function;
-      atLibrary.callsUnderException = atLibrary.jvm->callsUnderException();
+      atLibrary.callsUnderException = atLibrary.jvm->callsUnderException;
       atLibrary.pending = atLibrary.jvm->pending().has_value();
     });
     // What fills a result is not what is asked here.
@@ -119,9 +113,9 @@ class Fuzz : public ::testing::Test {
     jvm.clearPending();
     jvm.profile.random = &random;
     const std::vector<jvalue> arguments = jvm.newArguments(method);
-    const int misuses = jvm.misuses();
-    const int unreleased = jvm.unreleased();
-    const int before = jvm.callsUnderException();
+    const int misuses = jvm.heap.misuses();
+    const int unreleased = jvm.unreleased;
+    const int before = jvm.callsUnderException;
     atLibrary = {&jvm, "", before, false};
     method.invoke(jvm.env(), arguments);
 
@@ -131,8 +125,8 @@ class Fuzz : public ::testing::Test {
     EXPECT_EQ(testRuntime().damaged, 0) << "a record was written outside of, or released twice";
     EXPECT_EQ(testRuntime().liveRecords,
               testRuntime().allocations == 0 ? 0 : departure.neverReleased);
-    EXPECT_EQ(jvm.misuses(), misuses) << "a dead, null or wrong reference or field was used";
-    EXPECT_EQ(jvm.unreleased() - unreleased, libraryCalls * departure.neverReleasedCharacters);
+    EXPECT_EQ(jvm.heap.misuses(), misuses) << "a dead, null or wrong reference or field was used";
+    EXPECT_EQ(jvm.unreleased - unreleased, libraryCalls * departure.neverReleasedCharacters);
     EXPECT_EQ(atLibrary.callsUnderException, before) << "read on while an exception was pending";
     expectException(method, jvm.pending(), libraryCalls == 1, libraryResult);
     if (libraryCalls == 1) {

@@ -7,6 +7,8 @@
 
 #include "bridge/class_map.h"
 #include "record_headers.inc"
+#include "tests/support/class_maps.h"
+#include "tests/support/departures.h"
 #include "tests/support/java_fields.h"
 
 namespace quorvelj::testing {
@@ -37,20 +39,17 @@ void add(Fields& fields, const ClassMap& map) {
 }
 
 /// Fields that native methods read by maps of their own, each into a record of its own.
-std::map<std::string, Fields> fieldsReadApart() {
-  const Fields snapshots{"preinfo0 Ltessaly/str/diskarray/PerformanceAll;",
-                         "afterinfo0 Ltessaly/str/diskarray/PerformanceAll;",
-                         "preinfo1 Ltessaly/str/diskarray/PerformanceAll;",
-                         "afterinfo1 Ltessaly/str/diskarray/PerformanceAll;"};
-  Fields withFile = snapshots;
-  withFile.insert("filename Ljava/lang/String;");
-  return {{kPackage + "PerformanceOutputAllRequest", withFile},
-          {kPackage + "PerformanceOutputAllExRequest", withFile},
-          {kPackage + "PerformanceOutputGraphInfoRequest", snapshots}};
+void addFieldsReadApart(std::map<std::string, Fields>& mapped) {
+  for (const NativeMethod& method : nativeMethods()) {
+    for (const ClassMap* const map : departureOf(method).alsoReads) {
+      add(mapped[classNameOf(method.argumentTypes().back())], *map);
+    }
+  }
 }
 
 TEST(JavaClasses, HaveTheFieldsOfTheirMaps) {
-  std::map<std::string, Fields> mapped = fieldsReadApart();
+  std::map<std::string, Fields> mapped;
+  addFieldsReadApart(mapped);
   const auto enter = [&](const char* record, const ClassMap& map) {
     if (*map.className == '\0') {
       return;  // The fields of a part are looked at where it is a member.

@@ -1,10 +1,9 @@
 // What the calls that return the most objects, up to a million, hold while they build them.
 #include <gtest/gtest.h>
 
-#include "simulator/control.h"
 #include "tests/support/mini_jvm.h"
 #include "tests/support/native_methods.h"
-#include "tests/support/test_runtime.h"
+#include "tests/support/simulated_library.h"
 
 namespace quorvelj::testing {
 namespace {
@@ -15,33 +14,23 @@ struct LargeCall {
   int references;
 };
 
-class LargeCalls : public ::testing::TestWithParam<LargeCall> {
- protected:
-  LargeCalls() {
-    quorvelSimReset();
-    quorvelSimForceResult("*", 0, 1);
-    resetTestRuntime();
-  }
-  ~LargeCalls() override {
-    quorvelSimReset();
-    resetTestRuntime();
-  }
-};
+class LargeCalls : public SimulatedLibrary, public ::testing::WithParamInterface<LargeCall> {};
 
 TEST_P(LargeCalls, HoldOneRecordAndFewReferences) {
   const auto& [name, recordBytes, references] = GetParam();
   constexpr std::size_t kSessionBytes = 32;
+  quorvelSimForceResult("*", 0, 1);
   MiniJvm jvm;
-  jvm.forgetResults();
+  jvm.heap.forgetResults();
   const NativeMethod& method = nativeMethod(name);
   std::vector<jvalue> arguments(method.argumentTypes().size());
   arguments[0].l = jvm.newText("north");
-  const int before = jvm.liveReferences();
+  const int before = jvm.heap.liveReferences();
   EXPECT_NE(method.invoke(jvm.env(), arguments).l, nullptr);
   EXPECT_EQ(testRuntime().mostBytes, recordBytes + kSessionBytes);
   EXPECT_EQ(testRuntime().liveRecords, 0);
-  EXPECT_EQ(jvm.mostReferences() - before, references);
-  EXPECT_EQ(jvm.liveReferences() - before, 1);
+  EXPECT_EQ(jvm.heap.mostReferences() - before, references);
+  EXPECT_EQ(jvm.heap.liveReferences() - before, 1);
 }
 
 constexpr std::size_t kRequestBytes = 4;

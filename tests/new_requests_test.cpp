@@ -4,11 +4,10 @@
 #include <algorithm>
 #include <set>
 
-#include "simulator/control.h"
 #include "tests/support/class_maps.h"
 #include "tests/support/mini_jvm.h"
 #include "tests/support/native_methods.h"
-#include "tests/support/test_runtime.h"
+#include "tests/support/simulated_library.h"
 
 namespace quorvelj::testing {
 namespace {
@@ -71,16 +70,11 @@ void expectZeros(const ClassMap& map, const unsigned char* record) {
   }
 }
 
-class NewRequests : public ::testing::Test {
+class NewRequests : public SimulatedLibrary {
  protected:
   NewRequests() {
-    quorvelSimReset();
     quorvelSimForceResult("*", 1234, 1'000'000);
     quorvelSimObserve([](const char* function) { function_ = function; });
-  }
-  ~NewRequests() override {
-    quorvelSimReset();
-    resetTestRuntime();
   }
 
   static jobject construct(JNIEnv* env, const std::string& className) {

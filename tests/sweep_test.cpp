@@ -21,8 +21,10 @@
 namespace quorvelj::testing {
 namespace {
 
-/// A method that makes no more JNI calls than these has each of them failed.
+/// A method that makes no more JNI calls than these has each of them failed; of more the first, in
+/// which it takes its arguments and begins its result, and the last.
 constexpr int kFewCalls = 5000;
+constexpr int kFirstCalls = 40;
 constexpr std::size_t kLargeRecord = 1 << 24;
 /// A native method has 16 KB for itself and the library in a 32-bit JVM.
 constexpr std::ptrdiff_t kMostStack = 8 * 1024;
@@ -40,7 +42,6 @@ struct Fault {
   int nullArgument = -1;
   InputProfile inputs{};
   Bytes output{};
-  bool recorded = false;
 };
 
 struct Outcome {
@@ -49,7 +50,6 @@ struct Outcome {
   int fallibleCalls = 0;
   std::string failedFunction{};
   int callsUnderException = 0;
-  std::vector<CallSite> sites{};
   int allocations = 0;
   int leakedRecords = 0;
   int newReferences = 0;
@@ -62,13 +62,9 @@ struct Outcome {
 
 struct Totals {
   int jniFaults = 0;
-  int allocations = 0;
-  int libraryResults = 0;
-  int inputs = 0;
+  int plays = 0;
   std::ptrdiff_t stack = 0;
   std::string deepest;
-  std::set<std::string> sites;  // of which the first and the last call failed
-  std::set<std::string> methods;
 } totals;
 
 const char* const kNoFrame = reinterpret_cast<const char*>(UINTPTR_MAX);
@@ -83,8 +79,8 @@ Play* playing = nullptr;
 
 void observe(const char* function) {
   playing->outcome.function = function;
-  playing->outcome.fallibleCallsBefore = playing->jvm.fallibleCalls();
-  playing->outcome.callsUnderExceptionBefore = playing->jvm.callsUnderException();
+  playing->outcome.fallibleCallsBefore = playing->jvm.fallibleCalls;
+  playing->outcome.callsUnderExceptionBefore = playing->jvm.callsUnderException;
   playing->libraryFrame = static_cast<const char*>(__builtin_frame_address(0));
 }
 
@@ -100,34 +96,30 @@ Outcome play(const NativeMethod& method, const Fault& fault) {
   quorvelSimPrepareOutput("*", output.data(), output.size());
   resetTestRuntime(fault.allocation);
   jvm.profile = fault.inputs;
-  jvm.forgetResults();
-  if (fault.recorded) {
-    jvm.recordCallSites();
-  }
+  jvm.heap.forgetResults();
   std::vector<jvalue> arguments = jvm.newArguments(method);
   if (fault.nullArgument >= 0) {
     arguments[static_cast<std::size_t>(fault.nullArgument)].l = nullptr;
   }
-  const int references = jvm.liveReferences();
-  jvm.failCall(fault.jniCall);
+  const int references = jvm.heap.liveReferences();
+  jvm.failingCall = fault.jniCall;
 
   dirtyStack();
   outcome.result = method.invoke(jvm.env(), arguments);
   outcome.pending = jvm.pending();
-  outcome.fallibleCalls = jvm.fallibleCalls();
-  outcome.callsUnderException = jvm.callsUnderException();
-  outcome.failedFunction = jvm.failedFunction();
-  if (fault.recorded) {
-    outcome.sites = jvm.callSites();
-  }
+  outcome.fallibleCalls = jvm.fallibleCalls;
+  outcome.callsUnderException = jvm.callsUnderException;
+  outcome.failedFunction = jvm.failedFunction;
   outcome.allocations = testRuntime().allocations;
   outcome.leakedRecords = testRuntime().liveRecords;
   outcome.libraryCalls = quorvelSimCallCount("*");
-  outcome.newReferences = jvm.liveReferences() - references;
+  outcome.newReferences = jvm.heap.liveReferences() - references;
 
   quorvelSimObserve(nullptr);
   playing = nullptr;
-  const char* const deepest = std::min(jvm.deepestFrame(), libraryFrame);
+  totals.plays += 1;
+  totals.jniFaults += fault.jniCall == 0 ? 0 : 1;
+  const char* const deepest = std::min(jvm.deepestFrame, libraryFrame);
   const std::ptrdiff_t stack = deepest == kNoFrame ? 0 : callersFrame - deepest;
   if (stack > totals.stack) {
     totals.stack = stack;
@@ -137,8 +129,8 @@ Outcome play(const NativeMethod& method, const Fault& fault) {
   EXPECT_LE(stack, kMostStack);
 #endif
   EXPECT_EQ(testRuntime().damaged, 0) << "a record was written outside of, or released twice";
-  EXPECT_EQ(jvm.misuses(), 0) << "a dead, null or wrong reference was used";
-  EXPECT_EQ(jvm.unreleased(), outcome.libraryCalls * departure.neverReleasedCharacters)
+  EXPECT_EQ(jvm.heap.misuses(), 0) << "a dead, null or wrong reference was used";
+  EXPECT_EQ(jvm.unreleased, outcome.libraryCalls * departure.neverReleasedCharacters)
       << "characters or elements were not released";
   EXPECT_LE(outcome.libraryCalls, 1);
   if (method.resultKind() == 'L' && outcome.result.l == nullptr && fault.allocation == 0 &&
@@ -161,7 +153,7 @@ const Outcome& once(std::map<std::string, Outcome>& outcomes, const NativeMethod
 /// The method's call without a fault, on records of zeros.
 const Outcome& faultless(const NativeMethod& method) {
   static std::map<std::string, Outcome> outcomes;
-  return once(outcomes, method, {.recorded = true});
+  return once(outcomes, method, {});
 }
 
 /// The same on records without a NUL in any text.
@@ -289,15 +281,20 @@ class Inputs {
       return;
     }
     EXPECT_TRUE(isLater_ || inputs_ != whole_) << "all was read";
+    bool isName = false;
     for (std::size_t index = 0; index < inputs_.size(); ++index) {
       SCOPED_TRACE("parameter " + std::to_string(index));
       if (isText(whole_[index]) && inputs_[index][0] == '\0') {
-        continue;  // A name that a request holds: the library gets it by itself.
+        // A name that a request holds: the library gets it by itself, and it is asked for first.
+        isName = true;
+        continue;
       }
       expectUnreadBehindFault(inputs_[index], whole_[index], earlier_[index], fresh_[index]);
     }
-    std::swap(earlier_, inputs_);
-    isLater_ = true;
+    if (!isName) {
+      std::swap(earlier_, inputs_);
+      isLater_ = true;
+    }
   }
 
  private:
@@ -311,203 +308,82 @@ class Inputs {
 
 // Which JNI calls fail
 
-/// One name for the calls of a function for a field, wherever it is built or read. Calls for no
-/// field are the method's own.
-std::string nameOf(const CallSite& site, const NativeMethod& method) {
-  return (site.className.empty() ? method.name : site.className + '.' + site.field) + ' ' +
-         site.function;
+/// The calls to fail of so many that a method makes.
+std::vector<int> failingOf(int calls) {
+  std::vector<int> failing;
+  for (int call = 1; call <= calls; ++call) {
+    if (calls <= kFewCalls || call <= kFirstCalls || call == calls) {
+      failing.push_back(call);
+    }
+  }
+  return failing;
 }
 
-/// The JNI calls that a field costs.
-std::vector<std::string> callsFor(const Field& field, bool built) {
-  struct Innermost {
-    std::vector<std::string> built;
-    std::vector<std::string> read;
-  };
-  static const std::map<FieldKind, Innermost> kInnermost{
-      {FieldKind::kText, {{"NewStringUTF"}, {"GetStringUTFChars"}}},
-      {FieldKind::kRecord, {{"FindClass", "GetMethodID", "NewObject"}, {}}},
-      {FieldKind::kInt32, {{"NewIntArray", "SetIntArrayRegion"}, {"GetIntArrayRegion"}}},
-      {FieldKind::kInt8, {{"NewIntArray", "GetIntArrayElements"}, {"GetIntArrayElements"}}},
-      {FieldKind::kBytes, {{"NewByteArray", "SetByteArrayRegion"}, {"GetByteArrayRegion"}}},
-  };
-  const bool isBytes = field.kind == FieldKind::kBytes;
-  const bool isObject = field.kind == FieldKind::kText || field.kind == FieldKind::kRecord;
-  if (!isObject && field.rank == 0) {
-    return {"GetFieldID", built ? "SetIntField" : "GetIntField"};
-  }
-  if (built && isBytes && field.rank == 1) {
-    return {"GetFieldID", "GetObjectField", "SetByteArrayRegion"};
-  }
-  std::vector<std::string> calls{"GetFieldID", built ? "SetObjectField" : "GetObjectField"};
-  std::string within;
-  for (int array = isObject ? 0 : 1; array < field.rank; ++array, within += "[]") {
-    const std::vector<std::string> ofArray =
-        built ? std::vector<std::string>{"FindClass", "NewObjectArray", "SetObjectArrayElement"}
-              : std::vector<std::string>{"GetObjectArrayElement"};
-    for (const std::string& call : ofArray) {
-      calls.push_back(call + within);
-    }
-  }
-  const Innermost& innermost = kInnermost.at(field.kind);
-  for (const std::string& call : built ? innermost.built : innermost.read) {
-    calls.push_back(call + within);
-  }
-  return calls;
-}
-
-/// All that the fields of a map and of the maps inside it cost.
-void addSites(std::set<std::string>& sites, const char* className, const ClassMap& map,
-              bool built) {
-  for (const Field& field : map.fields) {
-    if (field.kind == FieldKind::kPart) {
-      addSites(sites, className, *field.element, built);
-      continue;
-    }
-    for (const std::string& call : callsFor(field, built)) {
-      sites.insert(std::string(className) + '.' + field.name + ' ' + call);
-    }
-    if (field.kind == FieldKind::kRecord) {
-      addSites(sites, field.element->className, *field.element, built);
-    }
-  }
-}
-
-/// What the fields of all objects cost that methods return, or that they take.
-const std::set<std::string>& sitesOfMaps(bool built) {
-  static const auto collect = [](bool ofResults) {
-    std::set<std::string> sites;
-    const auto add = [&](const std::string& type) {
-      const auto found = mappedClasses().find(classNameOf(type));
-      if (found != mappedClasses().end()) {
-        addSites(sites, found->first.c_str(), *found->second.map, ofResults);
-      }
-    };
-    for (const NativeMethod& method : nativeMethods()) {
-      if (ofResults) {
-        add(std::strchr(method.signature, ')') + 1);
-      } else {
-        const std::vector<std::string> types = method.argumentTypes();
-        std::for_each(types.begin(), types.end(), add);
-      }
-    }
-    if (!ofResults) {
-      // Of these the requests of the performance output hold four, each for a record of its own.
-      add("Ltessaly/str/diskarray/PerformanceAll;");
-    }
-    return sites;
-  };
-  static const std::set<std::string> ofResults = collect(true);
-  static const std::set<std::string> ofArguments = collect(false);
-  return built ? ofResults : ofArguments;
-}
-
-/// Which JNI calls to fail where: in a method that makes few, each; in the others the last, and the
-/// first and the last of each function that is called for no field. Fields that come in no method
-/// of few calls are built or read alone.
-struct Faults {
-  std::map<std::string, std::set<int>> ofMethods;
-  std::set<std::string> ofFields;  // "tessaly/str/diskarray/QVTime.year"
-};
-
-Faults chooseFaults() {
-  Faults faults;
-  std::set<std::string> served;
-  for (const NativeMethod& method : nativeMethods()) {
-    const Outcome& outcome = faultless(method);
-    const bool few = outcome.fallibleCalls <= kFewCalls;
-    std::set<int>& calls = faults.ofMethods[method.name];
-    for (int call = few ? 1 : outcome.fallibleCalls; call <= outcome.fallibleCalls; ++call) {
-      calls.insert(call);
-    }
-    for (const CallSite& site : outcome.sites) {
-      if (few) {
-        served.insert(nameOf(site, method));
-      }
-    }
-  }
-  for (const bool built : {true, false}) {
-    for (const std::string& name : sitesOfMaps(built)) {
-      if (served.insert(name).second) {
-        faults.ofFields.insert(name.substr(0, name.find(' ')));
-      }
-    }
-  }
-  for (const NativeMethod& method : nativeMethods()) {
-    for (const CallSite& site : faultless(method).sites) {
-      if (served.insert(nameOf(site, method)).second) {
-        faults.ofMethods[method.name].insert({site.first, site.last});
-      }
-    }
-  }
-  return faults;
-}
-
-const Faults& chosenFaults() {
-  static const Faults faults = chooseFaults();
-  return faults;
-}
-
-/// Builds or reads one field of an object only, and fails the first and the last call of each
-/// function.
-void sweepField(const std::string& className, const Field& field, bool built) {
+/// Builds or reads one field of an object only, and fails each JNI call. Of its arrays two elements
+/// in each dimension are enough, and of the objects in them the mere objects.
+void sweepField(const std::string& className, const Field& whole, bool built) {
   static std::vector<std::byte> record(sizeof(ArrayAllInformation));
+  constexpr std::uint32_t kElements = 2;
+  constexpr int kCallsForTheObject = 3;
+  const ClassMap bare{whole.kind == FieldKind::kRecord ? whole.element->className : "", {}};
+  Field field = whole;
+  field.element = &bare;
+  for (std::uint32_t& extent : field.extents) {
+    extent = std::min(extent, kElements);
+  }
   const ClassMap map{className.c_str(), {&field, 1}};
-  const auto playOne = [&](int failedCall) {
+  int calls = 0;
+  for (int failedCall = 0; failedCall <= calls; ++failedCall) {
     SCOPED_TRACE(className + '.' + field.name + ", JNI call " + std::to_string(failedCall));
     resetTestRuntime();
     MiniJvm jvm;
-    jvm.forgetResults();
-    jvm.failCall(failedCall);
-    if (failedCall == 0) {
-      jvm.recordCallSites();
-    }
+    jvm.failingCall = failedCall;
     if (built) {
       const jobject object = build(jvm.env(), map, record.data());
       // A text that cannot be stored does not end a builder, nor do texts that are not stored last.
-      const std::string& failed = jvm.failedFunction();
-      const bool goesOn = field.kind == FieldKind::kText &&
+      const std::string& failed = jvm.failedFunction;
+      const bool goesOn = field.kind == FieldKind::kText && failedCall > kCallsForTheObject &&
                           (field.rank == 0 || failed == "GetFieldID" || failed == "SetObjectField");
       EXPECT_EQ(object != nullptr, failedCall == 0 || goesOn);
+      // A class that is missing is named by an exception that takes the place of the JVM's.
+      EXPECT_TRUE(goesOn || failed == "FindClass" || jvm.callsUnderException == 0);
     } else {
       const jobject object = jvm.newInput('L' + className + ';');
       const int result = read(jvm.env(), map, object, record.data());
-      EXPECT_TRUE((result == 0) == (failedCall == 0) || isPassedOver(jvm.failedFunction()));
+      EXPECT_TRUE((result == 0) == (failedCall == 0) || isPassedOver(jvm.failedFunction));
+      EXPECT_TRUE(isPassedOver(jvm.failedFunction) || jvm.callsUnderException == 0);
     }
     EXPECT_EQ(jvm.pending().has_value(), failedCall != 0);
-    EXPECT_EQ(jvm.misuses() + jvm.unreleased() + testRuntime().liveRecords, 0);
-    return jvm.callSites();
-  };
-  for (const CallSite& site : playOne(0)) {
-    if (site.className == className && site.field == field.name) {
-      for (const int call : std::set<int>{site.first, site.last}) {
-        playOne(call);
-        totals.jniFaults += 1;
-      }
-      totals.sites.insert(className + '.' + field.name + ' ' + site.function);
-    }
+    EXPECT_EQ(jvm.heap.misuses() + jvm.unreleased + testRuntime().liveRecords, 0);
+    calls = failedCall == 0 ? jvm.fallibleCalls : calls;
   }
+  totals.jniFaults += calls;
 }
 
-/// The same for the fields of a map that were chosen.
 void sweepFields(const std::string& className, const ClassMap& map) {
   for (const Field& field : map.fields) {
-    const std::string name = className + '.' + field.name;
     if (field.kind == FieldKind::kPart) {
       sweepFields(className, *field.element);
-    } else if (chosenFaults().ofFields.contains(name)) {
-      for (const bool built : {true, false}) {
-        if (sitesOfMaps(built).contains(name + " GetFieldID")) {
-          sweepField(className, field, built);
-        }
-      }
+      continue;
+    }
+    sweepField(className, field, true);
+    const bool isBuiltOnly = field.kind == FieldKind::kBytes && field.rank == kMaxRank;
+    if (!isBuiltOnly) {
+      sweepField(className, field, false);
     }
   }
 }
 
 TEST(SweepOfFields, JniCallsFail) {
   for (const auto& [className, mapped] : mappedClasses()) {
-    sweepFields(className, *mapped.map);
+    if (!className.empty()) {
+      sweepFields(className, *mapped.map);
+    }
+  }
+  for (const NativeMethod& method : nativeMethods()) {
+    for (const ClassMap* const map : departureOf(method).alsoReads) {
+      sweepFields(map->className, *map);
+    }
   }
 }
 
@@ -528,7 +404,6 @@ TEST_P(Sweep, Succeeds) {
     EXPECT_EQ(outcome.leakedRecords, departureOf(method).neverReleased);
     EXPECT_EQ(outcome.newReferences, method.resultKind() == 'L' ? 1 : 0);
     EXPECT_TRUE(method.resultKind() != 'L' || outcome.result.l != nullptr);
-    totals.inputs += 1;
   }
 }
 
@@ -539,23 +414,18 @@ TEST_P(Sweep, LibraryResults) {
     expectCode(outcome, departureOf(GetParam()).returnsResult && code == -1 ? 256 : code);
     expectRefusalValue(GetParam(), outcome, code);
     EXPECT_EQ(outcome.leakedRecords, departureOf(GetParam()).neverReleased);
-    totals.libraryResults += 1;
   }
 }
 
 TEST_P(Sweep, JniCallsFail) {
   const NativeMethod& method = GetParam();
-  const std::set<int>& faults = chosenFaults().ofMethods.at(method.name);
   const Outcome refused = play(method, {.libraryResult = kOrdinaryCode});
   const Inputs read(method, refused);
   const bool isLarge = testRuntime().mostBytes > kLargeRecord;
   for (const int code : {0, kOrdinaryCode}) {
     Inputs inputs = read;
     const int calls = code == 0 ? faultless(method).fallibleCalls : refused.fallibleCalls;
-    for (const int fault : faults) {
-      if (fault > calls) {
-        break;
-      }
+    for (const int fault : failingOf(calls)) {
       if (code != 0 && isLarge && fault <= refused.fallibleCallsBefore) {
         continue;  // It is read in the same way, whatever the library answers.
       }
@@ -570,15 +440,8 @@ TEST_P(Sweep, JniCallsFail) {
       if (outcome.libraryCalls == 1 && fault <= refused.fallibleCallsBefore) {
         inputs.expectAfterFault(fault, outcome);
       }
-      totals.jniFaults += 1;
     }
   }
-  for (const CallSite& site : faultless(method).sites) {
-    if (faults.contains(site.first) && faults.contains(site.last)) {
-      totals.sites.insert(nameOf(site, method));
-    }
-  }
-  totals.methods.insert(method.name);
 }
 
 TEST_P(Sweep, EachAllocationFails) {
@@ -588,7 +451,6 @@ TEST_P(Sweep, EachAllocationFails) {
   for (int allocation = 1; allocation <= allocations; ++allocation) {
     SCOPED_TRACE("allocation " + std::to_string(allocation));
     const Outcome outcome = play(method, {.allocation = allocation});
-    totals.allocations += 1;
     if (allocation >= departure.firstUntestedAllocation) {
       EXPECT_FALSE(outcome.pending);
       EXPECT_EQ(outcome.libraryCalls, 1);
@@ -612,7 +474,6 @@ TEST_P(Sweep, EachAllocationFails) {
     const bool ended = outcome.pending->code == 2817 && outcome.result.l == nullptr;
     expectCode(outcome, ended ? 2817 : 65535);
     EXPECT_EQ(outcome.leakedRecords, departure.neverReleased);
-    totals.allocations += 1;
   }
 }
 
@@ -625,7 +486,6 @@ TEST_P(Sweep, EachArgumentIsNull) {
     SCOPED_TRACE("argument " + std::to_string(index));
     const Outcome outcome = play(GetParam(), {.nullArgument = static_cast<int>(index)});
     const Departure& departure = departureOf(GetParam());
-    totals.inputs += 1;
     if (types[index] == kText && !departure.acceptsNullText) {
       expectCode(outcome, 258);
       expectFailureValue(GetParam(), outcome);
@@ -653,30 +513,14 @@ TEST_P(Sweep, AnyJavaInput) {
     EXPECT_TRUE(outcome.libraryCalls == 1 || departureOf(GetParam()).stopsUnread);
     EXPECT_EQ(outcome.leakedRecords, departureOf(GetParam()).neverReleased);
     EXPECT_EQ(outcome.callsUnderExceptionBefore, 0) << "something was read behind an exception";
-    totals.inputs += 1;
   }
 }
 
 void Sweep::TearDownTestSuite() {
   std::printf(
-      "sweep: %d JNI faults, %d allocations refused, %d library results, %d inputs\n"
+      "sweep: %d calls of native methods, %d JNI faults\n"
       "stack: at most %td bytes, in %s\n",
-      totals.jniFaults, totals.allocations, totals.libraryResults, totals.inputs, totals.stack,
-      totals.deepest.c_str());
-  if (totals.methods.size() != nativeMethods().size()) {
-    return;  // A filter is on.
-  }
-  std::set<std::string> sites = sitesOfMaps(true);
-  sites.insert(sitesOfMaps(false).begin(), sitesOfMaps(false).end());
-  std::size_t failed = 0;
-  for (const std::string& site : sites) {
-    if (totals.sites.contains(site)) {
-      ++failed;
-    } else {
-      ADD_FAILURE() << "never failed: " << site;
-    }
-  }
-  std::printf("every call site of every map: %zu of %zu\n", failed, sites.size());
+      totals.plays, totals.jniFaults, totals.stack, totals.deepest.c_str());
 }
 
 INSTANTIATE_TEST_SUITE_P(NativeMethods, Sweep,

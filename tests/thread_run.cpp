@@ -12,7 +12,7 @@
 #include "tests/support/departures.h"
 #include "tests/support/drawing.h"
 #include "tests/support/mini_jvm.h"
-#include "tests/support/mini_jvm/random_inputs.h"
+#include "tests/support/mini_jvm/inputs.h"
 #include "tests/support/test_runtime.h"
 
 namespace quorvelj::testing {
@@ -49,7 +49,7 @@ void callOnce(const NativeMethod& method, MiniJvm& jvm) {
   tally.documentedLeaks += leaks;
   check(testRuntime().liveRecords - before.liveRecords == leaks, method, "records leaked");
   check(testRuntime().damaged == 0, method, "a record was damaged");
-  check(jvm.misuses() == 0, method, "a reference was misused");
+  check(jvm.heap.misuses() == 0, method, "a reference was misused");
 }
 
 void work(unsigned seed, const std::discrete_distribution<std::size_t>& byCost,

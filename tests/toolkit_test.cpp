@@ -8,7 +8,6 @@
 
 #include "bridge/jni_toolkit.h"
 #include "tests/support/mini_jvm.h"
-#include "tests/support/recorder.h"
 #include "tests/support/test_runtime.h"
 
 namespace quorvelj::testing {
@@ -17,7 +16,9 @@ namespace {
 class Toolkit : public ::testing::Test {
  protected:
   Toolkit() { resetTestRuntime(); }
-  ~Toolkit() override { EXPECT_EQ(jvm_.misuses(), 0) << "JNI was called with what it forbids"; }
+  ~Toolkit() override {
+    EXPECT_EQ(jvm_.heap.misuses(), 0) << "JNI was called with what it forbids";
+  }
 
   std::string thrownBy(int code) {
     throwArrayException(env_, code);
@@ -40,23 +41,23 @@ TEST_F(Toolkit, ThrowsByCode) {
 }
 
 TEST_F(Toolkit, MissingClassesAreNamed) {
-  jvm_.removeClass("tessaly/str/diskarray/DiskArrayException");
+  jvm_.heap.remove("tessaly/str/diskarray/DiskArrayException");
   EXPECT_EQ(thrownBy(7),
             "java/lang/ClassNotFoundException:tessaly/str/diskarray/DiskArrayException");
-  jvm_.removeClass("java/lang/ClassNotFoundException");
+  jvm_.heap.remove("java/lang/ClassNotFoundException");
   EXPECT_EQ(thrownBy(7), "java/lang/NoClassDefFoundError:java/lang/ClassNotFoundException");
   EXPECT_EQ(newObjectByName(env_, "tessaly/str/diskarray/DiskArrayException"), nullptr);
   EXPECT_EQ(newObjectArrayByName(env_, "tessaly/str/diskarray/DiskArrayException", 2), nullptr);
 }
 
 TEST_F(Toolkit, MissingConstructorLeavesTheJvmsError) {
-  jvm_.removeField("<init>");
+  jvm_.heap.remove("<init>");
   EXPECT_EQ(thrownBy(7), "java/lang/NoSuchMethodError:<init>");
   EXPECT_EQ(newInteger(env_, 7), nullptr);
 }
 
 TEST_F(Toolkit, MissingFieldsAndObjectsGiveTheSentinels) {
-  jvm_.removeField("gone");
+  jvm_.heap.remove("gone");
   std::array<char, 4> text{'k', 'e', 'p', 't'};
   std::int32_t number = 77;
   for (const jobject object : {object_, jobject{}}) {
@@ -102,9 +103,9 @@ TEST_F(Toolkit, NewIntegerAndScaledShorts) {
 
 TEST_F(Toolkit, ShiftJisTextEndsAtItsNul) {
   const char bytes[16] = "ABC";
-  const int references = jvm_.liveReferences();
+  const int references = jvm_.heap.liveReferences();
   EXPECT_EQ(setSjisStringField(env_, object_, "name", bytes, 16), 0);
-  EXPECT_EQ(jvm_.liveReferences(), references);
+  EXPECT_EQ(jvm_.heap.liveReferences(), references);
   EXPECT_EQ(jvm_.textOf(object_, "name"), "ABC");
   EXPECT_EQ(setSjisStringField(env_, object_, "name", bytes, 3), 2817);
   EXPECT_EQ(jvm_.pending()->className, "java/lang/StringIndexOutOfBoundsException");
@@ -128,7 +129,7 @@ TEST_F(Toolkit, TextsAreCutTerminatedAndZeroFilled) {
     EXPECT_EQ(copyJavaStringToBuffer(env_, text, buffer.data(), 6), 2817);
     EXPECT_EQ(std::string(buffer.data(), 6), std::string("\0#####", 6));
   }
-  jvm_.failCall(jvm_.fallibleCalls() + 1);
+  jvm_.failingCall = jvm_.fallibleCalls + 1;
   EXPECT_EQ(copyJavaStringToBuffer(env_, jvm_.newText("ab"), buffer.data(), 6), 2817);
   EXPECT_EQ(std::string(buffer.data(), 6), std::string("\0#####", 6));
 }
@@ -170,22 +171,11 @@ TEST_F(Toolkit, StringArraysStopAtANullAndAtTheCapacity) {
             (std::vector<jint>{-1, 5}));
 }
 
-TEST_F(Toolkit, FixedRegionsOfShortArraysFail) {
-  std::array<std::int32_t, 4> ints{};
-  jvm_.setObject(object_, "list", "[I", jvm_.newInts({1, 2, 3}));
-  EXPECT_EQ(getIntArrayField(env_, object_, "list", ints.data(), 3), 0);
-  EXPECT_EQ(ints[2], 3);
-  EXPECT_EQ(getIntArrayField(env_, object_, "list", ints.data(), 4), 2817);
-  EXPECT_EQ(jvm_.pending()->className, "java/lang/ArrayIndexOutOfBoundsException");
-  jvm_.profile.objects = 1;
-  EXPECT_EQ(getIntMatrixField(env_, object_, "matrix", ints.data(), 2, 2), 2817);
-}
-
 TEST_F(Toolkit, NothingToDo) {
   EXPECT_EQ(getStringField(env_, object_, "text", nullptr, 0), 0);
   deleteLocalRef(env_, nullptr);
   deleteLocalRef(nullptr, object_);
-  EXPECT_EQ(jvm_.misuses(), 0);
+  EXPECT_EQ(jvm_.heap.misuses(), 0);
   const auto rows = env_->NewObjectArray(2, env_->FindClass("[B"), nullptr);
   jvm_.setObject(object_, "rows", "[[B", rows);
   std::array<std::byte, 4> bytes{};
@@ -212,14 +202,14 @@ TEST_F(Toolkit, EachFailureEndsAnOperationThatHoldsNothing) {
        }},
   };
   for (const auto& [name, operation] : operations) {
-    const int before = jvm_.fallibleCalls();
+    const int before = jvm_.fallibleCalls;
     resetTestRuntime();
     EXPECT_EQ(operation(env_, object_), 0) << name;
-    const int calls = jvm_.fallibleCalls() - before;
+    const int calls = jvm_.fallibleCalls - before;
     const int allocations = testRuntime().allocations;
     for (int call = 1; call <= calls + allocations; ++call) {
       jvm_.clearPending();
-      jvm_.failCall(call <= calls ? jvm_.fallibleCalls() + call : 0);
+      jvm_.failingCall = call <= calls ? jvm_.fallibleCalls + call : 0;
       resetTestRuntime(std::max(0, call - calls));
       EXPECT_EQ(operation(env_, object_), 2817) << name << ", failure " << call;
       EXPECT_EQ(testRuntime().liveRecords, 0) << name << ", failure " << call;
@@ -229,10 +219,10 @@ TEST_F(Toolkit, EachFailureEndsAnOperationThatHoldsNothing) {
 }
 
 TEST_F(Toolkit, MatricesEndAtAMissingRow) {
-  std::array<std::int32_t, 4> ints{9, 9, 9, 9};
-  const int references = jvm_.liveReferences();
+  std::array<std::int32_t, 4> ints{};
+  const int references = jvm_.heap.liveReferences();
   EXPECT_EQ(getIntMatrixField(env_, object_, "matrix", ints.data(), 2, 2), 0);
-  EXPECT_EQ(jvm_.liveReferences(), references);
+  EXPECT_EQ(jvm_.heap.liveReferences(), references);
   const jobjectArray rows = newObjectArrayByName(env_, "[I", 3);
   env_->SetObjectArrayElement(rows, 0, jvm_.newInts({1, 2}));
   env_->SetObjectArrayElement(rows, 2, jvm_.newInts({3, 4}));
@@ -241,6 +231,8 @@ TEST_F(Toolkit, MatricesEndAtAMissingRow) {
   EXPECT_EQ(getIntMatrixField(env_, object_, "matrix", ints.data(), 3, 1), 2817);
   EXPECT_EQ(ints, (std::array<std::int32_t, 4>{1, 9, 9, 9}));
   EXPECT_FALSE(jvm_.pending());
+  EXPECT_EQ(getIntMatrixField(env_, object_, "matrix", ints.data(), 1, 3), 2817);
+  EXPECT_EQ(jvm_.pending()->className, "java/lang/ArrayIndexOutOfBoundsException");
 }
 
 }  // namespace

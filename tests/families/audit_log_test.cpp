@@ -12,8 +12,6 @@ TEST_F(AuditLog, Records) {
                       at("12:auditlog_server.server[0] 56:auditlog_server.server[1]",
                          "0:int32 server_used; 4:text40 ip_address") +
                       "100:int32 auditlog_internallog.internallog_used");
-  EXPECT_EQ(get(information("QV_GetQVAuditLogInformation"), "auditlog_server.server"),
-            "QVAuditLogSyslogServer[2]");
   expectRequest("QV_InitQVAuditLog", "AuditLogInitRequest", 4, "0:int32 set_valid");
   expectPassed("QV_QVAuditLogExport usp");
 }

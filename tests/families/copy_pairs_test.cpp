@@ -226,14 +226,5 @@ TEST_F(CopyPairs, IncompleteRequestsReachTheLibraryAsFarAsTheyWereRead) {
   EXPECT_EQ(quorvelSimCallCount(method), 3);
 }
 
-TEST_F(CopyPairs, RequestsBeyondTheRecordAreLeftOut) {
-  const jobject request =
-      create("LuMigrationRequest", "lu[4095].pvol_lun=1; lu[4094].copying_pace=77");
-  quorvelSimForceResult("QV_ChangeCopyPace", 0, 1);
-  update("QV_ChangeCopyPace", request);
-  EXPECT_EQ(lastInput("QV_ChangeCopyPace", 2).size(), 49148U);
-  EXPECT_EQ(lastInt("QV_ChangeCopyPace", 2, 49144), 77);
-}
-
 }  // namespace
 }  // namespace quorvelj::testing

@@ -59,8 +59,6 @@ TEST_F(DrivesAndParts, SettingRecords) {
 
   update("QV_SetDiskDriveRestoration", create("DiskDriveRestoration", "sparemode=2"));
   expectFields(information("QV_GetDiskDriveRestoration"), "sparemode=2; interval=0");
-  const jobject leds = create("LocateLEDInformation", "unit#=59");
-  expectTooShort("QV_SetLocateLEDInformation", {unit_, session_, leds});
 }
 
 TEST_F(DrivesAndParts, PartRecords) {
@@ -112,27 +110,6 @@ TEST_F(DrivesAndParts, PowerSavingAndPinnedDataRecords) {
   expectPassedAndReturned("QV_GetPinInfo ui; QV_GetPinInfoGetTime ui");
 }
 
-TEST_F(DrivesAndParts, ArraysHaveTheirFullLength) {
-  expectFields(information("QV_GetDriveInformationAll"), "=DiskDriveInformation[450]");
-  expectFields(information("QV_GetDriveStatus"), "=DiskDrive[450]");
-  expectFields(information("QV_GetDiskDriveInformationAll"),
-               "unit=DiskDriveUnitInfo[60]; unit[40].drives=DiskDriveInformation[30]");
-  expectFields(information("QV_GetDiskDriveStatusAll"),
-               "unit=DiskDriveStatusUnit[60]; unit[1].drives=DiskDrive[30]");
-  expectFields(information("QV_GetPartsList"),
-               "drive[59]=VendorInfo[30]; connector[1][7]=VendorInfo[2]; unit=VendorInfo[61]; "
-               "enc[60]=VendorInfo[2]");
-  expectFields(information("QV_GetObstPartsInformation"), "parts=ObstPartsInfo[1194]");
-  expectFields(information("QV_GetENCStatusList"),
-               "unit=ENCUnitStatus[64]; download_rev.ext_rev_plus=ENCRevision[1]");
-  expectFields(information("QV_GetSpinDownUpInformation"),
-               "rg=SpinDownUpRGInfo[200]; lu=SpinDownUpLuInfo[8192]");
-  expectFields(
-      information("QV_GetIntegrationPinInfo"),
-      "single_lu_detail=PINInfoDetail[8192]; unite_lu_detail=PINInfoDetail[8192]; unite_lu#=8192");
-  expectFields(information("QV_GetLocateLEDInformation"), "unit#=60");
-}
-
 TEST_F(DrivesAndParts, PartsAreWrittenToAFile) {
   const std::string path = temporary("parts.csv");
   update("QV_PartsListExport", path);
@@ -142,13 +119,6 @@ TEST_F(DrivesAndParts, PartsAreWrittenToAFile) {
   EXPECT_EQ(std::count(written.begin(), written.end(), '\n'), 27);
   run("QV_PartsListExport", "/nowhere/" + std::string(2000, 'x'));
   EXPECT_EQ(lastText("QV_PartsListExport", 2).size(), 1023U);
-}
-
-TEST_F(DrivesAndParts, OnlyTheFlatStatusTakesNoName) {
-  EXPECT_EQ(call("QV_GetDriveStatus", {nullptr, session_}).failure, "DiskArrayException 20001");
-  EXPECT_EQ(lastText("QV_GetDriveStatus", 0), "");
-  EXPECT_EQ(call("QV_GetDriveInformationAll", {nullptr, session_}).failure,
-            "DiskArrayException 258");
 }
 
 }  // namespace

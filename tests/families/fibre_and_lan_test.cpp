@@ -83,8 +83,7 @@ TEST_F(FibreAndLan, ResultRecords) {
 
 TEST_F(FibreAndLan, RequestRecords) {
   expectRequest("QV_SetLANInformation", "LANInformation", 80, kLan, {1, 7});
-  const jobject both = create("LANInformationEx");
-  expectRead("QV_SetLANInformationEx", {unit_, both}, both, 1, 144, kLanEx);
+  expectRequest("QV_SetLANInformationEx", "LANInformationEx", 144, kLanEx);
   expectRequest("QV_SetLANPortNumber", "LANPortNumber", 40, kPortNumbers, {-1});
   expectRequest("QV_LANExport", "LANFile", 264, "0:text256 filename");
   expectRequest("QV_LANImport", "LANFile", 264, "0:text256 filename");
@@ -122,10 +121,6 @@ TEST_F(FibreAndLan, ImportedPermissions) {
   EXPECT_EQ(lastInt(method, 2), 7);
   const jobject permissions = call(method, {unit_, text("hosts.txt"), number(7)}).result;
   expectFields(permissions, "=FibreInformationPermission[128]; [1].node_name=1000000000000001");
-  // Null texts reach the library as empty ones.
-  EXPECT_EQ(call(method, {nullptr, text("hosts.txt"), number(7)}).failure,
-            "DiskArrayException 20001");
-  EXPECT_EQ(call(method, {unit_, nullptr, number(7)}).failure, "DiskArrayException 20004");
 }
 
 }  // namespace

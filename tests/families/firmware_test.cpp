@@ -21,11 +21,6 @@ TEST_F(Firmware, Arguments) {
       "QV_MicroFileConcat uspi; QV_GetMicroDownloadCount u; QV_GetMicroDownloadCountEx ui; "
       "QV_GetMicroDownloadCountEx2 uip; QV_ENCMicroDownload usii; QV_GetENCMicroDownloadCount us; "
       "QV_GetNNCBiosDownloadCount");
-
-  const std::string path(1500, 'p');
-  run("QV_MicroFileConcatEx2", path, path.substr(0, 1023));
-  EXPECT_EQ(lastText("QV_MicroFileConcatEx2", 2), path.substr(0, 1023));
-  EXPECT_EQ(lastText("QV_MicroFileConcatEx2", 3), path.substr(0, 1023));
 }
 
 TEST_F(Firmware, Records) {

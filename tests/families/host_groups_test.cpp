@@ -149,8 +149,7 @@ TEST_F(HostGroups, WorldWideNamesAndTargets) {
   expectBuilt("QV_GetWWNInformation", {unit_}, 297060, wwn);
   expectGetAndSet("WWNHGInformation", "WWNHGInformation", 155780,
                   "0:int32 lun_manage; visited ctl");
-  const jobject names = create("WWNInformation");
-  expectRead("QV_SetWWNInformation", {unit_, names}, names, 1, 297060, wwn);
+  expectRequest("QV_SetWWNInformation", "WWNInformation", 297060, wwn);
 
   const Members target =
       "0:int32 ctrl_flag target_id_mode target_config.single target_config.multi[0]; 72:int32 "
@@ -161,42 +160,7 @@ TEST_F(HostGroups, WorldWideNamesAndTargets) {
   expectBuilt("QV_TargetIdImport", {unit_, text("file")}, 16536, targets);
   expectBuilt("QV_WZTargetIdImport", {unit_, text("first"), text("second")}, 16536,
               at("0:[0] 8268:[1]", "0:int32 ctrl_flag target_id_mode; visited target_config"));
-  const jobject id = create("TargetId");
-  expectRead("QV_SetTargetId", {unit_, number(1), id}, id, 2, 8268, target);
-  EXPECT_EQ(lastInt("QV_SetTargetId", 1), 1);
-
-  const std::string path(1100, 'p');
-  call("QV_WZTargetIdImport", {unit_, text(path), text("second")});
-  EXPECT_EQ(lastText("QV_WZTargetIdImport", 1), std::string(1023, 'p'));
-  EXPECT_EQ(lastText("QV_WZTargetIdImport", 2), "second");
-  call("QV_TargetIdImport", {unit_, text(path)});
-  EXPECT_EQ(lastText("QV_TargetIdImport", 1), std::string(1023, 'p'));
-}
-
-TEST_F(HostGroups, ClassesOfUnknownFieldsAreBuilt) {
-  expectFields(information("QV_GetHGOptionAll"),
-               "support_index=HGOptionValidIndex; valid_index=HGOptionValidIndex");
-  expectFields(information("QV_GetPortOption"),
-               "support_index=PortOptionValidIndex; valid_index=PortOptionValidIndex");
-  expectFields(information("QV_GetHGParameterList"),
-               "platinfo=PlatformInfo[20]; platinfo[19]=PlatformInfo");
-  expectFields(information("QV_GetHGParameterList2"),
-               "platinfo[19].middlewareinfo=MiddlewareInfo[20]; "
-               "platinfo[19].middlewareinfo[19]=MiddlewareInfo");
-  expectFields(
-      information("QV_GetHGParameterID", 0),
-      "platform=PlatFormID[16]; platform[15]=PlatFormID; alternatepath=AlternatePathID[16]; "
-      "alternatepath[15]=AlternatePathID; failover=FailOverID[16]; failover[15]=FailOverID; "
-      "specialmode=SpecialModeID[16]; specialmode[15]=SpecialModeID");
-  expectFields(call("QV_GetWWNInformation", {unit_}).result,
-               "ctl[1].port=WWNPortInfo[8]; ctl[1].port[7]=WWNPortInfo");
-  expectFields(information("QV_GetWWNHGInformation"),
-               "ctl[1].port=WWNHGPortInfo[8]; ctl[1].port[7]=WWNHGPortInfo");
-  expectFields(
-      call("QV_GetTargetId", {unit_, number(0)}).result,
-      "[1].target_config.mapping=TargetLunList[16]; [1].target_config.mapping[15]=TargetLunList");
-  expectFields(call("QV_WZTargetIdImport", {unit_, text("a"), text("b")}).result,
-               "[1].target_config=WZTargetConfig");
+  expectRequest("QV_SetTargetId", "TargetId", 8268, target, {1});
 }
 
 }  // namespace

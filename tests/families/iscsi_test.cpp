@@ -69,11 +69,6 @@ TEST_F(Iscsi, ResultRecords) {
                  "0:int32 option" + at("4:port", kInitiatorPort), {-1, 6});
   expectFromUnit("QV_GetiSCSICHAPUserInformation", 170004,
                  "0:int32 option" + at("4:port", kUserPort), {1, 6});
-  expectFields(information("QV_GetiSCSITargetInformationAll"),
-               "ctl=QViSCSITargetCTLInfo[2]; ctl[0].port=QViSCSITargetPortInfo[8]; "
-               "ctl[0].port[7].target=QViSCSITargetInfo[255]");
-  EXPECT_EQ(get(information("QV_GetiSCSICHAPUserInformationAll"), "ctl[1].port[7].user"),
-            "QViSCSICHAPUserInfo[512]");
 }
 
 TEST_F(Iscsi, RequestRecords) {

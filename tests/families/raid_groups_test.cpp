@@ -28,13 +28,9 @@ TEST_F(RaidGroups, Records) {
                  "0:int32 rgnum lumaxcapa lumaxcapa_h lumaxcapa_l area_count" +
                      at("20:area[0] 163860:area[8192]", kArea),
                  {-1});
-  for (const char* const method : {"QV_RaidGroupAdd", "QV_RaidGroupExpand"}) {
-    const jobject group = create("RaidGroup");
-    expectRead(method, {unit_, group}, group, 1, 56, kRaidGroup);
-    EXPECT_EQ(lastText(method, 0), "north");
-  }
-  expectRequest("QV_CreateRaidGroup", "CreateRaidGroup", 14428, kRequest);
-  expectRequest("QV_GetRaidGroupCreationCapacity", "CreateRaidGroup", 14428, kRequest);
+  expectRequest("QV_RaidGroupAdd QV_RaidGroupExpand", "RaidGroup", 56, kRaidGroup);
+  expectRequest("QV_CreateRaidGroup QV_GetRaidGroupCreationCapacity", "CreateRaidGroup", 14428,
+                kRequest);
   expectBuilt("QV_GetRaidGroupCreationCapacity", {unit_, session_, create("CreateRaidGroup")}, 56,
               kRgDetail);
   expectPassed("QV_GetRaidGroups u; QV_RaidGroupDelete usi; QV_RaidGroupAllDelete us");

@@ -8,6 +8,7 @@
 #include <iterator>
 #include <map>
 
+#include "tests/support/native_methods.h"
 #include "tests/support/split.h"
 
 namespace quorvelj::testing {
@@ -52,7 +53,7 @@ std::int32_t RegisteredUnit::lastInt(const char* function, int parameter, std::s
 
 void RegisteredUnit::expectFromUnit(const char* method, std::size_t size, const Members& members,
                                     const std::vector<int>& ints) {
-  expectBuilt(method, inSession(session_, ints), size, members);
+  expectBuilt(method, argumentsOf(method, ints, session_, nullptr), size, members);
   EXPECT_EQ(lastInput(method, 1).substr(31), "Z") << method;
   expectUnitAndInts(method, ints);
 }
@@ -60,11 +61,13 @@ void RegisteredUnit::expectFromUnit(const char* method, std::size_t size, const 
 void RegisteredUnit::expectRequest(const char* method, jobject object, std::size_t size,
                                    const Members& members, const std::vector<int>& ints) {
   const jobject session = create("QVSessionInfo");
-  std::vector<jobject> arguments = inSession(session, ints);
-  arguments.push_back(object);
-  const int place = 2 + static_cast<int>(ints.size());
-  expectRead(method, arguments, object, place, size, members);
-  expectRead(method, arguments, session, 1, 32, "0:bytes32 session_id");
+  const std::vector<jobject> arguments = argumentsOf(method, ints, session, object);
+  const auto place = std::find(arguments.begin(), arguments.end(), object) - arguments.begin();
+  expectRead(method, arguments, object, static_cast<int>(place), size, members);
+  if (std::find(arguments.begin(), arguments.end(), session) != arguments.end()) {
+    expectRead(method, arguments, session, 1, 32, "0:bytes32 session_id");
+    EXPECT_EQ(lastInput(method, 0).size(), 65U) << method;
+  }
   expectUnitAndInts(method, ints);
 }
 
@@ -165,19 +168,29 @@ std::string RegisteredUnit::contentOf(const std::string& path) {
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
-std::vector<jobject> RegisteredUnit::inSession(jobject session, const std::vector<int>& ints) {
-  std::vector<jobject> arguments{unit_, session};
-  for (const int value : ints) {
-    arguments.push_back(number(value));
+std::vector<jobject> RegisteredUnit::argumentsOf(const char* method, const std::vector<int>& ints,
+                                                 jobject session, jobject object) {
+  std::vector<jobject> arguments;
+  auto next = ints.begin();
+  for (const std::string& type : nativeMethod(method).argumentTypes()) {
+    arguments.push_back(type == "I"                      ? number(*next++)
+                        : type == "Ljava/lang/String;"   ? unit_
+                        : type.ends_with("SessionInfo;") ? session
+                                                         : object);
   }
   return arguments;
 }
 
 void RegisteredUnit::expectUnitAndInts(const char* method, const std::vector<int>& ints) {
-  EXPECT_EQ(lastInput(method, 0).size(), 65U) << method;
-  EXPECT_EQ(lastText(method, 0), "north") << method;
-  for (std::size_t index = 0; index < ints.size(); ++index) {
-    EXPECT_EQ(lastInt(method, 2 + static_cast<int>(index)), ints[index]) << method;
+  auto next = ints.begin();
+  int place = 0;
+  for (const std::string& type : nativeMethod(method).argumentTypes()) {
+    if (type == "I") {
+      EXPECT_EQ(lastInt(method, place), *next++) << method;
+    } else if (type == "Ljava/lang/String;") {
+      EXPECT_EQ(lastText(method, place), "north") << method;
+    }
+    ++place;
   }
 }
 

@@ -46,11 +46,11 @@ class RegisteredUnit : public ::testing::Test {
   /// An int in it at an offset, or the int itself.
   static std::int32_t lastInt(const char* function, int parameter, std::size_t offset = 0);
 
-  /// `expectBuilt` of a query by unit, session and ints, which reach the library in this order.
+  /// `expectBuilt` of a query by unit, session and ints, which reach the library as they are.
   void expectFromUnit(const char* method, std::size_t size, const Members& members,
                       const std::vector<int>& ints = {});
-  /// `expectRead` of an update by unit, session, ints and an object, which reach the library in
-  /// this order.
+  /// `expectRead` of a method that takes one object besides unit, session and ints, any of which
+  /// may be missing, and which reach the library as they are.
   void expectRequest(const char* method, jobject object, std::size_t size, const Members& members,
                      const std::vector<int>& ints = {});
   /// The same of several methods, parted by spaces, that take a class.
@@ -91,7 +91,8 @@ class RegisteredUnit : public ::testing::Test {
   static jobject argument(int value) { return number(value); }
   static jobject argument(const std::string& value) { return text(value); }
 
-  std::vector<jobject> inSession(jobject session, const std::vector<int>& ints);
+  std::vector<jobject> argumentsOf(const char* method, const std::vector<int>& ints,
+                                   jobject session, jobject object);
   Called callWithKinds(const std::string& listed, const char* failure = "");
   static void expectUnitAndInts(const char* method, const std::vector<int>& ints);
 

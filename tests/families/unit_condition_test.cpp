@@ -42,8 +42,8 @@ TEST_F(UnitCondition, Records) {
       {9});
 
   const jobject request = create("ArrayConditionRequest");
-  expectRead("QV_GetArrayCondition", {unit_, request}, request, 1, 552,
-             "0:int32 login_request; 4:text257 user_id passwd; 518:bytes32 session.session_id");
+  expectRequest("QV_GetArrayCondition", request, 552,
+                "0:int32 login_request; 4:text257 user_id passwd; 518:bytes32 session.session_id");
   expectBuilt("QV_GetArrayCondition", {unit_, request}, 100,
               "0:int32 login_kind valid_index login_result operation_auth[0]; 44:int32 "
               "operation_auth[8] alert_valid alert[0] alert[1] alert_sa lu_count all_lu_capa_h "
@@ -51,14 +51,9 @@ TEST_F(UnitCondition, Records) {
               "drive_count all_drive_capa_h all_drive_capa_l");
 }
 
-TEST_F(UnitCondition, ArraysHaveTheirFullLength) {
-  const jobject condition = information("QV_GetUnitCondition", 0);
-  // The device type is 201 in the registration, as an unsigned byte.
-  expectFields(condition,
-               "cache=CacheStatus[4]; cache2=CacheStatus[4]; nnc_parts=NNCPartsStatus[4]; "
-               "nnc_parts[2].ext_slot=NNCExtensionSlotStatus[4]; ctl0_ip=192.0.2.10; "
-               "device_type=-55; ps#=122; fan#=244; enclosure#=122; unit_type#=61; unit_kind#=61; "
-               "if_board[1]#=2; function_revision#=128; sa_repair_inst_req#=3; nnc#=4");
+// The device type is 201 in the registration, as an unsigned byte.
+TEST_F(UnitCondition, OfARegisteredUnit) {
+  expectFields(information("QV_GetUnitCondition", 0), "ctl0_ip=192.0.2.10; device_type=-55");
 }
 
 TEST_F(UnitCondition, SummaryForAUser) {

@@ -18,17 +18,12 @@ TEST_F(UnitRegistration, Records) {
       "device_type; 85:int8 unit_conf alert; 87:text256 ctl0 ctl1; 599:text9 serial; 608:int32 "
       "ssl_used";
   expectBuilt("QV_GetUnitParam", {unit_}, 612, unitParam);
-  const jobject param = create("QVUnitParam");
-  for (const char* const method : {"QV_UnitAdd", "QV_UnitAddByIP"}) {
-    expectRead(method, {param}, param, 0, 612, unitParam);
-  }
-  for (const char* const method : {"QV_UnitChange", "QV_UnitChangeByIP"}) {
-    expectRead(method, {unit_, param}, param, 1, 612, unitParam);
-  }
+  expectRequest("QV_UnitAdd QV_UnitAddByIP QV_UnitChange QV_UnitChangeByIP", "QVUnitParam", 612,
+                unitParam);
   const Members request = "0:uint8 connect_type; 1:text256 ip_dev";
   const jobject discovery = create("DiscoverUnitRequest");
   for (const char* const method : {"QV_DiscoverUnitInformation", "QV_DiscoverUnitInformationEx"}) {
-    expectRead(method, {discovery}, discovery, 0, 264, request + "260:int32 communication_mode");
+    expectRequest(method, discovery, 264, request + "260:int32 communication_mode");
     expectBuilt(method, {discovery}, 276,
                 request +
                     "257:uint8 qv_type device_type unit_conf ctlno; 261:text11 serial; 272:int32 "
@@ -59,14 +54,6 @@ TEST_F(UnitRegistration, NamesAreCutToTheirBuffer) {
   EXPECT_EQ(lastText("QV_UnitChange", 0), name);
   EXPECT_EQ(call("QV_UnitDelete", {text("")}).failure, "DiskArrayException 20001");
   EXPECT_EQ(lastText("QV_UnitDelete", 0), "");
-  // A character that does not fit whole is cut inside: 63 letters and the first of two bytes.
-  const std::string inside = std::string(63, 'n') + "é";
-  call("QV_UnitDelete", {text(inside)});
-  EXPECT_EQ(lastText("QV_UnitDelete", 0), std::string(63, 'n') + "\xC3");
-  // Java can be given such a text back.
-  EXPECT_EQ(call("QV_UnitAdd", {unit(inside)}).failure, "");
-  const jobject table = call("QV_GetUnitParamTable", {number(2)}).result;
-  expectFields(table, "=QVUnitParam[2]; [0].group_name=");
 }
 
 TEST_F(UnitRegistration, AUnitOfANameAndAnAddress) {
@@ -77,25 +64,11 @@ TEST_F(UnitRegistration, AUnitOfANameAndAnAddress) {
 }
 
 TEST_F(UnitRegistration, ResultsOfTheLibrary) {
-  const auto forced = [](const char* method, int result, const std::vector<jobject>& arguments) {
-    quorvelSimForceResult(method, result, 1);
-    return call(method, arguments);
-  };
-  EXPECT_EQ(forced("QV_GetUnitParam", 65535, {unit_}).failure, "OutOfMemoryError");
-  const Called neverThrown = forced("QV_GetUnitParam", 256, {unit_});
-  EXPECT_EQ(neverThrown.failure, "");
-  EXPECT_EQ(neverThrown.result, nullptr);
-  EXPECT_EQ(get(forced("QV_GetUnitCount", 256, {}).result, ""), "-1");
+  quorvelSimForceResult("QV_GetUnitParam", 65535, 1);
+  EXPECT_EQ(call("QV_GetUnitParam", {unit_}).failure, "OutOfMemoryError");
+  quorvelSimForceResult("QV_GetUnitCount", 256, 1);
+  EXPECT_EQ(get(call("QV_GetUnitCount", {}).result, ""), "-1");
   EXPECT_EQ(call("QV_UnitDelete", {nullptr}).failure, "DiskArrayException 258");
-
-  // Incomplete objects reach the library as far as they were read.
-  const jobject param = unit("south");
-  setNull(param, "group_name");
-  EXPECT_EQ(forced("QV_UnitAdd", 0, {param}).failure, "");
-  EXPECT_EQ(lastText("QV_UnitAdd", 0), "south");
-  const int calls = quorvelSimCallCount("QV_UnitAdd");
-  EXPECT_EQ(forced("QV_UnitAdd", 0, {nullptr}).failure, "");
-  EXPECT_EQ(quorvelSimCallCount("QV_UnitAdd"), calls + 1);
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include "bridge/jni_toolkit.h"
 #include "simulator/control.h"
 #include "tests/support/caller.h"
+#include "tests/support/callers_jvm.h"
 #include "tests/support/native_methods.h"
 
 namespace quorvelj::testing {
@@ -22,20 +23,6 @@ class HotSpot : public ::testing::Test {
     javaEnv()->PopLocalFrame(nullptr);
   }
 
-  /// The pending exception as Java shows it; it is cleared.
-  std::string pending() {
-    const jthrowable thrown = env_->ExceptionOccurred();
-    if (thrown == nullptr) {
-      return "";
-    }
-    env_->ExceptionClear();
-    const jmethodID method =
-        env_->GetMethodID(env_->FindClass("java/lang/Object"), "toString", "()Ljava/lang/String;");
-    const auto shown = static_cast<jstring>(env_->CallObjectMethod(thrown, method));
-    char buffer[256];
-    copyJavaStringToBuffer(env_, shown, buffer, sizeof buffer);
-    return buffer;
-  }
   /// Calls a native method past Java's check of its argument's class.
   void callUnchecked(const char* method, const char* signature, jobject argument) {
     const jclass type = env_->FindClass("tessaly/str/diskarray/DiskArrayUtilityJNI");
@@ -48,13 +35,13 @@ class HotSpot : public ::testing::Test {
 
 TEST_F(HotSpot, MissingClassIsReportedByName) {
   EXPECT_EQ(newObjectByName(env_, "tessaly/str/diskarray/Nothing"), nullptr);
-  EXPECT_EQ(pending(), "java.lang.ClassNotFoundException: tessaly/str/diskarray/Nothing");
+  EXPECT_EQ(takeException()->shown(), "ClassNotFoundException tessaly/str/diskarray/Nothing");
   // A later exception replaces a pending one.
   EXPECT_EQ(newObjectByName(env_, "tessaly/str/diskarray/Nothing"), nullptr);
   throwArrayException(env_, 2817);
-  EXPECT_EQ(pending(),
-            "tessaly.str.diskarray.DiskArrayException: disk array error 2817: the result could not "
-            "be built, since a class is not as expected");
+  EXPECT_EQ(takeException()->message,
+            "disk array error 2817: the result could not be built, since a class is not as "
+            "expected");
 }
 
 TEST_F(HotSpot, ObjectOfAClassWithoutTheFields) {
@@ -62,12 +49,12 @@ TEST_F(HotSpot, ObjectOfAClassWithoutTheFields) {
   const char* const signature = "(Ltessaly/str/diskarray/QVUnitParam;)V";
   const int before = quorvelSimCallCount("QV_UnitAdd");
   callUnchecked("QV_UnitAdd", signature, create("AccountIdentifier"));
-  EXPECT_EQ(pending(),
-            "java.lang.NoSuchFieldError: tessaly.str.diskarray.AccountIdentifier.unit_name "
+  EXPECT_EQ(takeException()->shown(),
+            "NoSuchFieldError tessaly.str.diskarray.AccountIdentifier.unit_name "
             "Ljava/lang/String;");
   // The class has the field with another type.
   callUnchecked("QV_UnitAdd", signature, env_->AllocObject(env_->FindClass("MistypedUnit")));
-  EXPECT_EQ(pending(), "java.lang.NoSuchFieldError: MistypedUnit.unit_name Ljava/lang/String;");
+  EXPECT_EQ(takeException()->shown(), "NoSuchFieldError MistypedUnit.unit_name Ljava/lang/String;");
   EXPECT_EQ(quorvelSimCallCount("QV_UnitAdd"), before + 2);
 }
 
@@ -112,7 +99,7 @@ TEST_F(HotSpot, ShiftJisIsDecoded) {
             0);
   EXPECT_EQ(get(identifier, "user_id"), "テスト");
   EXPECT_EQ(setSjisStringField(env_, identifier, "user_id", "abc", 3), 2817);
-  EXPECT_EQ(pending().substr(0, 45), "java.lang.StringIndexOutOfBoundsException: of");
+  EXPECT_EQ(takeException()->className, "java/lang/StringIndexOutOfBoundsException");
 }
 
 TEST_F(HotSpot, TextCutInsideACharacter) {

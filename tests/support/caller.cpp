@@ -2,12 +2,11 @@
 
 #include <algorithm>
 #include <cctype>
-#include <cstdio>
-#include <cstdlib>
 #include <string_view>
 #include <unordered_map>
 
 #include "tests/support/callers_jvm.h"
+#include "tests/support/fail.h"
 #include "tests/support/java_fields.h"
 #include "tests/support/native_methods.h"
 #include "tests/support/split.h"
@@ -24,11 +23,6 @@ struct Place {
   jsize index;
   std::string signature;
 };
-
-[[noreturn]] void fail(const std::string& message) {
-  std::fprintf(stderr, "%s\n", message.c_str());
-  std::abort();
-}
 
 /// "server[1].ip_address" in its steps: "server", "1", "ip_address".
 std::vector<std::string> stepsOf(const std::string& path) {

@@ -1,12 +1,11 @@
 // A caller in a real JVM of this process, with the Java half and the product's own library on its
 // paths.
 #include <algorithm>
-#include <cstdio>
-#include <cstdlib>
 #include <cstring>
 
 #include "tests/support/caller.h"
 #include "tests/support/callers_jvm.h"
+#include "tests/support/fail.h"
 #include "tests/support/native_methods.h"
 
 namespace quorvelj::testing {
@@ -22,8 +21,7 @@ JNIEnv* start() {
   JavaVM* jvm = nullptr;
   JNIEnv* env = nullptr;
   if (JNI_CreateJavaVM(&jvm, reinterpret_cast<void**>(&env), &arguments) != JNI_OK) {
-    std::fputs("no Java virtual machine could be started\n", stderr);
-    std::abort();
+    fail("no Java virtual machine could be started");
   }
   return env;
 }
@@ -33,7 +31,7 @@ template <class Found>
 Found checked(Found found) {
   if (javaEnv()->ExceptionCheck() == JNI_TRUE) {
     javaEnv()->ExceptionDescribe();
-    std::abort();
+    fail("the test's own call of Java threw");
   }
   return found;
 }
@@ -63,8 +61,7 @@ void checkClass(const std::string& signature, jobject object) {
   const std::string name =
       signature[0] == 'L' ? signature.substr(1, signature.size() - 2) : signature;
   if (javaEnv()->IsInstanceOf(object, classNamed(name.c_str())) == JNI_FALSE) {
-    std::fprintf(stderr, "a %s is not a %s\n", classOf(object).c_str(), name.c_str());
-    std::abort();
+    fail("a " + classOf(object) + " is not a " + name);
   }
 }
 

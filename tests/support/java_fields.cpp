@@ -1,9 +1,8 @@
 #include "tests/support/java_fields.h"
 
-#include <cstdio>
-#include <cstdlib>
 #include <fstream>
 
+#include "tests/support/fail.h"
 #include "tests/support/split.h"
 
 namespace quorvelj::testing {
@@ -21,8 +20,7 @@ std::vector<JavaField> readFields() {
     fields.push_back(field);
   }
   if (fields.empty()) {
-    std::fputs("no list of fields: " QUORVELJ_FIELD_LIST "\n", stderr);
-    std::abort();
+    fail("no list of fields: " QUORVELJ_FIELD_LIST);
   }
   return fields;
 }

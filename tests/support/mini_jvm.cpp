@@ -1,9 +1,6 @@
 #include "tests/support/mini_jvm.h"
 
-#include <cstdio>
-#include <cstdlib>
-
-#include "tests/support/mini_jvm/heap.h"
+#include "tests/support/fail.h"
 #include "tests/support/mini_jvm/inputs.h"
 #include "tests/support/mini_jvm/jni_table.h"
 
@@ -14,41 +11,29 @@ namespace {
 const mini::Slot& filled(mini::Object* object, const char* name) {
   const mini::Slot* const slot = object == nullptr ? nullptr : object->findSet(name);
   if (slot == nullptr) {
-    std::fprintf(stderr, "no field %s was set\n", name);
-    std::abort();
+    fail(std::string("no field was set: ") + name);
   }
   return *slot;
 }
 
-/// Without the space that a trace puts behind it.
-std::string nameOf(std::string function) {
-  function.resize(function.find_last_not_of(' ') + 1);
-  return function;
-}
-
 }  // namespace
 
-MiniJvm::MiniJvm() : jni_(std::make_unique<mini::JniTable>(profile)) {}
-MiniJvm::~MiniJvm() = default;
-
-JNIEnv* MiniJvm::env() { return &jni_->env.env; }
-mini::Heap& MiniJvm::heap() { return jni_->heap; }
-const mini::Heap& MiniJvm::heap() const { return jni_->heap; }
+MiniJvm::MiniJvm() : env_{{&mini::jniTable()}, this} {}
 
 void MiniJvm::declare(const std::vector<JavaField>& fields) {
   for (const JavaField& field : fields) {
-    heap().declareField(field.className, field.name, field.signature, field.made);
+    heap.declareField(field.className, field.name, field.signature, field.made);
   }
 }
 
-std::string MiniJvm::classOf(jobject object) { return heap().resolve(object)->type->name; }
+std::string MiniJvm::classOf(jobject object) { return heap.resolve(object)->type->name; }
 
 jstring MiniJvm::newText(const std::string& text) {
-  return static_cast<jstring>(heap().refer(heap().make("java/lang/String", text)));
+  return static_cast<jstring>(heap.refer(heap.make("java/lang/String", text)));
 }
 
 jobject MiniJvm::newInput(const std::string& signature) {
-  return heap().refer(mini::makeInput(heap(), profile, signature));
+  return heap.refer(mini::makeInput(heap, profile, signature));
 }
 
 std::vector<jvalue> MiniJvm::newArguments(const NativeMethod& method) {
@@ -58,96 +43,53 @@ std::vector<jvalue> MiniJvm::newArguments(const NativeMethod& method) {
     if (type == "I") {
       value.i = profile.random != nullptr ? profile.random->number() : 3;
     } else {
-      value.l = heap().refer(mini::makeInput(heap(), profile, type));
+      value.l = heap.refer(mini::makeInput(heap, profile, type));
     }
   }
   return arguments;
 }
 
 jintArray MiniJvm::newInts(const std::vector<jint>& values) {
-  return static_cast<jintArray>(heap().refer(heap().make("[I", values)));
+  return static_cast<jintArray>(heap.refer(heap.make("[I", values)));
 }
 
 void MiniJvm::setObject(jobject object, const char* name, const char* signature, jobject value) {
-  mini::Object* const target = heap().resolve(object);
-  target->slot(*heap().findMember(target->type, name, signature)) = {
-      true, 0, mini::Heap::hold(value == nullptr ? nullptr : heap().resolve(value))};
+  mini::Object* const target = heap.resolve(object);
+  target->slot(*heap.findMember(target->type, name, signature)) = {
+      true, 0, mini::Heap::hold(value == nullptr ? nullptr : heap.resolve(value))};
 }
 
 jint MiniJvm::intOf(jobject object, const char* name) {
-  return filled(heap().resolve(object), name).number;
+  return filled(heap.resolve(object), name).number;
 }
 jobject MiniJvm::objectOf(jobject object, const char* name) {
-  return heap().refer(filled(heap().resolve(object), name).object);
+  return heap.refer(filled(heap.resolve(object), name).object);
 }
 std::string MiniJvm::textOf(jobject object, const char* name) {
-  return *filled(heap().resolve(object), name).object->text();
+  return *filled(heap.resolve(object), name).object->text();
 }
-std::string MiniJvm::textOf(jstring text) { return *heap().resolve(text)->text(); }
+std::string MiniJvm::textOf(jstring text) { return *heap.resolve(text)->text(); }
 std::vector<jint> MiniJvm::intsOf(jobject array) {
-  return *heap().resolve(array)->get<std::vector<jint>>();
+  return *heap.resolve(array)->get<std::vector<jint>>();
 }
 std::vector<jbyte> MiniJvm::bytesOf(jobject array) {
-  return *heap().resolve(array)->get<std::vector<jbyte>>();
+  return *heap.resolve(array)->get<std::vector<jbyte>>();
 }
 std::vector<jobject> MiniJvm::elementsOf(jobject array) {
   std::vector<jobject> elements;
-  for (mini::Object* const element : *heap().resolve(array)->elements()) {
-    elements.push_back(heap().refer(element));
+  for (mini::Object* const element : *heap.resolve(array)->elements()) {
+    elements.push_back(heap.refer(element));
   }
   return elements;
 }
 
-void MiniJvm::removeClass(const std::string& name) { heap().remove(name); }
-void MiniJvm::removeField(const std::string& name) { heap().remove(name); }
-
-void MiniJvm::failCall(int call) { jni_->failingCall = call; }
-std::string MiniJvm::failedFunction() const { return nameOf(jni_->failedFunction); }
-int MiniJvm::fallibleCalls() const { return jni_->fallibleCalls; }
-int MiniJvm::calls() const { return jni_->calls; }
-int MiniJvm::callsUnderException() const { return jni_->callsUnderException; }
-const char* MiniJvm::deepestFrame() const { return jni_->deepestFrame; }
-
-void MiniJvm::forgetResults() { heap().forgetResults(); }
-void MiniJvm::recordCallSites() { jni_->recording = true; }
-
-std::vector<CallSite> MiniJvm::callSites() const {
-  std::vector<CallSite> sites;
-  const auto add = [&](const std::string& className, const std::string& field,
-                       const mini::CallList& list) {
-    for (const mini::Calls& calls : list) {
-      std::string function = nameOf(calls.function);
-      for (int depth = 0; depth < calls.depth; ++depth) {
-        function += "[]";
-      }
-      sites.push_back({className, field, function, calls.first,
-                       calls.lastElement == 0 ? calls.last : calls.lastElement});
-    }
-  };
-  for (const auto& [className, type] : heap().classes()) {
-    for (const auto& [key, member] : type->members) {
-      add(className, member->name, member->calls);
-    }
-  }
-  add("", "", heap().unheldCalls());
-  add("", "", jni_->unclaimed);
-  return sites;
-}
-
-std::optional<PendingException> MiniJvm::pending() const {
-  mini::Object* const thrown = jni_->pending;
+std::optional<PendingException> MiniJvm::pending() {
   if (thrown == nullptr) {
     return std::nullopt;
   }
   const std::string* const message = thrown->text();
   return PendingException{thrown->type->name, message == nullptr ? "" : *message,
-                          jni_->heap.codeOf(thrown).number};
+                          heap.codeOf(thrown).number};
 }
-void MiniJvm::clearPending() { jni_->pending = nullptr; }
-
-int MiniJvm::liveReferences() const { return heap().liveReferences(); }
-int MiniJvm::mostReferences() const { return heap().mostReferences(); }
-int MiniJvm::unreleased() const { return jni_->unreleased; }
-int MiniJvm::misuses() const { return heap().misuses(); }
 
 }  // namespace quorvelj::testing

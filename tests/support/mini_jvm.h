@@ -3,20 +3,20 @@
 #include <jni.h>
 
 #include <cstddef>
-#include <memory>
+#include <cstdint>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "tests/support/java_fields.h"
+#include "tests/support/mini_jvm/heap.h"
 #include "tests/support/native_methods.h"
 #include "tests/support/pending_exception.h"
 
 namespace quorvelj::testing {
 
 namespace mini {
-class Heap;
-struct JniTable;
 class RandomInputs;
 }  // namespace mini
 
@@ -29,28 +29,18 @@ struct InputProfile {
   mini::RandomInputs* random = nullptr;
 };
 
-/// A JNI function that is called for a field, or for no field by the method itself.
-struct CallSite {
-  std::string className;  // "" without a field
-  std::string field;
-  std::string function;  // with "[]" for every array of the field's value around it
-  /// The numbers, among the calls that can fail, of its first call and of its last: that for the
-  /// last element of the first array that holds the field's object, if any does.
-  int first;
-  int last;
-};
-
 /// A Java virtual machine of the JNI functions that the bridge may use, over objects in memory. A
 /// class, a field or a method comes into being when native code asks for it. Any other JNI function
 /// ends the process.
 class MiniJvm {
  public:
   MiniJvm();
-  ~MiniJvm();
   MiniJvm(const MiniJvm&) = delete;
   MiniJvm& operator=(const MiniJvm&) = delete;
 
-  JNIEnv* env();
+  JNIEnv* env() { return &env_.env; }
+  /// The one that has this environment.
+  static MiniJvm& of(JNIEnv* env) { return *reinterpret_cast<Env*>(env)->jvm; }
 
   /// Declares classes: each has these fields and no others.
   void declare(const std::vector<JavaField>& fields);
@@ -76,45 +66,32 @@ class MiniJvm {
   std::vector<jbyte> bytesOf(jobject array);
   std::vector<jobject> elementsOf(jobject array);
 
-  /// Makes a class or every field of a name impossible to find.
-  void removeClass(const std::string& name);
-  void removeField(const std::string& name);
+  std::optional<PendingException> pending();
+  void clearPending() { thrown = nullptr; }
 
-  /// Releases what native code makes and no longer refers to. It saves time and memory in a test
-  /// that does not look at results.
-  void forgetResults();
-
-  /// Lets one JNI call fail: the n-th of those that can, counted from 1. 0 lets none fail.
-  void failCall(int call);
+  /// The JNI call to fail: the n-th of those that can, counted from 1; 0 fails none.
+  int failingCall = 0;
   /// The JNI function that failed so, or "".
-  std::string failedFunction() const;
-  /// The JNI calls so far that could have failed.
-  int fallibleCalls() const;
-  /// All JNI calls so far, and those that JNI forbids while an exception is pending.
-  int calls() const;
-  int callsUnderException() const;
-  /// The address of the deepest frame of a JNI function so far.
-  const char* deepestFrame() const;
-
-  /// From now on finds out for which field each call is made.
-  void recordCallSites();
-  std::vector<CallSite> callSites() const;
-
-  std::optional<PendingException> pending() const;
-  void clearPending();
-  /// Local references that native code made and did not delete, and the most there were at once.
-  int liveReferences() const;
-  int mostReferences() const;
-  /// Characters and array elements that were obtained and not released.
-  int unreleased() const;
-  /// References used after their deletion, or of the wrong kind.
-  int misuses() const;
+  std::string failedFunction;
+  /// The JNI calls so far that could have failed, all of them, and those that JNI forbids while an
+  /// exception is pending, as one was.
+  int fallibleCalls = 0;
+  int calls = 0;
+  int callsUnderException = 0;
+  /// The frame of the deepest JNI function so far.
+  const char* deepestFrame = reinterpret_cast<const char*>(UINTPTR_MAX);
+  /// Characters and array elements that native code obtained and did not release.
+  int unreleased = 0;
+  std::map<const char*, std::vector<char>> characters;
+  mini::Object* thrown = nullptr;
+  mini::Heap heap;
 
  private:
-  mini::Heap& heap();
-  const mini::Heap& heap() const;
-
-  std::unique_ptr<mini::JniTable> jni_;
+  struct Env {
+    JNIEnv env;
+    MiniJvm* jvm;
+  };
+  Env env_;
 };
 
 }  // namespace quorvelj::testing

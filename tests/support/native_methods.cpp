@@ -1,10 +1,10 @@
 #include "tests/support/native_methods.h"
 
 #include <algorithm>
-#include <cstdio>
-#include <cstdlib>
 #include <ostream>
 #include <string_view>
+
+#include "tests/support/fail.h"
 
 namespace quorvelj::testing {
 
@@ -47,8 +47,7 @@ const NativeMethod& nativeMethod(const std::string& name) {
       return method;
     }
   }
-  std::fprintf(stderr, "no native method %s\n", name.c_str());
-  std::abort();
+  fail("no native method " + name);
 }
 
 }  // namespace quorvelj::testing

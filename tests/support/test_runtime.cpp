@@ -8,7 +8,6 @@
 #include <string>
 
 #include "bridge/runtime.h"
-#include "tests/support/recorder.h"
 
 namespace quorvelj::testing {
 namespace {

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
+#include <vector>
 
 namespace quorvelj::testing {
 
@@ -30,5 +32,21 @@ void resetTestRuntime(int refusedAllocation = 0);
 
 /// Leaves bytes on the stack where the next function has its buffers.
 void dirtyStack();
+
+/// The events of one call in the order in which they happened: JNI calls, allocations, releases,
+/// flushes and library calls. Empty unless tracing is on.
+struct Recorder {
+  bool tracing = false;
+  std::vector<std::string> events;
+
+  void add(const std::string& event) {
+    if (tracing) {
+      events.push_back(event);
+    }
+  }
+};
+
+/// The running thread's.
+Recorder& recorder();
 
 }  // namespace quorvelj::testing

@@ -8,12 +8,10 @@
 #include <vector>
 
 #include "arraylib/accounts.h"
-#include "simulator/control.h"
 #include "tests/support/mini_jvm.h"
 #include "tests/support/native_methods.h"
-#include "tests/support/recorder.h"
+#include "tests/support/simulated_library.h"
 #include "tests/support/split.h"
-#include "tests/support/test_runtime.h"
 
 // Calls of native methods on the mini JVM, event by event.
 namespace quorvelj::testing {
@@ -94,17 +92,11 @@ inline Events only(const Events& events, const Events& beginnings) {
 
 /// Tests of native methods. Every library call succeeds and returns zeros, unless a test forces
 /// another result.
-class TracedMethods : public ::testing::Test {
+class TracedMethods : public SimulatedLibrary {
  protected:
   TracedMethods() {
-    quorvelSimReset();
     quorvelSimForceResult("*", 0, 1000);
     quorvelSimObserve([](const char* function) { recorder().add(function); });
-    resetTestRuntime();
-  }
-  ~TracedMethods() override {
-    quorvelSimReset();
-    resetTestRuntime();
   }
 
   /// Texts, inputs, and ints of 3.

@@ -5,9 +5,7 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
-#include <cstdio>
-#include <cstdlib>
-
+#include "tests/support/fail.h"
 #include "tests/support/native_methods.h"
 
 namespace quorvelj::testing {
@@ -16,8 +14,7 @@ namespace {
 HMODULE dll() {
   static const HMODULE module = LoadLibraryA("quorvelj.dll");
   if (module == nullptr) {
-    std::fprintf(stderr, "quorvelj.dll cannot be loaded: error %lu\n", GetLastError());
-    std::abort();
+    fail("quorvelj.dll cannot be loaded: error " + std::to_string(GetLastError()));
   }
   return module;
 }
@@ -88,8 +85,7 @@ NativeMethod exported(const char* name, const char* escaped, const char* signatu
   method.function =
       reinterpret_cast<NativeMethod::AnyFunction>(GetProcAddress(dll(), symbol.c_str()));
   if (method.function == nullptr) {
-    std::fprintf(stderr, "not exported: %s\n", symbol.c_str());
-    std::abort();
+    fail("not exported: " + symbol);
   }
   return method;
 }

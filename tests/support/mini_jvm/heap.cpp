@@ -175,10 +175,6 @@ Object* Heap::makeInitial(const std::string& signature, const std::size_t* lengt
 }
 
 void Heap::recycle(Object* object) {
-  mergeCalls(callsOfRecycled_, object->calls, 0);
-  object->calls.clear();
-  object->holder = nullptr;
-  object->depth = 0;
   object->held = false;
   for (const Slot& slot : object->slots) {
     // Of what native code stored nothing is kept: these are the arrays of the constructor.
@@ -188,26 +184,6 @@ void Heap::recycle(Object* object) {
   }
   object->slots.clear();
   object->type->recycled.push_back(object);
-}
-
-void Heap::endFirstArray(int firstCall) {
-  for (const auto& [name, type] : classes_) {
-    for (const auto& [key, member] : type->members) {
-      for (Calls& calls : member->calls) {
-        if (calls.lastElement == 0 && calls.first >= firstCall && calls.last > calls.first) {
-          calls.lastElement = calls.last;
-        }
-      }
-    }
-  }
-}
-
-CallList Heap::unheldCalls() const {
-  CallList calls = callsOfRecycled_;
-  for (const Object& object : objects_) {
-    mergeCalls(calls, object.calls, 0);
-  }
-  return calls;
 }
 
 jobject Heap::refer(Object* object) {

@@ -13,8 +13,6 @@
 #include <variant>
 #include <vector>
 
-#include "tests/support/mini_jvm/call_sites.h"
-
 // The objects and classes of the mini JVM, and the local references to them.
 namespace quorvelj::testing::mini {
 
@@ -31,10 +29,6 @@ struct Member {
   std::size_t index;
   /// What the constructor makes, if anything: the lengths of arrays, or one number.
   std::vector<std::size_t> made{};
-  /// What the field cost.
-  CallList calls{};
-  /// Held an array before.
-  bool heldArray = false;
 
   [[nodiscard]] bool holdsObject() const { return signature[0] == 'L' || signature[0] == '['; }
 };
@@ -75,12 +69,6 @@ struct Object {
   bool held = false;
   /// Local references to it.
   int references = 0;
-  /// The field that holds it, and how many arrays of that field lie around it; null until it is
-  /// stored or read.
-  Member* holder = nullptr;
-  int depth = 0;
-  /// What it cost while no field held it.
-  CallList calls{};
   std::vector<Slot> slots;
   std::variant<std::monostate, std::string, std::vector<jint>, std::vector<jbyte>,
                std::vector<jshort>, std::vector<Object*>>
@@ -109,9 +97,6 @@ class Heap {
  public:
   /// The class of a name in slash form, which is made at the first request.
   Class* findClass(const char* name);
-  [[nodiscard]] const std::map<std::string, std::unique_ptr<Class>>& classes() const {
-    return classes_;
-  }
   /// The member of a class or of its superclasses, which is made at the first request; null for a
   /// field that a declared class does not have.
   Member* findMember(Class* type, const char* name, const char* signature);
@@ -163,11 +148,6 @@ class Heap {
     }
     return value;
   }
-  /// What the objects that no field holds cost.
-  [[nodiscard]] CallList unheldCalls() const;
-  /// Notes that an array is complete, whose making began with this call.
-  void endFirstArray(int firstCall);
-
   /// The int that java/lang/Integer and DiskArrayException are made with.
   Slot& codeOf(Object* object) { return object->slot(*findMember(object->type, "code", "I")); }
 
@@ -204,7 +184,6 @@ class Heap {
   std::array<Class*, kRecent> recentClasses_{};
   std::array<Member*, kRecent> recentMembers_{};
   bool forgets_ = false;
-  CallList callsOfRecycled_;
   std::vector<std::string> removed_;
   std::deque<Object> objects_;
   std::deque<Reference> references_;

@@ -2,14 +2,14 @@
 
 #include <algorithm>
 #include <cstdarg>
-#include <cstdio>
-#include <cstdlib>
 #include <functional>
+#include <iomanip>
 #include <sstream>
 #include <utility>
 
+#include "tests/support/fail.h"
 #include "tests/support/mini_jvm/inputs.h"
-#include "tests/support/recorder.h"
+#include "tests/support/test_runtime.h"
 
 namespace quorvelj::testing::mini {
 namespace {
@@ -20,18 +20,18 @@ constexpr char kNoMemory[] = "java/lang/OutOfMemoryError";
 /// The elements of an array in the names of JNI's functions.
 template <class Element>
 struct Region {
-  static constexpr char kGet[] = "GetIntArrayRegion ";
-  static constexpr char kSet[] = "SetIntArrayRegion ";
+  static constexpr char kGet[] = "GetIntArrayRegion";
+  static constexpr char kSet[] = "SetIntArrayRegion";
 };
 template <>
 struct Region<jshort> {
-  static constexpr char kGet[] = "GetShortArrayRegion ";
-  static constexpr char kSet[] = "SetShortArrayRegion ";
+  static constexpr char kGet[] = "GetShortArrayRegion";
+  static constexpr char kSet[] = "SetShortArrayRegion";
 };
 template <>
 struct Region<jbyte> {
-  static constexpr char kGet[] = "GetByteArrayRegion ";
-  static constexpr char kSet[] = "SetByteArrayRegion ";
+  static constexpr char kGet[] = "GetByteArrayRegion";
+  static constexpr char kSet[] = "SetByteArrayRegion";
 };
 
 template <class Pointer>
@@ -40,20 +40,22 @@ Pointer as(jobject reference) {
 }
 
 [[noreturn]] void JNICALL unlisted() {
-  std::fputs("a JNI function that the bridge must not use was called\n", stderr);
-  std::abort();
+  fail("a JNI function that the bridge must not use was called");
 }
 
-JniTable& tableOf(JNIEnv* env) { return *reinterpret_cast<JniTable::Env*>(env)->table; }
-
-/// Notes how deep the stack of native code is, from the JNI function that it called.
-[[gnu::always_inline]] inline void noteStack(JNIEnv* env) {
-  const auto* const frame = static_cast<const char*>(__builtin_frame_address(0));
-  const char*& deepest = tableOf(env).deepestFrame;
-  if (std::less<>()(frame, deepest)) {
-    deepest = frame;
+/// The JNI function that does its work by `Function`, on the JVM of its environment.
+template <auto Function>
+struct Entry;
+template <class Result, class... Argument, Result (*Function)(MiniJvm&, Argument...)>
+struct Entry<Function> {
+  static Result JNICALL call(JNIEnv* env, Argument... arguments) {
+    MiniJvm& jvm = MiniJvm::of(env);
+    // The frame tells how deep the stack of native code is.
+    const auto* const frame = static_cast<const char*>(__builtin_frame_address(0));
+    jvm.deepestFrame = std::min(jvm.deepestFrame, frame, std::less<>());
+    return Function(jvm, arguments...);
   }
-}
+};
 
 /// Any of these may be called while an exception is pending: ExceptionOccurred, DeleteLocalRef, and
 /// the functions that release.
@@ -61,481 +63,342 @@ bool allowedUnderException(const char* call) {
   return *call == 'E' || *call == 'D' || *call == 'R';
 }
 
-}  // namespace
-
+/// Enters a JNI call: counts and traces it. True where the call must fail.
 template <class... Detail>
-bool JniTable::enter(bool fallible, const char* call, const Detail&... detail) {
-  ++calls;
-  if (pending != nullptr && !allowedUnderException(call)) {
-    ++callsUnderException;
+bool enter(MiniJvm& jvm, bool fallible, const char* call, const Detail&... detail) {
+  ++jvm.calls;
+  if (jvm.thrown != nullptr && !allowedUnderException(call)) {
+    ++jvm.callsUnderException;
   }
   if (recorder().tracing) {
     std::ostringstream event;
     event << call;
-    static_cast<void>((event << ... << detail));
+    static_cast<void>(((event << ' ' << detail), ...));
     recorder().add(event.str());
   }
-  if (fallible && ++fallibleCalls == failingCall) {
-    failedFunction = call;
+  if (fallible && ++jvm.fallibleCalls == jvm.failingCall) {
+    jvm.failedFunction = call;
     return true;
   }
   return false;
 }
 
-// What a call costs its field.
-
-void JniTable::costs(Member& field, const char* call, int depth) {
-  if (recording) {
-    addCalls(field.calls, {call, depth, fallibleCalls, fallibleCalls});
-  }
-}
-void JniTable::costs(Object* object, const char* call) {
-  if (!recording) {
-    return;
-  }
-  if (object->holder != nullptr) {
-    costs(*object->holder, call, object->depth);
-  } else {
-    addCalls(object->calls, {call, 0, fallibleCalls, fallibleCalls});
-  }
-}
-void JniTable::costsWhatIsMadeNext(const char* call) {
-  if (recording) {
-    addCalls(unclaimed, {call, 0, fallibleCalls, fallibleCalls});
-  }
-}
-Object* JniTable::made(Object* object, const char* call) {
-  if (recording) {
-    object->calls = std::exchange(unclaimed, {});
-    costs(object, call);
-  }
-  return object;
-}
-void JniTable::holds(Member& field, int depth, Object* value) {
-  if (recording && value != nullptr && value->holder == nullptr) {
-    mergeCalls(field.calls, value->calls, depth);
-    if (value->elements() != nullptr && !field.heldArray && !value->calls.empty()) {
-      heap.endFirstArray(value->calls.front().first);
-      field.heldArray = true;
-    }
-    value->calls.clear();
-    value->holder = &field;
-    value->depth = depth;
-  }
-}
-void JniTable::holds(Object* array, Object* value) {
-  if (array->holder != nullptr) {
-    holds(*array->holder, array->depth + 1, value);
-  } else if (recording && value != nullptr) {
-    mergeCalls(array->calls, value->calls, 1);
-    value->calls.clear();
-  }
+void throwNew(MiniJvm& jvm, const std::string& className, const std::string& message = "") {
+  jvm.thrown = Heap::hold(jvm.heap.make(className.c_str(), message));
 }
 
-namespace {
+// The JNI functions. Each enters its call, then fails or does its work.
 
-/// The JNI functions. Each enters its call, then fails or does its work.
-struct Functions {
-  static jclass JNICALL findClass(JNIEnv* env, const char* name) {
-    noteStack(env);
-    JniTable& jvm = tableOf(env);
-    if (jvm.enter(true, "FindClass ", name) || jvm.heap.isRemoved(name)) {
-      jvm.throwNew("java/lang/NoClassDefFoundError", name);
-      return nullptr;
-    }
-    jvm.costsWhatIsMadeNext("FindClass ");
-    return as<jclass>(jvm.heap.refer(jvm.heap.findClass(name)->mirror));
+jclass findClass(MiniJvm& jvm, const char* name) {
+  if (enter(jvm, true, "FindClass", name) || jvm.heap.isRemoved(name)) {
+    throwNew(jvm, "java/lang/NoClassDefFoundError", name);
+    return nullptr;
   }
+  return as<jclass>(jvm.heap.refer(jvm.heap.findClass(name)->mirror));
+}
 
-  static jclass JNICALL getObjectClass(JNIEnv* env, jobject object) {
-    noteStack(env);
-    JniTable& jvm = tableOf(env);
-    jvm.enter(false, "GetObjectClass");
-    Object* const target = jvm.heap.resolve(object);
-    return target == nullptr ? nullptr : as<jclass>(jvm.heap.refer(target->type->mirror));
-  }
+jclass getObjectClass(MiniJvm& jvm, jobject object) {
+  enter(jvm, false, "GetObjectClass");
+  Object* const target = jvm.heap.resolve(object);
+  return target == nullptr ? nullptr : as<jclass>(jvm.heap.refer(target->type->mirror));
+}
 
-  static Member* member(JNIEnv* env, const char* call, jclass type, const char* name,
-                        const char* signature, const char* error) {
-    JniTable& jvm = tableOf(env);
-    const bool fails = jvm.enter(true, call, name, " ", signature);
-    Object* const mirror = jvm.heap.resolve(type);
-    if (fails || mirror == nullptr || mirror->mirrored == nullptr || jvm.heap.isRemoved(name)) {
-      jvm.throwNew(error, name);
-      return nullptr;
-    }
-    Member* const found = jvm.heap.findMember(mirror->mirrored, name, signature);
-    if (found == nullptr) {
-      jvm.throwNew(error, name);
-    } else if (*signature == '(') {
-      jvm.costsWhatIsMadeNext(call);
-    } else {
-      jvm.costs(*found, call);
-    }
-    return found;
+Member* member(MiniJvm& jvm, const char* call, jclass type, const char* name, const char* signature,
+               const char* error) {
+  const bool fails = enter(jvm, true, call, name, signature);
+  Object* const mirror = jvm.heap.resolve(type);
+  const bool known = mirror != nullptr && mirror->mirrored != nullptr && !jvm.heap.isRemoved(name);
+  Member* const found =
+      fails || !known ? nullptr : jvm.heap.findMember(mirror->mirrored, name, signature);
+  if (found == nullptr) {
+    throwNew(jvm, error, name);
   }
-  static jfieldID JNICALL getFieldId(JNIEnv* env, jclass type, const char* name,
-                                     const char* signature) {
-    noteStack(env);
-    return reinterpret_cast<jfieldID>(
-        member(env, "GetFieldID ", type, name, signature, "java/lang/NoSuchFieldError"));
-  }
-  static jmethodID JNICALL getMethodId(JNIEnv* env, jclass type, const char* name,
-                                       const char* signature) {
-    noteStack(env);
-    return reinterpret_cast<jmethodID>(
-        member(env, "GetMethodID ", type, name, signature, "java/lang/NoSuchMethodError"));
-  }
+  return found;
+}
+jfieldID getFieldId(MiniJvm& jvm, jclass type, const char* name, const char* signature) {
+  return reinterpret_cast<jfieldID>(
+      member(jvm, "GetFieldID", type, name, signature, "java/lang/NoSuchFieldError"));
+}
+jmethodID getMethodId(MiniJvm& jvm, jclass type, const char* name, const char* signature) {
+  return reinterpret_cast<jmethodID>(
+      member(jvm, "GetMethodID", type, name, signature, "java/lang/NoSuchMethodError"));
+}
 
-  static jobject JNICALL newObjectV(JNIEnv* env, jclass type, jmethodID id, va_list arguments) {
-    noteStack(env);
-    JniTable& jvm = tableOf(env);
-    if (jvm.enter(true, "NewObject")) {
-      jvm.throwNew(kNoMemory);
+jobject newObjectV(MiniJvm& jvm, jclass type, jmethodID id, va_list arguments) {
+  if (enter(jvm, true, "NewObject")) {
+    throwNew(jvm, kNoMemory);
+    return nullptr;
+  }
+  const auto* const constructor = reinterpret_cast<Member*>(id);
+  Object* const object = jvm.heap.construct(jvm.heap.resolve(type)->mirrored);
+  if (constructor->signature == "(I)V") {
+    jvm.heap.codeOf(object) = {true, va_arg(arguments, jint), nullptr};
+  } else if (constructor->signature == "([BIILjava/lang/String;)V") {
+    Object* const bytes = jvm.heap.resolve(va_arg(arguments, jobject));
+    const auto offset = static_cast<std::size_t>(va_arg(arguments, jint));
+    const auto count = static_cast<std::size_t>(va_arg(arguments, jint));
+    const auto& all = std::get<std::vector<jbyte>>(bytes->payload);
+    if (offset + count > all.size()) {
+      throwNew(jvm, "java/lang/StringIndexOutOfBoundsException");
       return nullptr;
     }
-    const auto* const constructor = reinterpret_cast<Member*>(id);
-    Object* const object = jvm.heap.construct(jvm.heap.resolve(type)->mirrored);
-    if (constructor->signature == "(I)V") {
-      jvm.heap.codeOf(object) = {true, va_arg(arguments, jint), nullptr};
-    } else if (constructor->signature == "([BIILjava/lang/String;)V") {
-      Object* const bytes = jvm.heap.resolve(va_arg(arguments, jobject));
-      const auto offset = static_cast<std::size_t>(va_arg(arguments, jint));
-      const auto count = static_cast<std::size_t>(va_arg(arguments, jint));
-      const auto& all = std::get<std::vector<jbyte>>(bytes->payload);
-      if (offset + count > all.size()) {
-        jvm.throwNew("java/lang/StringIndexOutOfBoundsException");
-        return nullptr;
-      }
-      object->payload = std::string(all.begin() + static_cast<std::ptrdiff_t>(offset),
-                                    all.begin() + static_cast<std::ptrdiff_t>(offset + count));
-    }
-    return jvm.heap.refer(jvm.made(object, "NewObject"));
+    object->payload = std::string(all.begin() + static_cast<std::ptrdiff_t>(offset),
+                                  all.begin() + static_cast<std::ptrdiff_t>(offset + count));
   }
+  return jvm.heap.refer(object);
+}
 
-  static jint JNICALL throwObject(JNIEnv* env, jthrowable throwable) {
-    noteStack(env);
-    JniTable& jvm = tableOf(env);
-    jvm.enter(false, "Throw");
-    jvm.pending = Heap::hold(jvm.heap.resolve(throwable));
-    return 0;
+jint throwObject(MiniJvm& jvm, jthrowable throwable) {
+  enter(jvm, false, "Throw");
+  jvm.thrown = Heap::hold(jvm.heap.resolve(throwable));
+  return 0;
+}
+jint throwNewObject(MiniJvm& jvm, jclass type, const char* message) {
+  const std::string& name = jvm.heap.resolve(type)->mirrored->name;
+  if (enter(jvm, true, "ThrowNew", name, std::quoted(message))) {
+    throwNew(jvm, kNoMemory);
+    return -1;
   }
-  static jint JNICALL throwNewObject(JNIEnv* env, jclass type, const char* message) {
-    noteStack(env);
-    JniTable& jvm = tableOf(env);
-    const std::string& name = jvm.heap.resolve(type)->mirrored->name;
-    if (jvm.enter(true, "ThrowNew ", name.c_str(), " \"", message, "\"")) {
-      jvm.throwNew(kNoMemory);
-      return -1;
-    }
-    jvm.throwNew(name, message);
-    return 0;
-  }
-  static jthrowable JNICALL exceptionOccurred(JNIEnv* env) {
-    noteStack(env);
-    JniTable& jvm = tableOf(env);
-    jvm.enter(false, "ExceptionOccurred");
-    return jvm.pending == nullptr ? nullptr : as<jthrowable>(jvm.heap.refer(jvm.pending));
-  }
-  static void JNICALL deleteLocalRef(JNIEnv* env, jobject reference) {
-    noteStack(env);
-    JniTable& jvm = tableOf(env);
-    jvm.enter(false, "DeleteLocalRef");
-    jvm.heap.deleteReference(reference);
-  }
+  throwNew(jvm, name, message);
+  return 0;
+}
+jthrowable exceptionOccurred(MiniJvm& jvm) {
+  enter(jvm, false, "ExceptionOccurred");
+  return jvm.thrown == nullptr ? nullptr : as<jthrowable>(jvm.heap.refer(jvm.thrown));
+}
+void deleteLocalRef(MiniJvm& jvm, jobject reference) {
+  enter(jvm, false, "DeleteLocalRef");
+  jvm.heap.deleteReference(reference);
+}
 
-  /// The slot of a field access, or null where the access fails.
-  static Slot* access(JNIEnv* env, const char* call, jobject object, jfieldID id,
-                      const char* signature) {
-    JniTable& jvm = tableOf(env);
-    auto* const field = reinterpret_cast<Member*>(id);
-    const bool fails = jvm.enter(true, call);
-    Object* const target = jvm.heap.resolve(object);
-    if (fails || target == nullptr) {
-      jvm.throwNew("java/lang/InternalError");
-      return nullptr;
-    }
-    if ((field->holdsObject() ? *signature != 'L' : field->signature != signature) ||
-        !target->type->sees(*field)) {
-      jvm.heap.countMisuse();
-    }
-    jvm.costs(*field, call);
-    Slot& slot = target->slot(*field);
-    if (!slot.set && *call == 'G' &&
-        (target->input || (!target->type->declared && field->signature == "[B"))) {
-      slot = field->holdsObject()
-                 ? Slot{true, 0, makeInput(jvm.heap, jvm.profile, field->signature)}
-                 : Slot{true, inputNumber(jvm.profile, *field), nullptr};
-    }
-    return &slot;
+/// The slot of a field access, or null where the access fails.
+Slot* access(MiniJvm& jvm, const char* call, jobject object, jfieldID id, const char* signature) {
+  auto* const field = reinterpret_cast<Member*>(id);
+  const bool fails = enter(jvm, true, call);
+  Object* const target = jvm.heap.resolve(object);
+  if (fails || target == nullptr) {
+    throwNew(jvm, "java/lang/InternalError");
+    return nullptr;
   }
-  static jint JNICALL getIntField(JNIEnv* env, jobject object, jfieldID id) {
-    noteStack(env);
-    const Slot* const slot = access(env, "GetIntField", object, id, "I");
-    return slot == nullptr ? 0 : slot->number;
+  if ((field->holdsObject() ? *signature != 'L' : field->signature != signature) ||
+      !target->type->sees(*field)) {
+    jvm.heap.countMisuse();
   }
-  static jshort JNICALL getShortField(JNIEnv* env, jobject object, jfieldID id) {
-    noteStack(env);
-    const Slot* const slot = access(env, "GetShortField", object, id, "S");
-    return slot == nullptr ? jshort{0} : static_cast<jshort>(slot->number);
+  Slot& slot = target->slot(*field);
+  if (!slot.set && *call == 'G' &&
+      (target->input || (!target->type->declared && field->signature == "[B"))) {
+    slot = field->holdsObject() ? Slot{true, 0, makeInput(jvm.heap, jvm.profile, field->signature)}
+                                : Slot{true, inputNumber(jvm.profile, *field), nullptr};
   }
-  static jobject JNICALL getObjectField(JNIEnv* env, jobject object, jfieldID id) {
-    noteStack(env);
-    const Slot* const slot = access(env, "GetObjectField", object, id, "L");
-    if (slot == nullptr) {
-      return nullptr;
-    }
-    tableOf(env).holds(*reinterpret_cast<Member*>(id), 0, slot->object);
-    return tableOf(env).heap.refer(slot->object);
+  return &slot;
+}
+jint getIntField(MiniJvm& jvm, jobject object, jfieldID id) {
+  const Slot* const slot = access(jvm, "GetIntField", object, id, "I");
+  return slot == nullptr ? 0 : slot->number;
+}
+jshort getShortField(MiniJvm& jvm, jobject object, jfieldID id) {
+  const Slot* const slot = access(jvm, "GetShortField", object, id, "S");
+  return slot == nullptr ? jshort{0} : static_cast<jshort>(slot->number);
+}
+jobject getObjectField(MiniJvm& jvm, jobject object, jfieldID id) {
+  const Slot* const slot = access(jvm, "GetObjectField", object, id, "L");
+  return slot == nullptr ? nullptr : jvm.heap.refer(slot->object);
+}
+void store(Slot* slot, jint number, Object* object) {
+  if (slot != nullptr) {
+    *slot = {true, number, object};
   }
-  static void store(Slot* slot, jint number, Object* object) {
-    if (slot != nullptr) {
-      *slot = {true, number, object};
-    }
-  }
-  static void JNICALL setIntField(JNIEnv* env, jobject object, jfieldID id, jint value) {
-    noteStack(env);
-    store(access(env, "SetIntField", object, id, "I"), value, nullptr);
-  }
-  static void JNICALL setShortField(JNIEnv* env, jobject object, jfieldID id, jshort value) {
-    noteStack(env);
-    store(access(env, "SetShortField", object, id, "S"), value, nullptr);
-  }
-  static void JNICALL setObjectField(JNIEnv* env, jobject object, jfieldID id, jobject value) {
-    noteStack(env);
-    Slot* const slot = access(env, "SetObjectField", object, id, "L");
-    if (slot == nullptr || value == nullptr) {
-      store(slot, 0, nullptr);
-      return;
-    }
-    Object* const stored = tableOf(env).heap.resolve(value);
-    tableOf(env).holds(*reinterpret_cast<Member*>(id), 0, stored);
-    store(slot, 0, tableOf(env).heap.keep(stored));
-  }
+}
+void setIntField(MiniJvm& jvm, jobject object, jfieldID id, jint value) {
+  store(access(jvm, "SetIntField", object, id, "I"), value, nullptr);
+}
+void setShortField(MiniJvm& jvm, jobject object, jfieldID id, jshort value) {
+  store(access(jvm, "SetShortField", object, id, "S"), value, nullptr);
+}
+/// What a field or an array keeps of a value.
+Object* kept(MiniJvm& jvm, jobject value) {
+  return value == nullptr ? nullptr : jvm.heap.keep(jvm.heap.resolve(value));
+}
+void setObjectField(MiniJvm& jvm, jobject object, jfieldID id, jobject value) {
+  store(access(jvm, "SetObjectField", object, id, "L"), 0, kept(jvm, value));
+}
 
-  static jstring JNICALL newStringUtf(JNIEnv* env, const char* text) {
-    noteStack(env);
-    JniTable& jvm = tableOf(env);
-    if (jvm.enter(true, "NewStringUTF ", text)) {
-      jvm.throwNew(kNoMemory);
-      return nullptr;
-    }
-    Object* const made = jvm.heap.make("java/lang/String", std::string(text));
-    return as<jstring>(jvm.heap.refer(jvm.made(made, "NewStringUTF ")));
+jstring newStringUtf(MiniJvm& jvm, const char* text) {
+  if (enter(jvm, true, "NewStringUTF", text)) {
+    throwNew(jvm, kNoMemory);
+    return nullptr;
   }
-  static jsize JNICALL getStringUtfLength(JNIEnv* env, jstring text) {
-    noteStack(env);
-    JniTable& jvm = tableOf(env);
-    jvm.enter(false, "GetStringUTFLength");
-    return static_cast<jsize>(jvm.heap.resolve(text)->length());
+  return as<jstring>(jvm.heap.refer(jvm.heap.make("java/lang/String", std::string(text))));
+}
+jsize getStringUtfLength(MiniJvm& jvm, jstring text) {
+  enter(jvm, false, "GetStringUTFLength");
+  return static_cast<jsize>(jvm.heap.resolve(text)->length());
+}
+const char* getStringUtfChars(MiniJvm& jvm, jstring text, jboolean*) {
+  if (enter(jvm, true, "GetStringUTFChars")) {
+    throwNew(jvm, kNoMemory);
+    return nullptr;
   }
-  static const char* JNICALL getStringUtfChars(JNIEnv* env, jstring text, jboolean*) {
-    noteStack(env);
-    JniTable& jvm = tableOf(env);
-    if (jvm.enter(true, "GetStringUTFChars")) {
-      jvm.throwNew(kNoMemory);
-      return nullptr;
-    }
-    Object* const object = jvm.heap.resolve(text);
-    jvm.costs(object, "GetStringUTFChars");
-    const std::string& source = *object->text();
-    std::vector<char> copy(source.c_str(), source.c_str() + source.size() + 1);
-    const char* const characters = copy.data();
-    jvm.characters[characters] = std::move(copy);
-    ++jvm.unreleased;
-    return characters;
-  }
-  static void JNICALL releaseStringUtfChars(JNIEnv* env, jstring, const char* characters) {
-    noteStack(env);
-    tableOf(env).enter(false, "ReleaseStringUTFChars");
-    tableOf(env).characters.erase(characters);
-    --tableOf(env).unreleased;
-  }
+  const std::string& source = *jvm.heap.resolve(text)->text();
+  std::vector<char> copy(source.c_str(), source.c_str() + source.size() + 1);
+  const char* const characters = copy.data();
+  jvm.characters[characters] = std::move(copy);
+  ++jvm.unreleased;
+  return characters;
+}
+void releaseStringUtfChars(MiniJvm& jvm, jstring, const char* characters) {
+  enter(jvm, false, "ReleaseStringUTFChars");
+  jvm.characters.erase(characters);
+  --jvm.unreleased;
+}
 
-  static jsize JNICALL getArrayLength(JNIEnv* env, jarray array) {
-    noteStack(env);
-    JniTable& jvm = tableOf(env);
-    jvm.enter(false, "GetArrayLength");
-    return static_cast<jsize>(jvm.heap.resolve(array)->length());
+jsize getArrayLength(MiniJvm& jvm, jarray array) {
+  enter(jvm, false, "GetArrayLength");
+  return static_cast<jsize>(jvm.heap.resolve(array)->length());
+}
+/// A new array of `length` elements of one payload type.
+template <class Element, class Array>
+Array newArray(MiniJvm& jvm, const char* call, const char* className, jsize length) {
+  if (enter(jvm, true, call, length) || length < 0) {
+    throwNew(jvm, length < 0 ? "java/lang/NegativeArraySizeException" : kNoMemory);
+    return nullptr;
   }
-  /// A new array of `length` elements of one payload type.
-  template <class Element, class Array>
-  static Array newArray(JNIEnv* env, const char* call, const char* className, jsize length) {
-    JniTable& jvm = tableOf(env);
-    if (jvm.enter(true, call, length) || length < 0) {
-      jvm.throwNew(length < 0 ? "java/lang/NegativeArraySizeException" : kNoMemory);
-      return nullptr;
-    }
-    Object* const made = jvm.heap.makeArray(className, static_cast<std::size_t>(length), Element{});
-    return as<Array>(jvm.heap.refer(jvm.made(made, call)));
-  }
-  static jintArray JNICALL newIntArray(JNIEnv* env, jsize length) {
-    noteStack(env);
-    return newArray<jint, jintArray>(env, "NewIntArray ", "[I", length);
-  }
-  static jshortArray JNICALL newShortArray(JNIEnv* env, jsize length) {
-    noteStack(env);
-    return newArray<jshort, jshortArray>(env, "NewShortArray ", "[S", length);
-  }
-  static jbyteArray JNICALL newByteArray(JNIEnv* env, jsize length) {
-    noteStack(env);
-    return newArray<jbyte, jbyteArray>(env, "NewByteArray ", "[B", length);
-  }
-  static jobjectArray JNICALL newObjectArray(JNIEnv* env, jsize length, jclass type, jobject) {
-    noteStack(env);
-    const std::string element = tableOf(env).heap.resolve(type)->mirrored->name;
-    const std::string name = element[0] == '[' ? '[' + element : "[L" + element + ';';
-    return newArray<Object*, jobjectArray>(env, "NewObjectArray ", name.c_str(), length);
-  }
+  Object* const made = jvm.heap.makeArray(className, static_cast<std::size_t>(length), Element{});
+  return as<Array>(jvm.heap.refer(made));
+}
+jintArray newIntArray(MiniJvm& jvm, jsize length) {
+  return newArray<jint, jintArray>(jvm, "NewIntArray", "[I", length);
+}
+jshortArray newShortArray(MiniJvm& jvm, jsize length) {
+  return newArray<jshort, jshortArray>(jvm, "NewShortArray", "[S", length);
+}
+jbyteArray newByteArray(MiniJvm& jvm, jsize length) {
+  return newArray<jbyte, jbyteArray>(jvm, "NewByteArray", "[B", length);
+}
+jobjectArray newObjectArray(MiniJvm& jvm, jsize length, jclass type, jobject) {
+  const std::string element = jvm.heap.resolve(type)->mirrored->name;
+  const std::string name = element[0] == '[' ? '[' + element : "[L" + element + ';';
+  return newArray<Object*, jobjectArray>(jvm, "NewObjectArray", name.c_str(), length);
+}
 
-  /// The elements of a region, or null with the exception where it cannot be accessed.
-  template <class Element>
-  static Element* region(JNIEnv* env, const char* call, jarray array, jsize start, jsize count) {
-    JniTable& jvm = tableOf(env);
-    const bool fails = jvm.enter(true, call, count);
-    Object* const target = jvm.heap.resolve(array);
-    auto* const payload = target == nullptr ? nullptr : target->get<std::vector<Element>>();
-    if (payload == nullptr) {
-      jvm.heap.countMisuse();
-      return nullptr;
-    }
-    if (fails || start < 0 || count < 0 ||
-        static_cast<std::size_t>(start) + static_cast<std::size_t>(count) > payload->size()) {
-      jvm.throwNew(kBounds);
-      return nullptr;
-    }
-    jvm.costs(target, call);
-    return payload->data() + start;
+/// The elements of a region, or null with the exception where it cannot be accessed.
+template <class Element>
+Element* region(MiniJvm& jvm, const char* call, jarray array, jsize start, jsize count) {
+  const bool fails = enter(jvm, true, call, count);
+  Object* const target = jvm.heap.resolve(array);
+  auto* const payload = target == nullptr ? nullptr : target->get<std::vector<Element>>();
+  if (payload == nullptr) {
+    jvm.heap.countMisuse();
+    return nullptr;
   }
-  template <class Array, class Element>
-  static void JNICALL getRegion(JNIEnv* env, Array array, jsize start, jsize count,
-                                Element* values) {
-    noteStack(env);
-    const Element* const first = region<Element>(env, Region<Element>::kGet, array, start, count);
-    if (first != nullptr) {
-      std::copy_n(first, count, values);
-    }
+  if (fails || start < 0 || count < 0 ||
+      static_cast<std::size_t>(start) + static_cast<std::size_t>(count) > payload->size()) {
+    throwNew(jvm, kBounds);
+    return nullptr;
   }
-  template <class Array, class Element>
-  static void JNICALL setRegion(JNIEnv* env, Array array, jsize start, jsize count,
-                                const Element* values) {
-    noteStack(env);
-    Element* const first = region<Element>(env, Region<Element>::kSet, array, start, count);
-    if (first != nullptr) {
-      std::copy_n(values, count, first);
-    }
+  return payload->data() + start;
+}
+template <class Element, class Array>
+void getRegion(MiniJvm& jvm, Array array, jsize start, jsize count, Element* values) {
+  const Element* const first = region<Element>(jvm, Region<Element>::kGet, array, start, count);
+  if (first != nullptr) {
+    std::copy_n(first, count, values);
   }
+}
+template <class Element, class Array>
+void setRegion(MiniJvm& jvm, Array array, jsize start, jsize count, const Element* values) {
+  Element* const first = region<Element>(jvm, Region<Element>::kSet, array, start, count);
+  if (first != nullptr) {
+    std::copy_n(values, count, first);
+  }
+}
 
-  static jint* JNICALL getIntElements(JNIEnv* env, jintArray array, jboolean*) {
-    noteStack(env);
-    JniTable& jvm = tableOf(env);
-    if (jvm.enter(true, "GetIntArrayElements")) {
-      jvm.throwNew(kNoMemory);
-      return nullptr;
-    }
-    Object* const held = jvm.heap.resolve(array);
-    jvm.costs(held, "GetIntArrayElements");
-    const auto& source = std::get<std::vector<jint>>(held->payload);
-    auto* const copy = new jint[source.size()];
-    std::copy(source.begin(), source.end(), copy);
-    ++jvm.unreleased;
-    return copy;
+jint* getIntElements(MiniJvm& jvm, jintArray array, jboolean*) {
+  if (enter(jvm, true, "GetIntArrayElements")) {
+    throwNew(jvm, kNoMemory);
+    return nullptr;
   }
-  static void JNICALL releaseIntElements(JNIEnv* env, jintArray array, jint* elements, jint) {
-    noteStack(env);
-    JniTable& jvm = tableOf(env);
-    jvm.enter(false, "ReleaseIntArrayElements");
-    auto& target = std::get<std::vector<jint>>(jvm.heap.resolve(array)->payload);
-    std::copy_n(elements, target.size(), target.begin());
-    --jvm.unreleased;
-    delete[] elements;
-  }
+  const auto& source = std::get<std::vector<jint>>(jvm.heap.resolve(array)->payload);
+  auto* const copy = new jint[source.size()];
+  std::copy(source.begin(), source.end(), copy);
+  ++jvm.unreleased;
+  return copy;
+}
+void releaseIntElements(MiniJvm& jvm, jintArray array, jint* elements, jint) {
+  enter(jvm, false, "ReleaseIntArrayElements");
+  auto& target = std::get<std::vector<jint>>(jvm.heap.resolve(array)->payload);
+  std::copy_n(elements, target.size(), target.begin());
+  --jvm.unreleased;
+  delete[] elements;
+}
 
-  /// The place of an element, or null with the exception where there is none.
-  static Object** element(JNIEnv* env, const char* call, jobjectArray array, jsize index) {
-    JniTable& jvm = tableOf(env);
-    const bool fails = jvm.enter(true, call);
-    Object* const target = jvm.heap.resolve(array);
-    auto& elements = *target->elements();
-    if (fails || index < 0 || static_cast<std::size_t>(index) >= elements.size()) {
-      jvm.throwNew(kBounds);
-      return nullptr;
-    }
-    jvm.costs(target, call);
-    return &elements[static_cast<std::size_t>(index)];
+/// The place of an element, or null with the exception where there is none.
+Object** element(MiniJvm& jvm, const char* call, jobjectArray array, jsize index) {
+  const bool fails = enter(jvm, true, call);
+  auto& elements = *jvm.heap.resolve(array)->elements();
+  if (fails || index < 0 || static_cast<std::size_t>(index) >= elements.size()) {
+    throwNew(jvm, kBounds);
+    return nullptr;
   }
-  static jobject JNICALL getElement(JNIEnv* env, jobjectArray array, jsize index) {
-    noteStack(env);
-    Object** const place = element(env, "GetObjectArrayElement", array, index);
-    if (place == nullptr) {
-      return nullptr;
-    }
-    JniTable& jvm = tableOf(env);
-    jvm.holds(jvm.heap.resolve(array), *place);
-    return jvm.heap.refer(*place);
+  return &elements[static_cast<std::size_t>(index)];
+}
+jobject getElement(MiniJvm& jvm, jobjectArray array, jsize index) {
+  Object** const place = element(jvm, "GetObjectArrayElement", array, index);
+  return place == nullptr ? nullptr : jvm.heap.refer(*place);
+}
+void setElement(MiniJvm& jvm, jobjectArray array, jsize index, jobject value) {
+  Object** const place = element(jvm, "SetObjectArrayElement", array, index);
+  if (place != nullptr) {
+    *place = kept(jvm, value);
   }
-  static void JNICALL setElement(JNIEnv* env, jobjectArray array, jsize index, jobject value) {
-    noteStack(env);
-    Object** const place = element(env, "SetObjectArrayElement", array, index);
-    if (place == nullptr || value == nullptr) {
-      if (place != nullptr) {
-        *place = nullptr;
-      }
-      return;
-    }
-    JniTable& jvm = tableOf(env);
-    Object* const stored = jvm.heap.resolve(value);
-    jvm.holds(jvm.heap.resolve(array), stored);
-    *place = jvm.heap.keep(stored);
-  }
-};
+}
+
+JNINativeInterface_ newTable() {
+  JNINativeInterface_ table;
+  auto* const entries = reinterpret_cast<void (*(*))()>(&table);
+  std::fill_n(entries, sizeof table / sizeof *entries, reinterpret_cast<void (*)()>(&unlisted));
+  table.FindClass = &Entry<&findClass>::call;
+  table.GetObjectClass = &Entry<&getObjectClass>::call;
+  table.GetFieldID = &Entry<&getFieldId>::call;
+  table.GetMethodID = &Entry<&getMethodId>::call;
+  table.NewObjectV = &Entry<&newObjectV>::call;
+  table.Throw = &Entry<&throwObject>::call;
+  table.ThrowNew = &Entry<&throwNewObject>::call;
+  table.ExceptionOccurred = &Entry<&exceptionOccurred>::call;
+  table.DeleteLocalRef = &Entry<&deleteLocalRef>::call;
+  table.GetIntField = &Entry<&getIntField>::call;
+  table.GetShortField = &Entry<&getShortField>::call;
+  table.GetObjectField = &Entry<&getObjectField>::call;
+  table.SetIntField = &Entry<&setIntField>::call;
+  table.SetShortField = &Entry<&setShortField>::call;
+  table.SetObjectField = &Entry<&setObjectField>::call;
+  table.NewStringUTF = &Entry<&newStringUtf>::call;
+  table.GetStringUTFLength = &Entry<&getStringUtfLength>::call;
+  table.GetStringUTFChars = &Entry<&getStringUtfChars>::call;
+  table.ReleaseStringUTFChars = &Entry<&releaseStringUtfChars>::call;
+  table.GetArrayLength = &Entry<&getArrayLength>::call;
+  table.NewObjectArray = &Entry<&newObjectArray>::call;
+  table.GetObjectArrayElement = &Entry<&getElement>::call;
+  table.SetObjectArrayElement = &Entry<&setElement>::call;
+  table.NewIntArray = &Entry<&newIntArray>::call;
+  table.NewShortArray = &Entry<&newShortArray>::call;
+  table.NewByteArray = &Entry<&newByteArray>::call;
+  table.GetIntArrayElements = &Entry<&getIntElements>::call;
+  table.ReleaseIntArrayElements = &Entry<&releaseIntElements>::call;
+  table.GetIntArrayRegion = &Entry<&getRegion<jint, jintArray>>::call;
+  table.SetIntArrayRegion = &Entry<&setRegion<jint, jintArray>>::call;
+  table.GetShortArrayRegion = &Entry<&getRegion<jshort, jshortArray>>::call;
+  table.SetShortArrayRegion = &Entry<&setRegion<jshort, jshortArray>>::call;
+  table.GetByteArrayRegion = &Entry<&getRegion<jbyte, jbyteArray>>::call;
+  table.SetByteArrayRegion = &Entry<&setRegion<jbyte, jbyteArray>>::call;
+  return table;
+}
 
 }  // namespace
 
-void JniTable::throwNew(const std::string& className, const std::string& message) {
-  pending = Heap::hold(heap.make(className.c_str(), message));
-}
-
-JniTable::JniTable(const InputProfile& inputs)
-    : profile(inputs), functions(std::make_unique<JNINativeInterface_>()) {
-  JNINativeInterface_& table = *functions;
-  auto* const entries = reinterpret_cast<void (*(*))()>(&table);
-  std::fill_n(entries, sizeof table / sizeof *entries, reinterpret_cast<void (*)()>(&unlisted));
-  table.FindClass = &Functions::findClass;
-  table.GetObjectClass = &Functions::getObjectClass;
-  table.GetFieldID = &Functions::getFieldId;
-  table.GetMethodID = &Functions::getMethodId;
-  table.NewObjectV = &Functions::newObjectV;
-  table.Throw = &Functions::throwObject;
-  table.ThrowNew = &Functions::throwNewObject;
-  table.ExceptionOccurred = &Functions::exceptionOccurred;
-  table.DeleteLocalRef = &Functions::deleteLocalRef;
-  table.GetIntField = &Functions::getIntField;
-  table.GetShortField = &Functions::getShortField;
-  table.GetObjectField = &Functions::getObjectField;
-  table.SetIntField = &Functions::setIntField;
-  table.SetShortField = &Functions::setShortField;
-  table.SetObjectField = &Functions::setObjectField;
-  table.NewStringUTF = &Functions::newStringUtf;
-  table.GetStringUTFLength = &Functions::getStringUtfLength;
-  table.GetStringUTFChars = &Functions::getStringUtfChars;
-  table.ReleaseStringUTFChars = &Functions::releaseStringUtfChars;
-  table.GetArrayLength = &Functions::getArrayLength;
-  table.NewObjectArray = &Functions::newObjectArray;
-  table.GetObjectArrayElement = &Functions::getElement;
-  table.SetObjectArrayElement = &Functions::setElement;
-  table.NewIntArray = &Functions::newIntArray;
-  table.NewShortArray = &Functions::newShortArray;
-  table.NewByteArray = &Functions::newByteArray;
-  table.GetIntArrayElements = &Functions::getIntElements;
-  table.ReleaseIntArrayElements = &Functions::releaseIntElements;
-  table.GetIntArrayRegion = &Functions::getRegion;
-  table.SetIntArrayRegion = &Functions::setRegion;
-  table.GetShortArrayRegion = &Functions::getRegion;
-  table.SetShortArrayRegion = &Functions::setRegion;
-  table.GetByteArrayRegion = &Functions::getRegion;
-  table.SetByteArrayRegion = &Functions::setRegion;
-  env = {{functions.get()}, this};
+const JNINativeInterface_& jniTable() {
+  static const JNINativeInterface_ table = newTable();
+  return table;
 }
 
 }  // namespace quorvelj::testing::mini
