@@ -62,7 +62,10 @@ struct Outcome {
 
 struct Totals {
   int jniFaults = 0;
-  int plays = 0;
+  int allocations = 0;
+  int libraryResults = 0;
+  int inputs = 0;
+  int fields = 0;
   std::ptrdiff_t stack = 0;
   std::string deepest;
 } totals;
@@ -117,8 +120,10 @@ Outcome play(const NativeMethod& method, const Fault& fault) {
 
   quorvelSimObserve(nullptr);
   playing = nullptr;
-  totals.plays += 1;
-  totals.jniFaults += fault.jniCall == 0 ? 0 : 1;
+  (fault.jniCall != 0         ? totals.jniFaults
+   : fault.allocation != 0    ? totals.allocations
+   : fault.libraryResult != 0 ? totals.libraryResults
+                              : totals.inputs) += 1;
   const char* const deepest = std::min(jvm.deepestFrame, libraryFrame);
   const std::ptrdiff_t stack = deepest == kNoFrame ? 0 : callersFrame - deepest;
   if (stack > totals.stack) {
@@ -358,6 +363,7 @@ void sweepField(const std::string& className, const Field& whole, bool built) {
     calls = failedCall == 0 ? jvm.fallibleCalls : calls;
   }
   totals.jniFaults += calls;
+  totals.fields += 1;
 }
 
 void sweepFields(const std::string& className, const ClassMap& map) {
@@ -518,9 +524,11 @@ TEST_P(Sweep, AnyJavaInput) {
 
 void Sweep::TearDownTestSuite() {
   std::printf(
-      "sweep: %d calls of native methods, %d JNI faults\n"
+      "sweep: %d JNI faults, %d allocations refused, %d library results, %d inputs\n"
+      "fields: of %d, built or read alone, each JNI call failed\n"
       "stack: at most %td bytes, in %s\n",
-      totals.plays, totals.jniFaults, totals.stack, totals.deepest.c_str());
+      totals.jniFaults, totals.allocations, totals.libraryResults, totals.inputs, totals.fields,
+      totals.stack, totals.deepest.c_str());
 }
 
 INSTANTIATE_TEST_SUITE_P(NativeMethods, Sweep,
