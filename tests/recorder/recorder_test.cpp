@@ -338,11 +338,12 @@ TEST_F(Recorder, LeavesWholeEntriesWhenItIsKilled) {
     std::size_t at = kHeaderBytes;
     while (at + kEntryBytes <= content.size()) {
       Reader head(&content[at], kEntryBytes);
-      const std::uint64_t length = head.fixed(4);
+      const auto length = static_cast<std::size_t>(head.fixed(4));
+      const auto sum = static_cast<std::uint32_t>(head.fixed(4));
       if (length > content.size() - at - kEntryBytes) {
         break;
       }
-      ASSERT_EQ(head.fixed(4), checksum(&content[at] + kEntryBytes, length)) << "at byte " << at;
+      ASSERT_EQ(sum, checksum(&content[at] + kEntryBytes, length)) << "at byte " << at;
       at += kEntryBytes + length;
     }
     longest = std::max(longest, at);
