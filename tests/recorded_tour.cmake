@@ -47,8 +47,10 @@ if(bytes GREATER 200000)
 endif()
 tour(shown QUORVEL_REPLAY=tour.recording)
 expect_same(replayed "${shown}")
-tour(shown "QUORVEL_REPLAY=${KEPT}")
-expect_same(kept "${shown}")
+if(KEPT)
+  tour(shown "QUORVEL_REPLAY=${KEPT}")
+  expect_same(kept "${shown}")
+endif()
 
 # Without the real library.
 tour(shown QUORVEL_REAL=nothing.so)
