@@ -58,8 +58,8 @@ void fillWithPattern(unsigned char* block, std::size_t bytes) {
   }
 }
 
-/// The runs of bytes that are as before. No run is so short that it lies between two of the places
-/// that are looked at.
+/// The runs of bytes that are as before. Every fourth byte is looked at, so that no run of four is
+/// missed.
 std::vector<Run> unwrittenRuns(const unsigned char* block, std::size_t bytes) {
   std::vector<Run> runs;
   for (std::size_t at = 0; at < bytes; at += kShortestRun) {

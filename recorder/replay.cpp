@@ -292,9 +292,9 @@ Replay::Candidate* Replay::choose(Calls& calls, const Arguments& arguments) {
 int Replay::call(const Function& function, void* const* values) {
   const std::lock_guard lock(mutex_);
   Calls& calls = calls_[function.name];
-  if (calls.candidates.empty()) {
+  if (!calls.isPrepared) {
     prepare(function, calls);
-    calls.entries.shrink_to_fit();
+    calls.isPrepared = true;
   }
   const Arguments arguments = argumentsOf(function, values);
   Candidate* const chosen = choose(calls, arguments);
@@ -378,7 +378,7 @@ std::string Replay::difference(const Arguments& live, const Candidate& recorded)
     return text + ", which has another password or session";
   }
   const Place& place = live.places[static_cast<std::size_t>(own - live.plain.begin())];
-  return text + ", where argument " + std::to_string(place.parameter) + " has at byte " +
+  return text + ", where argument " + std::to_string(place.parameter + 1) + " has at byte " +
          std::to_string(place.offset) + " " + shown(*other) + " instead of " + shown(*own);
 }
 

@@ -47,7 +47,9 @@ class Replay {
   };
   struct Calls {
     std::vector<Entry> entries;
+    /// The entries, once the function was called: those that fit its declaration.
     std::vector<Candidate> candidates;
+    bool isPrepared = false;
     std::map<std::vector<std::string>, std::vector<std::size_t>> byArguments;
   };
 

@@ -215,7 +215,7 @@ TEST_F(Recorder, AnswersInTheOrderOfTheRecording) {
   EXPECT_EQ(ask("east"), "29002 0");
   EXPECT_EQ(::testing::internal::GetCapturedStderr(),
             "quorvel recorder: QV_GetThreshold was not recorded with these arguments; the nearest "
-            "is call 1, where argument 0 has at byte 0 \"north\" instead of \"east\"\n");
+            "is call 1, where argument 1 has at byte 0 \"north\" instead of \"east\"\n");
 }
 
 TEST_F(Recorder, KnowsOneSessionFromAnother) {
@@ -248,7 +248,11 @@ TEST_F(Recorder, EndsWithWhatADamagedFileHas) {
   const auto below = [&](std::size_t end) { return random() % end; };
   int answered = 0;
   ::testing::internal::CaptureStderr();
+#ifdef _WIN32
+  constexpr int kFiles = 1'000;  // Wine opens files slowly.
+#else
   constexpr int kFiles = 10'000;
+#endif
   for (int file = 0; file < kFiles; ++file) {
     std::string content = whole.substr(0, file % 3 == 0 ? below(whole.size()) : whole.size());
     for (std::size_t change = below(4); change > 0 && !content.empty(); --change) {
