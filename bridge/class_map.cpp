@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "bridge/class_lookup.h"
 #include "bridge/jni_toolkit.h"
 #include "bridge/runtime.h"
 
@@ -54,7 +55,7 @@ bool terminated(const char* slots, std::size_t count, std::size_t width) {
 /// Hands texts on in place where the library ended every one inside its width, else in a copy in
 /// which every slot is one byte wider and ends in a NUL.
 template <class Store>
-int withTexts(JNIEnv* env, const char* slots, std::size_t count, std::size_t width, Store store) {
+int withTexts(Env env, const char* slots, std::size_t count, std::size_t width, Store store) {
   if (terminated(slots, count, width)) {
     return store(slots, width);
   }
@@ -73,11 +74,10 @@ int withTexts(JNIEnv* env, const char* slots, std::size_t count, std::size_t wid
   return result;
 }
 
-jobject newArray(JNIEnv* env, const Field& field, std::size_t dimension, const std::byte* at);
+jobject newArray(Env env, const Field& field, std::size_t dimension, const std::byte* at);
 
 /// The elements of one dimension that are objects: records, or the arrays of the next dimension.
-jobjectArray newObjects(JNIEnv* env, const Field& field, std::size_t dimension,
-                        const std::byte* at) {
+jobjectArray newObjects(Env env, const Field& field, std::size_t dimension, const std::byte* at) {
   const jsize length = lengthOf(field, dimension);
   const std::size_t stride = strideOf(field, dimension);
   if (dimension + 1 == field.rank) {
@@ -97,7 +97,7 @@ jobjectArray newObjects(JNIEnv* env, const Field& field, std::size_t dimension,
   return array;
 }
 
-jobject newArray(JNIEnv* env, const Field& field, std::size_t dimension, const std::byte* at) {
+jobject newArray(Env env, const Field& field, std::size_t dimension, const std::byte* at) {
   if (dimension + 1 < field.rank) {
     return newObjects(env, field, dimension, at);
   }
@@ -121,9 +121,8 @@ jobject newArray(JNIEnv* env, const Field& field, std::size_t dimension, const s
 }
 
 /// Stores a new object in its field and deletes its local reference.
-int storeNew(JNIEnv* env, jobject object, const Field& field, jobject value) {
-  if (value == nullptr ||
-      setObjectFieldByName(env, object, field.name, field.signature, value) != kOk) {
+int storeNew(Env env, jobject object, const Field& field, FieldName name, jobject value) {
+  if (value == nullptr || setObjectFieldByName(env, object, name, field.signature, value) != kOk) {
     return kFailed;
   }
   deleteLocalRef(env, value);
@@ -131,54 +130,59 @@ int storeNew(JNIEnv* env, jobject object, const Field& field, jobject value) {
 }
 
 /// Stores a text or an array of texts.
-int setTexts(JNIEnv* env, jobject object, const Field& field, const char* texts) {
+int setTexts(Env env, jobject object, const Field& field, FieldName name, const char* texts) {
   if (field.rank == 0) {
     // A text that cannot be stored does not end a builder.
     withTexts(env, texts, 1, field.elementBytes, [&](const char* text, std::size_t) {
-      return setStringField(env, object, field.name, text);
+      return setStringField(env, object, name, text);
     });
     return kOk;
   }
   return withTexts(
       env, texts, field.extents[0], field.elementBytes, [&](const char* slots, std::size_t stride) {
-        return setStringArrayField(env, object, field.name, slots, lengthOf(field, 0), stride);
+        return setStringArrayField(env, object, name, slots, lengthOf(field, 0), stride);
       });
 }
 
-int setFields(JNIEnv* env, jobject object, const ClassMap& map, const std::byte* record);
+int setFields(Env env, jobject object, const ClassLookup& lookup, const ClassMap& map,
+              const std::byte* record);
 
-int setField(JNIEnv* env, jobject object, const Field& field, const std::byte* at) {
-  const auto storeArray = [&] { return storeNew(env, object, field, newArray(env, field, 0, at)); };
+int setField(Env env, jobject object, const ClassLookup& lookup, const Field& field,
+             const std::byte* at) {
+  const FieldName name = lookup[field];
+  const auto storeArray = [&] {
+    return storeNew(env, object, field, name, newArray(env, field, 0, at));
+  };
   switch (field.kind) {  // GCOV_EXCL_BR_LINE: a case for every kind.
     case FieldKind::kInt32:
       if (field.rank == 0) {
-        return setIntField(env, object, field.name, valueAt<std::int32_t>(at));
+        return setIntField(env, object, name, valueAt<std::int32_t>(at));
       }
-      return field.rank == 1
-                 ? setIntArrayField(env, object, field.name, intsAt(at), lengthOf(field, 0))
-                 : storeArray();
+      return field.rank == 1 ? setIntArrayField(env, object, name, intsAt(at), lengthOf(field, 0))
+                             : storeArray();
     case FieldKind::kInt8:
-      return field.rank == 0 ? setIntField(env, object, field.name, valueAt<std::int8_t>(at))
+      return field.rank == 0 ? setIntField(env, object, name, valueAt<std::int8_t>(at))
                              : storeArray();
     case FieldKind::kUInt8:
-      return setIntField(env, object, field.name, valueAt<std::uint8_t>(at));
+      return setIntField(env, object, name, valueAt<std::uint8_t>(at));
     case FieldKind::kText:
-      return setTexts(env, object, field, textAt(at));
+      return setTexts(env, object, field, name, textAt(at));
     case FieldKind::kBytes:
-      return field.rank == 1 ? setByteArrayField(env, object, field.name, at, lengthOf(field, 0))
+      return field.rank == 1 ? setByteArrayField(env, object, name, at, lengthOf(field, 0))
                              : storeArray();
     case FieldKind::kRecord:
-      return field.rank == 0 ? storeNew(env, object, field, build(env, *field.element, at))
+      return field.rank == 0 ? storeNew(env, object, field, name, build(env, *field.element, at))
                              : storeArray();
     case FieldKind::kPart:
-      return setFields(env, object, *field.element, at);
+      return setFields(env, object, lookup.withFieldsOf(env, *field.element), *field.element, at);
   }
   return kFailed;  // GCOV_EXCL_LINE: the switch answers for every kind.
 }
 
-int setFields(JNIEnv* env, jobject object, const ClassMap& map, const std::byte* record) {
+int setFields(Env env, jobject object, const ClassLookup& lookup, const ClassMap& map,
+              const std::byte* record) {
   for (const Field& field : map.fields) {
-    if (setField(env, object, field, record + field.offset) != kOk) {
+    if (setField(env, object, lookup, field, record + field.offset) != kOk) {
       return kFailed;
     }
   }
@@ -189,11 +193,11 @@ int setFields(JNIEnv* env, jobject object, const ClassMap& map, const std::byte*
 
 /// Whether the reading of an object or an array inside ended with an exception. Any other failure
 /// is the inner reader's own.
-bool stopped(JNIEnv* env, int result) { return result != kOk && exceptionPending(env); }
+bool stopped(Env env, int result) { return result != kOk && exceptionPending(env); }
 
 /// Reads the elements of one dimension, as many as there is room for. An element that is missing,
 /// or whose reading ended without an exception, is passed over; an exception ends the array.
-int readElements(JNIEnv* env, const Field& field, std::size_t dimension, jobjectArray array,
+int readElements(Env env, const Field& field, std::size_t dimension, jobjectArray array,
                  std::byte* at) {
   const auto readElement = [&](jobject element, std::size_t stride) {
     if (dimension + 1 == field.rank) {
@@ -218,8 +222,8 @@ int readElements(JNIEnv* env, const Field& field, std::size_t dimension, jobject
 }
 
 /// Reads the object or array of a field.
-int getObject(JNIEnv* env, jobject object, const Field& field, std::byte* at) {
-  const jobject value = getObjectField(env, object, field.name, field.signature);
+int getObject(Env env, jobject object, const Field& field, FieldName name, std::byte* at) {
+  const jobject value = getObjectField(env, object, name, field.signature);
   if (value == nullptr) {
     return kNothingToRead;
   }
@@ -233,8 +237,8 @@ int getObject(JNIEnv* env, jobject object, const Field& field, std::byte* at) {
   return kOk;
 }
 
-int getInt(JNIEnv* env, jobject object, const Field& field, std::byte* at) {
-  const auto value = static_cast<std::int32_t>(getIntField(env, object, field.name));
+int getInt(Env env, jobject object, const Field& field, FieldName name, std::byte* at) {
+  const auto value = static_cast<std::int32_t>(getIntField(env, object, name));
   // The -1 of a field that could not be read is told from a stored one by the exception.
   if (exceptionPending(env)) {
     return kFailed;
@@ -247,42 +251,41 @@ int getInt(JNIEnv* env, jobject object, const Field& field, std::byte* at) {
   return kOk;
 }
 
-int getField(JNIEnv* env, jobject object, const Field& field, std::byte* at) {
+int getField(Env env, jobject object, const ClassLookup& lookup, const Field& field,
+             std::byte* at) {
+  const FieldName name = lookup[field];
   switch (field.kind) {  // GCOV_EXCL_BR_LINE: a case for every kind.
     case FieldKind::kInt32:
       if (field.rank == 0) {
-        return getInt(env, object, field, at);
+        return getInt(env, object, field, name, at);
       }
-      return field.rank == 1
-                 ? getIntArrayField(env, object, field.name, intsAt(at), lengthOf(field, 0))
-                 : getIntMatrixField(env, object, field.name, intsAt(at), lengthOf(field, 0),
-                                     lengthOf(field, 1));
+      return field.rank == 1 ? getIntArrayField(env, object, name, intsAt(at), lengthOf(field, 0))
+                             : getIntMatrixField(env, object, name, intsAt(at), lengthOf(field, 0),
+                                                 lengthOf(field, 1));
     case FieldKind::kInt8:
       if (field.rank == 0) {
-        return getInt(env, object, field, at);
+        return getInt(env, object, field, name, at);
       }
       return field.rank == 1
-                 ? getIntArrayFieldAsBytes(env, object, field.name, bytesAt(at), field.extents[0])
-                 : getObject(env, object, field, at);
+                 ? getIntArrayFieldAsBytes(env, object, name, bytesAt(at), field.extents[0])
+                 : getObject(env, object, field, name, at);
     case FieldKind::kUInt8:
-      return getInt(env, object, field, at);
+      return getInt(env, object, field, name, at);
     case FieldKind::kText:
-      return field.rank == 0
-                 ? getStringField(env, object, field.name, textAt(at), field.elementBytes)
-                 : getStringArrayField(env, object, field.name, textAt(at), field.elementBytes,
-                                       field.extents[0]);
+      return field.rank == 0 ? getStringField(env, object, name, textAt(at), field.elementBytes)
+                             : getStringArrayField(env, object, name, textAt(at),
+                                                   field.elementBytes, field.extents[0]);
     case FieldKind::kBytes:
       switch (field.rank) {
         case 1:
-          return getByteArrayField(env, object, field.name, at, lengthOf(field, 0));
+          return getByteArrayField(env, object, name, at, lengthOf(field, 0));
         case 2:
-          return getByteMatrixField(env, object, field.name, at, lengthOf(field, 0),
-                                    lengthOf(field, 1));
+          return getByteMatrixField(env, object, name, at, lengthOf(field, 0), lengthOf(field, 1));
         default:
           return kFailed;  // Built only.
       }
     case FieldKind::kRecord:
-      return getObject(env, object, field, at);
+      return getObject(env, object, field, name, at);
     case FieldKind::kPart:
       return read(env, *field.element, object, at);
   }
@@ -291,20 +294,21 @@ int getField(JNIEnv* env, jobject object, const Field& field, std::byte* at) {
 
 }  // namespace
 
-jobject build(JNIEnv* env, const ClassMap& map, const void* record) {
+jobject build(Env env, const ClassMap& map, const void* record) {
   flushOutput();
   if (record == nullptr) {
     return nullptr;
   }
-  const jobject object = newObjectByName(env, map.className);
+  ClassLookup lookup = ClassLookup::toBuild(env, map);
+  const jobject object = lookup.newObject(env);
   if (object == nullptr ||
-      setFields(env, object, map, static_cast<const std::byte*>(record)) != kOk) {
+      setFields(env, object, lookup, map, static_cast<const std::byte*>(record)) != kOk) {
     return nullptr;
   }
   return object;
 }
 
-jobjectArray buildArray(JNIEnv* env, const ClassMap& map, const void* records, jsize length,
+jobjectArray buildArray(Env env, const ClassMap& map, const void* records, jsize length,
                         std::size_t recordBytes) {
   const jobjectArray array = newObjectArrayByName(env, map.className, length);
   if (array == nullptr) {
@@ -321,12 +325,14 @@ jobjectArray buildArray(JNIEnv* env, const ClassMap& map, const void* records, j
   return array;
 }
 
-int read(JNIEnv* env, const ClassMap& map, jobject object, void* record) {
+int read(Env env, const ClassMap& map, jobject object, void* record) {
   if (object == nullptr || record == nullptr) {
     return kNothingToRead;
   }
+  const ClassLookup lookup = ClassLookup::toRead(env, map, object);
   for (const Field& field : map.fields) {
-    const int result = getField(env, object, field, static_cast<std::byte*>(record) + field.offset);
+    const int result =
+        getField(env, object, lookup, field, static_cast<std::byte*>(record) + field.offset);
     if (result != kOk) {
       return result;
     }

@@ -10,6 +10,7 @@
 #include <type_traits>
 
 #include "arraylib/record.h"
+#include "bridge/env.h"
 
 // A class map lists the fields of one Java class in the order in which they are filled, each with
 // its place in the record of the same name. It is data: `build` and `read` walk it.
@@ -92,18 +93,18 @@ struct ClassMap {
 /// Returns a new Java object filled from `record`, or null: where the record is null, or anything
 /// but a text could not be stored. Flushes standard output first, as does the building of every
 /// object inside it.
-jobject build(JNIEnv* env, const ClassMap& map, const void* record);
+jobject build(Env env, const ClassMap& map, const void* record);
 
 /// Returns a new array of `length` objects, built from records that lie `recordBytes` apart, or
 /// null where one of them could not be built.
-jobjectArray buildArray(JNIEnv* env, const ClassMap& map, const void* records, jsize length,
+jobjectArray buildArray(Env env, const ClassMap& map, const void* records, jsize length,
                         std::size_t recordBytes);
 
 /// Fills `record` from a Java object. Returns 0; -1 where the object, the record, or an object or
 /// an array inside it is missing; 2817 where another field could not be read. Stops at the first
 /// failure, and the later members keep their bytes. The failure of an object inside ends the
 /// reading of that object alone.
-int read(JNIEnv* env, const ClassMap& map, jobject object, void* record);
+int read(Env env, const ClassMap& map, jobject object, void* record);
 
 /// Derives the field of a record member of the type `Member`.
 template <class Member>

@@ -20,19 +20,58 @@ const jint* asJava(const std::int32_t* values) { return reinterpret_cast<const j
 jbyte* asJava(std::byte* bytes) { return reinterpret_cast<jbyte*>(bytes); }
 const jbyte* asJava(const std::byte* bytes) { return reinterpret_cast<const jbyte*>(bytes); }
 
-/// A field of an object, found by name at this moment.
+/// A field of an object, found by name at this moment where it is not known.
 struct FoundField {
-  FoundField(JNIEnv* env, jobject object, const char* name, const char* signature)
-      : type(object == nullptr ? nullptr : env->GetObjectClass(object)),
-        id(type == nullptr ? nullptr : env->GetFieldID(type, name, signature)) {}
+  /// Finds its class.
+  FoundField(Env env, jobject object, FieldName fieldName)
+      : name(fieldName),
+        id(knownField(name)),
+        owner(id != nullptr ? nullptr : knownOwner(env, name)),
+        reference(id != nullptr || owner != nullptr || object == nullptr
+                      ? nullptr
+                      : env->GetObjectClass(object)) {}
+  FoundField(Env env, jobject object, FieldName fieldName, const char* signature)
+      : FoundField(env, object, fieldName) {
+    find(env, signature);
+  }
+  void find(Env env, const char* signature) {
+    const jclass type = owner != nullptr ? owner : reference;
+    if (id == nullptr && type != nullptr) {
+      id = env->GetFieldID(type, textOf(name), signature);
+      keepField(name, id);
+    }
+  }
+  [[nodiscard]] bool hasClass() const {
+    return id != nullptr || owner != nullptr || reference != nullptr;
+  }
   explicit operator bool() const { return id != nullptr; }
 
-  jclass type;
+  FieldName name;
   jfieldID id;
+  jclass owner;
+  /// To the class, where it was not known.
+  jclass reference;
+};
+
+/// A class, found by name at this moment where it is not known; null with the exception.
+struct FoundClass {
+  FoundClass(Env env, const char* name)
+      : type(knownClass(env, name)),
+        reference(type != nullptr ? nullptr : findClassOrThrow(env, name)) {
+    if (reference != nullptr) {
+      type = keepClass(env, name, reference);
+      reference = type != nullptr ? nullptr : reference;
+      type = type != nullptr ? type : reference;
+    }
+  }
+
+  jclass type;
+  /// To the class, where it is not kept.
+  jclass reference;
 };
 
 /// Ends a store or a copy: the exception that it may have raised, then the reference behind it.
-int finish(JNIEnv* env, jobject reference) {
+int finish(Env env, jobject reference) {
   if (exceptionPending(env)) {
     return kFailed;
   }
@@ -50,7 +89,7 @@ void copyText(const char* text, char* buffer, std::size_t length) {
 }
 
 /// Copies the characters of `text`; `kFailed` where they cannot be had.
-int copyCharacters(JNIEnv* env, jstring text, char* buffer, std::size_t length) {
+int copyCharacters(Env env, jstring text, char* buffer, std::size_t length) {
   const char* const characters = env->GetStringUTFChars(text, nullptr);
   if (characters == nullptr) {
     return kFailed;
@@ -72,7 +111,7 @@ jshort toScaledShort(double value) {
 
 /// Copies the rows of a matrix field. `Region` copies one row: `(row, index)`.
 template <class Region>
-int getMatrixField(JNIEnv* env, jobject object, const char* name, const char* signature, jsize rows,
+int getMatrixField(Env env, jobject object, FieldName name, const char* signature, jsize rows,
                    Region copyRow) {
   const auto array = static_cast<jobjectArray>(getObjectField(env, object, name, signature));
   if (array == nullptr) {
@@ -94,20 +133,20 @@ int getMatrixField(JNIEnv* env, jobject object, const char* name, const char* si
 
 }  // namespace
 
-void throwNewByName(JNIEnv* env, const char* className, const char* message) {
+void throwNewByName(Env env, const char* className, const char* message) {
   const jclass type = findClassOrThrow(env, className);
   if (type != nullptr) {
     env->ThrowNew(type, message);
   }
 }
 
-void throwClassNotFound(JNIEnv* env, const char* className) {
+void throwClassNotFound(Env env, const char* className) {
   if (std::strncmp(className, kClassNotFoundClass, sizeof kClassNotFoundClass) != 0) {
     throwNewByName(env, kClassNotFoundClass, className);
   }
 }
 
-void throwArrayException(JNIEnv* env, int code) {
+void throwArrayException(Env env, int code) {
   if (code == kNeverThrown) {
     return;
   }
@@ -129,15 +168,15 @@ void throwArrayException(JNIEnv* env, int code) {
   }
 }
 
-bool exceptionPending(JNIEnv* env) { return env->ExceptionOccurred() != nullptr; }
+bool exceptionPending(Env env) { return env->ExceptionOccurred() != nullptr; }
 
-void deleteLocalRef(JNIEnv* env, jobject reference) {
-  if (env != nullptr && reference != nullptr) {
+void deleteLocalRef(Env env, jobject reference) {
+  if (env && reference != nullptr) {
     env->DeleteLocalRef(reference);
   }
 }
 
-jclass findClassOrThrow(JNIEnv* env, const char* className) {
+jclass findClassOrThrow(Env env, const char* className) {
   const jclass type = env->FindClass(className);
   if (type == nullptr) {
     throwClassNotFound(env, className);
@@ -145,7 +184,7 @@ jclass findClassOrThrow(JNIEnv* env, const char* className) {
   return type;
 }
 
-jobject newObjectByName(JNIEnv* env, const char* className) {
+jobject newObjectByName(Env env, const char* className) {
   const jclass type = findClassOrThrow(env, className);
   if (type == nullptr) {
     return nullptr;
@@ -161,17 +200,17 @@ jobject newObjectByName(JNIEnv* env, const char* className) {
   return object;
 }
 
-jobjectArray newObjectArrayByName(JNIEnv* env, const char* elementClassName, jsize length) {
-  const jclass type = findClassOrThrow(env, elementClassName);
-  if (type == nullptr) {
+jobjectArray newObjectArrayByName(Env env, const char* elementClassName, jsize length) {
+  const FoundClass found(env, elementClassName);
+  if (found.type == nullptr) {
     return nullptr;
   }
-  const jobjectArray array = env->NewObjectArray(length, type, nullptr);
-  deleteLocalRef(env, type);
+  const jobjectArray array = env->NewObjectArray(length, found.type, nullptr);
+  deleteLocalRef(env, found.reference);
   return array;
 }
 
-jobject newInteger(JNIEnv* env, jint value) {
+jobject newInteger(Env env, jint value) {
   const jclass type = findClassOrThrow(env, "java/lang/Integer");
   if (type == nullptr) {
     return nullptr;
@@ -185,7 +224,7 @@ jobject newInteger(JNIEnv* env, jint value) {
   return integer;
 }
 
-jintArray newIntArrayFromBytes(JNIEnv* env, const std::int8_t* bytes, jsize count) {
+jintArray newIntArrayFromBytes(Env env, const std::int8_t* bytes, jsize count) {
   const jintArray array = env->NewIntArray(count);
   if (array == nullptr) {
     return nullptr;
@@ -199,7 +238,7 @@ jintArray newIntArrayFromBytes(JNIEnv* env, const std::int8_t* bytes, jsize coun
   return array;
 }
 
-jintArray newIntArray(JNIEnv* env, const std::int32_t* values, jsize count) {
+jintArray newIntArray(Env env, const std::int32_t* values, jsize count) {
   const jintArray array = env->NewIntArray(count);
   if (array == nullptr) {
     return nullptr;
@@ -208,7 +247,7 @@ jintArray newIntArray(JNIEnv* env, const std::int32_t* values, jsize count) {
   return exceptionPending(env) ? nullptr : array;
 }
 
-jbyteArray newByteArray(JNIEnv* env, const std::byte* bytes, jsize count) {
+jbyteArray newByteArray(Env env, const std::byte* bytes, jsize count) {
   const jbyteArray array = env->NewByteArray(count);
   if (array == nullptr) {
     return nullptr;
@@ -217,52 +256,51 @@ jbyteArray newByteArray(JNIEnv* env, const std::byte* bytes, jsize count) {
   return exceptionPending(env) ? nullptr : array;
 }
 
-int storeArrayElement(JNIEnv* env, jobjectArray array, jsize index, jobject element) {
+int storeArrayElement(Env env, jobjectArray array, jsize index, jobject element) {
   env->SetObjectArrayElement(array, index, element);
   return finish(env, element);
 }
 
-jint getIntField(JNIEnv* env, jobject object, const char* name) {
+jint getIntField(Env env, jobject object, FieldName name) {
   const FoundField field(env, object, name, "I");
   if (!field) {
     return -1;
   }
   const jint value = env->GetIntField(object, field.id);
-  deleteLocalRef(env, field.type);
+  deleteLocalRef(env, field.reference);
   return value;
 }
 
-int setIntField(JNIEnv* env, jobject object, const char* name, jint value) {
+int setIntField(Env env, jobject object, FieldName name, jint value) {
   const FoundField field(env, object, name, "I");
   if (!field) {
     return kFailed;
   }
   env->SetIntField(object, field.id, value);
-  return finish(env, field.type);
+  return finish(env, field.reference);
 }
 
-jobject getObjectField(JNIEnv* env, jobject object, const char* name, const char* signature) {
+jobject getObjectField(Env env, jobject object, FieldName name, const char* signature) {
   const FoundField field(env, object, name, signature);
   if (!field) {
     return nullptr;
   }
   const jobject value = env->GetObjectField(object, field.id);
-  deleteLocalRef(env, field.type);
+  deleteLocalRef(env, field.reference);
   return value;
 }
 
-int setObjectFieldByName(JNIEnv* env, jobject object, const char* name, const char* signature,
+int setObjectFieldByName(Env env, jobject object, FieldName name, const char* signature,
                          jobject value) {
   const FoundField field(env, object, name, signature);
   if (!field) {
     return kFailed;
   }
   env->SetObjectField(object, field.id, value);
-  return finish(env, field.type);
+  return finish(env, field.reference);
 }
 
-int getStringField(JNIEnv* env, jobject object, const char* name, char* buffer,
-                   std::size_t length) {
+int getStringField(Env env, jobject object, FieldName name, char* buffer, std::size_t length) {
   const auto text = static_cast<jstring>(getObjectField(env, object, name, kStringSignature));
   if (text == nullptr || copyCharacters(env, text, buffer, length) != kOk) {
     return kFailed;
@@ -271,30 +309,29 @@ int getStringField(JNIEnv* env, jobject object, const char* name, char* buffer,
   return kOk;
 }
 
-// The string is made between the two look-ups, so this store cannot begin with a FoundField.
-int setStringField(JNIEnv* env, jobject object, const char* name, const char* value) {
-  const jclass type = object == nullptr ? nullptr : env->GetObjectClass(object);
-  if (type == nullptr) {
+// The string is made between the look-ups of the class and of the field.
+int setStringField(Env env, jobject object, FieldName name, const char* value) {
+  FoundField field(env, object, name);
+  if (!field.hasClass()) {
     return kFailed;
   }
   const jstring text = env->NewStringUTF(value);
   if (text == nullptr) {
     return kFailed;
   }
-  const jfieldID field = env->GetFieldID(type, name, kStringSignature);
-  if (field == nullptr) {
+  field.find(env, kStringSignature);
+  if (!field) {
     return kFailed;
   }
-  env->SetObjectField(object, field, text);
-  if (finish(env, type) != kOk) {
+  env->SetObjectField(object, field.id, text);
+  if (finish(env, field.reference) != kOk) {
     return kFailed;
   }
   deleteLocalRef(env, text);
   return kOk;
 }
 
-int setSjisStringField(JNIEnv* env, jobject object, const char* name, const char* bytes,
-                       jsize count) {
+int setSjisStringField(Env env, jobject object, FieldName name, const char* bytes, jsize count) {
   // Looked up directly: a missing String class is not reported as ClassNotFoundException here.
   const jclass stringType = env->FindClass(kStringClass);
   if (stringType == nullptr) {
@@ -324,7 +361,7 @@ int setSjisStringField(JNIEnv* env, jobject object, const char* name, const char
     return kFailed;
   }
   env->SetObjectField(object, field.id, text);
-  if (finish(env, field.type) != kOk) {
+  if (finish(env, field.reference) != kOk) {
     return kFailed;
   }
   deleteLocalRef(env, stringType);
@@ -334,27 +371,26 @@ int setSjisStringField(JNIEnv* env, jobject object, const char* name, const char
   return kOk;
 }
 
-double getScaledShortField(JNIEnv* env, jobject object, const char* name) {
+double getScaledShortField(Env env, jobject object, FieldName name) {
   const FoundField field(env, object, name, "S");
   if (!field) {
     return -1.0;
   }
   const jshort value = env->GetShortField(object, field.id);
-  deleteLocalRef(env, field.type);
+  deleteLocalRef(env, field.reference);
   return value / kScale;
 }
 
-int setScaledShortField(JNIEnv* env, jobject object, const char* name, double value) {
+int setScaledShortField(Env env, jobject object, FieldName name, double value) {
   const FoundField field(env, object, name, "S");
   if (!field) {
     return kFailed;
   }
   env->SetShortField(object, field.id, toScaledShort(value));
-  return finish(env, field.type);
+  return finish(env, field.reference);
 }
 
-int getIntArrayField(JNIEnv* env, jobject object, const char* name, std::int32_t* values,
-                     jsize count) {
+int getIntArrayField(Env env, jobject object, FieldName name, std::int32_t* values, jsize count) {
   const auto array = static_cast<jintArray>(getObjectField(env, object, name, "[I"));
   if (array == nullptr) {
     return kFailed;
@@ -363,7 +399,7 @@ int getIntArrayField(JNIEnv* env, jobject object, const char* name, std::int32_t
   return finish(env, array);
 }
 
-int setIntArrayField(JNIEnv* env, jobject object, const char* name, const std::int32_t* values,
+int setIntArrayField(Env env, jobject object, FieldName name, const std::int32_t* values,
                      jsize count) {
   const jintArray array = newIntArray(env, values, count);
   if (array == nullptr) {
@@ -374,7 +410,7 @@ int setIntArrayField(JNIEnv* env, jobject object, const char* name, const std::i
   return result;
 }
 
-int getIntArrayFieldAsBytes(JNIEnv* env, jobject object, const char* name, std::int8_t* bytes,
+int getIntArrayFieldAsBytes(Env env, jobject object, FieldName name, std::int8_t* bytes,
                             std::size_t capacity) {
   const auto array = static_cast<jintArray>(getObjectField(env, object, name, "[I"));
   if (array == nullptr || copyIntArrayAsBytes(env, array, bytes, capacity) != kOk) {
@@ -384,7 +420,7 @@ int getIntArrayFieldAsBytes(JNIEnv* env, jobject object, const char* name, std::
   return kOk;
 }
 
-int copyIntArrayAsBytes(JNIEnv* env, jintArray array, std::int8_t* bytes, std::size_t capacity) {
+int copyIntArrayAsBytes(Env env, jintArray array, std::int8_t* bytes, std::size_t capacity) {
   const auto length = static_cast<std::size_t>(env->GetArrayLength(array));
   if (length == 0) {
     if (capacity > 0) {
@@ -403,16 +439,15 @@ int copyIntArrayAsBytes(JNIEnv* env, jintArray array, std::int8_t* bytes, std::s
   return kOk;
 }
 
-int getIntMatrixField(JNIEnv* env, jobject object, const char* name, std::int32_t* values,
-                      jsize rows, jsize cols) {
+int getIntMatrixField(Env env, jobject object, FieldName name, std::int32_t* values, jsize rows,
+                      jsize cols) {
   return getMatrixField(env, object, name, "[[I", rows, [=](jobject row, std::size_t index) {
     env->GetIntArrayRegion(static_cast<jintArray>(row), 0, cols,
                            asJava(values + index * static_cast<std::size_t>(cols)));
   });
 }
 
-int getByteArrayField(JNIEnv* env, jobject object, const char* name, std::byte* bytes,
-                      jsize count) {
+int getByteArrayField(Env env, jobject object, FieldName name, std::byte* bytes, jsize count) {
   const auto array = static_cast<jbyteArray>(getObjectField(env, object, name, "[B"));
   if (array == nullptr) {
     return kFailed;
@@ -421,7 +456,7 @@ int getByteArrayField(JNIEnv* env, jobject object, const char* name, std::byte* 
   return finish(env, array);
 }
 
-int setByteArrayField(JNIEnv* env, jobject object, const char* name, const std::byte* bytes,
+int setByteArrayField(Env env, jobject object, FieldName name, const std::byte* bytes,
                       jsize count) {
   const auto array = static_cast<jbyteArray>(getObjectField(env, object, name, "[B"));
   if (array == nullptr) {
@@ -431,7 +466,7 @@ int setByteArrayField(JNIEnv* env, jobject object, const char* name, const std::
   return finish(env, array);
 }
 
-int getByteMatrixField(JNIEnv* env, jobject object, const char* name, std::byte* bytes, jsize rows,
+int getByteMatrixField(Env env, jobject object, FieldName name, std::byte* bytes, jsize rows,
                        jsize cols) {
   return getMatrixField(env, object, name, "[[B", rows, [=](jobject row, std::size_t index) {
     env->GetByteArrayRegion(static_cast<jbyteArray>(row), 0, cols,
@@ -439,8 +474,7 @@ int getByteMatrixField(JNIEnv* env, jobject object, const char* name, std::byte*
   });
 }
 
-int getScaledShortArrayField(JNIEnv* env, jobject object, const char* name, double* values,
-                             jsize count) {
+int getScaledShortArrayField(Env env, jobject object, FieldName name, double* values, jsize count) {
   const auto array = static_cast<jshortArray>(getObjectField(env, object, name, "[S"));
   if (array == nullptr) {
     return kFailed;
@@ -461,7 +495,7 @@ int getScaledShortArrayField(JNIEnv* env, jobject object, const char* name, doub
   return kOk;
 }
 
-int setScaledShortArrayField(JNIEnv* env, jobject object, const char* name, const double* values,
+int setScaledShortArrayField(Env env, jobject object, FieldName name, const double* values,
                              jsize count) {
   const auto length = static_cast<std::size_t>(count);
   const auto shorts = static_cast<jshort*>(allocateRecord(length * sizeof(jshort)));
@@ -485,8 +519,8 @@ int setScaledShortArrayField(JNIEnv* env, jobject object, const char* name, cons
   return result;
 }
 
-int getStringArrayField(JNIEnv* env, jobject object, const char* name, char* table,
-                        std::size_t stride, std::size_t capacity) {
+int getStringArrayField(Env env, jobject object, FieldName name, char* table, std::size_t stride,
+                        std::size_t capacity) {
   const auto array =
       static_cast<jobjectArray>(getObjectField(env, object, name, "[Ljava/lang/String;"));
   if (array == nullptr) {
@@ -505,8 +539,8 @@ int getStringArrayField(JNIEnv* env, jobject object, const char* name, char* tab
   return kOk;
 }
 
-int setStringArrayField(JNIEnv* env, jobject object, const char* name, const char* table,
-                        jsize count, std::size_t stride) {
+int setStringArrayField(Env env, jobject object, FieldName name, const char* table, jsize count,
+                        std::size_t stride) {
   const jobjectArray array = newObjectArrayByName(env, kStringClass, count);
   if (array == nullptr) {
     return kFailed;
@@ -522,7 +556,7 @@ int setStringArrayField(JNIEnv* env, jobject object, const char* name, const cha
   return kOk;
 }
 
-int copyJavaStringToBuffer(JNIEnv* env, jstring text, char* buffer, std::size_t length) {
+int copyJavaStringToBuffer(Env env, jstring text, char* buffer, std::size_t length) {
   if (text == nullptr || env->GetStringUTFLength(text) == 0) {
     buffer[0] = '\0';
     return kFailed;

@@ -6,8 +6,10 @@
 #include <cstdint>
 #include <limits>
 
+#include "bridge/env.h"
+
 // The operations through which the bridge touches Java. Every one addresses a field by its name and
-// JNI signature at the moment of the call; no class, method or field identifier is kept.
+// JNI signature at the moment of the call; `env.h` says what is kept between two of them.
 //
 // Unless stated otherwise an operation returns `kOk` or `kFailed`. On success it deletes the local
 // references that it made; on failure it returns at once and leaves them to the JVM, which releases
@@ -37,123 +39,119 @@ inline constexpr char kArrayExceptionClass[] = "tessaly/str/diskarray/DiskArrayE
 inline constexpr char kArrayExceptionConstructor[] = "(I)V";
 
 /// Throws a new `className` (slash form) with `message`.
-void throwNewByName(JNIEnv* env, const char* className, const char* message);
+void throwNewByName(Env env, const char* className, const char* message);
 
 /// Throws `java.lang.ClassNotFoundException` with the slash-form `className` as its message. Does
 /// nothing where that is the class that is missing.
-void throwClassNotFound(JNIEnv* env, const char* className);
+void throwClassNotFound(Env env, const char* className);
 
 /// Throws `DiskArrayException(code)`; `java.lang.OutOfMemoryError` with an empty message for
 /// `kOutOfMemory`; nothing for `kNeverThrown`. A class or constructor that is missing leaves the
 /// exception of its own look-up pending instead.
-void throwArrayException(JNIEnv* env, int code);
+void throwArrayException(Env env, int code);
 
 /// Whether an exception is pending.
-bool exceptionPending(JNIEnv* env);
+bool exceptionPending(Env env);
 
 // Classes and objects
 
 /// Deletes `reference` where both it and `env` are given.
-void deleteLocalRef(JNIEnv* env, jobject reference);
+void deleteLocalRef(Env env, jobject reference);
 
 /// Returns the class, or null with `java.lang.ClassNotFoundException` pending.
-jclass findClassOrThrow(JNIEnv* env, const char* className);
+jclass findClassOrThrow(Env env, const char* className);
 
 /// Returns a new object made by its no-argument constructor, or null.
-jobject newObjectByName(JNIEnv* env, const char* className);
+jobject newObjectByName(Env env, const char* className);
 
 /// Returns a new array of `length` nulls, or null.
-jobjectArray newObjectArrayByName(JNIEnv* env, const char* elementClassName, jsize length);
+jobjectArray newObjectArrayByName(Env env, const char* elementClassName, jsize length);
 
 /// Returns a new `java.lang.Integer`, or null.
-jobject newInteger(JNIEnv* env, jint value);
+jobject newInteger(Env env, jint value);
 
 /// Returns a new `int[]` of `count` bytes, each widened with its sign, or null.
-jintArray newIntArrayFromBytes(JNIEnv* env, const std::int8_t* bytes, jsize count);
+jintArray newIntArrayFromBytes(Env env, const std::int8_t* bytes, jsize count);
 
 /// Returns a new `int[]` of `count` ints, or null.
-jintArray newIntArray(JNIEnv* env, const std::int32_t* values, jsize count);
+jintArray newIntArray(Env env, const std::int32_t* values, jsize count);
 
 /// Returns a new `byte[]` of `count` bytes, or null.
-jbyteArray newByteArray(JNIEnv* env, const std::byte* bytes, jsize count);
+jbyteArray newByteArray(Env env, const std::byte* bytes, jsize count);
 
 /// Stores `element` at `index` and deletes its local reference.
-int storeArrayElement(JNIEnv* env, jobjectArray array, jsize index, jobject element);
+int storeArrayElement(Env env, jobjectArray array, jsize index, jobject element);
 
 // Single values
 
 /// Returns the value of an `I` field, or -1 where the class or the field is missing. Does not test
 /// for a pending exception.
-jint getIntField(JNIEnv* env, jobject object, const char* name);
-int setIntField(JNIEnv* env, jobject object, const char* name, jint value);
+jint getIntField(Env env, jobject object, FieldName name);
+int setIntField(Env env, jobject object, FieldName name, jint value);
 
 /// Returns a local reference to the field's value, or null.
-jobject getObjectField(JNIEnv* env, jobject object, const char* name, const char* signature);
-int setObjectFieldByName(JNIEnv* env, jobject object, const char* name, const char* signature,
+jobject getObjectField(Env env, jobject object, FieldName name, const char* signature);
+int setObjectFieldByName(Env env, jobject object, FieldName name, const char* signature,
                          jobject value);
 
 /// Copies a `String` field as modified UTF-8 into `buffer` of `length` bytes: cut to `length` - 1
 /// bytes, terminated, and zero-filled behind the text.
-int getStringField(JNIEnv* env, jobject object, const char* name, char* buffer, std::size_t length);
+int getStringField(Env env, jobject object, FieldName name, char* buffer, std::size_t length);
 /// Sets a `String` field from the NUL-terminated modified UTF-8 `value`.
-int setStringField(JNIEnv* env, jobject object, const char* name, const char* value);
+int setStringField(Env env, jobject object, FieldName name, const char* value);
 /// Sets a `String` field from Shift_JIS `bytes`, of which `count` are handed to Java and those
 /// before the first NUL make up the text.
-int setSjisStringField(JNIEnv* env, jobject object, const char* name, const char* bytes,
-                       jsize count);
+int setSjisStringField(Env env, jobject object, FieldName name, const char* bytes, jsize count);
 
 /// Returns an `S` field divided by 100.0, or -1.0 where the class or the field is missing.
-double getScaledShortField(JNIEnv* env, jobject object, const char* name);
+double getScaledShortField(Env env, jobject object, FieldName name);
 /// Sets an `S` field to `value` times 100.0, truncated toward zero; its low 16 bits are kept.
-int setScaledShortField(JNIEnv* env, jobject object, const char* name, double value);
+int setScaledShortField(Env env, jobject object, FieldName name, double value);
 
 // Arrays. A fixed-length region starts at element 0; a Java array that is shorter than it leaves
 // `java.lang.ArrayIndexOutOfBoundsException` pending.
 
 /// Copies the first `count` elements of an `int[]` field.
-int getIntArrayField(JNIEnv* env, jobject object, const char* name, std::int32_t* values,
-                     jsize count);
+int getIntArrayField(Env env, jobject object, FieldName name, std::int32_t* values, jsize count);
 /// Stores a new `int[]` of `count` elements.
-int setIntArrayField(JNIEnv* env, jobject object, const char* name, const std::int32_t* values,
+int setIntArrayField(Env env, jobject object, FieldName name, const std::int32_t* values,
                      jsize count);
 /// Copies the low byte of every element of an `int[]` field, `capacity` at the most; an empty array
 /// gives a single 0 byte.
-int getIntArrayFieldAsBytes(JNIEnv* env, jobject object, const char* name, std::int8_t* bytes,
+int getIntArrayFieldAsBytes(Env env, jobject object, FieldName name, std::int8_t* bytes,
                             std::size_t capacity = kNoCapacity);
 /// The same of an array at hand.
-int copyIntArrayAsBytes(JNIEnv* env, jintArray array, std::int8_t* bytes,
+int copyIntArrayAsBytes(Env env, jintArray array, std::int8_t* bytes,
                         std::size_t capacity = kNoCapacity);
 /// Copies the first `cols` elements of the first `rows` rows of an `int[][]` field.
-int getIntMatrixField(JNIEnv* env, jobject object, const char* name, std::int32_t* values,
-                      jsize rows, jsize cols);
+int getIntMatrixField(Env env, jobject object, FieldName name, std::int32_t* values, jsize rows,
+                      jsize cols);
 /// Copies the first `count` elements of a `byte[]` field.
-int getByteArrayField(JNIEnv* env, jobject object, const char* name, std::byte* bytes, jsize count);
+int getByteArrayField(Env env, jobject object, FieldName name, std::byte* bytes, jsize count);
 /// Copies `count` bytes into the `byte[]` that the field already holds.
-int setByteArrayField(JNIEnv* env, jobject object, const char* name, const std::byte* bytes,
-                      jsize count);
+int setByteArrayField(Env env, jobject object, FieldName name, const std::byte* bytes, jsize count);
 /// Copies the first `cols` elements of the first `rows` rows of a `byte[][]` field.
-int getByteMatrixField(JNIEnv* env, jobject object, const char* name, std::byte* bytes, jsize rows,
+int getByteMatrixField(Env env, jobject object, FieldName name, std::byte* bytes, jsize rows,
                        jsize cols);
 /// Copies the first `count` elements of a `short[]` field, each divided by 100.0.
-int getScaledShortArrayField(JNIEnv* env, jobject object, const char* name, double* values,
-                             jsize count);
+int getScaledShortArrayField(Env env, jobject object, FieldName name, double* values, jsize count);
 /// Stores a new `short[]` of `count` values times 100.0, truncated as in `setScaledShortField`.
-int setScaledShortArrayField(JNIEnv* env, jobject object, const char* name, const double* values,
+int setScaledShortArrayField(Env env, jobject object, FieldName name, const double* values,
                              jsize count);
 /// Copies the elements of a `String[]` field into slots of `stride` bytes, `capacity` slots at the
 /// most. A text is cut to `stride` - 1 bytes and terminated. Stops at the first null element.
-int getStringArrayField(JNIEnv* env, jobject object, const char* name, char* table,
-                        std::size_t stride, std::size_t capacity = kNoCapacity);
+int getStringArrayField(Env env, jobject object, FieldName name, char* table, std::size_t stride,
+                        std::size_t capacity = kNoCapacity);
 /// Stores a new `String[]` made of `count` slots of `stride` bytes. The result of the last store is
 /// not looked at.
-int setStringArrayField(JNIEnv* env, jobject object, const char* name, const char* table,
-                        jsize count, std::size_t stride);
+int setStringArrayField(Env env, jobject object, FieldName name, const char* table, jsize count,
+                        std::size_t stride);
 
 // Arguments
 
 /// Copies `text` as modified UTF-8 into `buffer` of `length` bytes, cut and terminated as in
 /// `getStringField`. An empty text gives an empty buffer and `kFailed`, and so does a null one,
 /// with which JNI must not be called. Where the characters cannot be had the buffer is left alone.
-int copyJavaStringToBuffer(JNIEnv* env, jstring text, char* buffer, std::size_t length);
+int copyJavaStringToBuffer(Env env, jstring text, char* buffer, std::size_t length);
 
 }  // namespace quorvelj

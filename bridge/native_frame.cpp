@@ -5,7 +5,7 @@ namespace {
 
 /// What an object and an array have in common at the end of a query.
 template <class Build>
-auto finishWith(JNIEnv* env, int result, void* record, Build buildResult) {
+auto finishWith(Env env, int result, void* record, Build buildResult) {
   using Object = decltype(buildResult());
   if (result != 0) {
     releaseRecord(record);
@@ -24,7 +24,7 @@ auto finishWith(JNIEnv* env, int result, void* record, Build buildResult) {
 
 }  // namespace
 
-bool copyRequiredText(JNIEnv* env, jstring text, char* buffer, std::size_t length) {
+bool copyRequiredText(Env env, jstring text, char* buffer, std::size_t length) {
   if (text == nullptr) {
     throwArrayException(env, kMissingArgument);
     return false;
@@ -33,18 +33,17 @@ bool copyRequiredText(JNIEnv* env, jstring text, char* buffer, std::size_t lengt
   return true;
 }
 
-jobject finishQuery(JNIEnv* env, int result, const ClassMap& map, void* record) {
+jobject finishQuery(Env env, int result, const ClassMap& map, void* record) {
   return finishWith(env, result, record, [=, &map] { return build(env, map, record); });
 }
 
-jobjectArray finishArrayQuery(JNIEnv* env, int result, const ClassMap& map, void* records,
-                              jsize length, std::size_t recordBytes) {
+jobjectArray finishArrayQuery(Env env, int result, const ClassMap& map, void* records, jsize length,
+                              std::size_t recordBytes) {
   return finishWith(env, result, records,
                     [=, &map] { return buildArray(env, map, records, length, recordBytes); });
 }
 
-bool storeBuilt(JNIEnv* env, jobjectArray array, jsize index, const ClassMap& map,
-                const void* record) {
+bool storeBuilt(Env env, jobjectArray array, jsize index, const ClassMap& map, const void* record) {
   const jobject element = build(env, map, record);
   if (element == nullptr) {
     return false;
@@ -54,7 +53,7 @@ bool storeBuilt(JNIEnv* env, jobjectArray array, jsize index, const ClassMap& ma
   return true;
 }
 
-void fillPartialArray(JNIEnv* env, jobjectArray array, const ClassMap& map, const void* records,
+void fillPartialArray(Env env, jobjectArray array, const ClassMap& map, const void* records,
                       jsize length, std::size_t recordBytes) {
   const auto* record = static_cast<const std::byte*>(records);
   for (jsize index = 0; index < length && storeBuilt(env, array, index, map, record); ++index) {
@@ -62,7 +61,7 @@ void fillPartialArray(JNIEnv* env, jobjectArray array, const ClassMap& map, cons
   }
 }
 
-jobjectArray finishPartialArrayQuery(JNIEnv* env, int result, const ClassMap& map, void* records,
+jobjectArray finishPartialArrayQuery(Env env, int result, const ClassMap& map, void* records,
                                      jsize length, std::size_t recordBytes) {
   if (result != 0) {
     releaseRecord(records);
@@ -80,7 +79,7 @@ jobjectArray finishPartialArrayQuery(JNIEnv* env, int result, const ClassMap& ma
   return array;
 }
 
-void finishUpdate(JNIEnv* env, int result) {
+void finishUpdate(Env env, int result) {
   if (result != 0) {
     throwArrayException(env, result);
     return;

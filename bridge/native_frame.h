@@ -39,15 +39,30 @@ namespace quorvelj {
 
 /// Opens the definition of the native method `QV_<Operation>`. The Java class declares it, and the
 /// generated header with it: a signature that differs from Java's does not compile.
-#define NATIVE_METHOD(Result, Operation, ...)                         \
-  extern "C" {                                                        \
-  extern const quorvelj::Departure departureOf_QV_1##Operation;       \
-  }                                                                   \
-  constinit const quorvelj::Departure departureOf_QV_1##Operation =   \
-      quorvelj::kDepartureOf<struct Operation##_>;                    \
-  extern "C" JNIEXPORT Result JNICALL                                 \
-      Java_tessaly_str_diskarray_DiskArrayUtilityJNI_QV_1##Operation( \
-          JNIEnv* env, jobject __VA_OPT__(, ) __VA_ARGS__)
+#define NATIVE_METHOD(Result, Operation, ...)                                          \
+  extern "C" {                                                                         \
+  extern const quorvelj::Departure departureOf_QV_1##Operation;                        \
+  }                                                                                    \
+  constinit const quorvelj::Departure departureOf_QV_1##Operation =                    \
+      quorvelj::kDepartureOf<struct Operation##_>;                                     \
+  static Result native##Operation(quorvelj::Env env __VA_OPT__(, ) __VA_ARGS__);       \
+  extern "C" JNIEXPORT Result JNICALL                                                  \
+      Java_tessaly_str_diskarray_DiskArrayUtilityJNI_QV_1##Operation(                  \
+          JNIEnv* jni, jobject __VA_OPT__(, ) __VA_ARGS__) {                           \
+    quorvelj::NativeCall call(jni);                                                    \
+    return native##Operation(                                                          \
+        call.env() __VA_OPT__(, QUORVELJ_FOR_EACH(QUORVELJ_ARGUMENT, , __VA_ARGS__))); \
+  }                                                                                    \
+  static Result native##Operation(quorvelj::Env env __VA_OPT__(, ) __VA_ARGS__)
+
+// The name of a parameter: its declaration without the type.
+#define QUORVELJ_ARGUMENT(unused, parameter) QUORVELJ_PASTE(QUORVELJ_NAME_, parameter)
+#define QUORVELJ_NAME_jbyteArray
+#define QUORVELJ_NAME_jint
+#define QUORVELJ_NAME_jintArray
+#define QUORVELJ_NAME_jobject
+#define QUORVELJ_NAME_jobjectArray
+#define QUORVELJ_NAME_jstring
 
 /// Allocates an uninitialised record with its spare bytes, or returns null.
 template <class Record>
@@ -73,11 +88,11 @@ class OwnRecord {
 };
 
 /// Copies a text argument, or throws 258 and returns false where it is null.
-bool copyRequiredText(JNIEnv* env, jstring text, char* buffer, std::size_t length);
+bool copyRequiredText(Env env, jstring text, char* buffer, std::size_t length);
 
 /// Copies a text argument. A null text, and one whose characters cannot be had, is an empty one.
 template <std::size_t N>
-void copyOptionalText(JNIEnv* env, jstring text, char (&buffer)[N]) {
+void copyOptionalText(Env env, jstring text, char (&buffer)[N]) {
   buffer[0] = '\0';
   copyJavaStringToBuffer(env, text, buffer, N);
 }
@@ -85,35 +100,34 @@ void copyOptionalText(JNIEnv* env, jstring text, char (&buffer)[N]) {
 /// Ends a query: throws what the library returned, or builds the object from `record`, and throws
 /// 2817 where that fails. Releases the record. Returns the object with standard output flushed, or
 /// null with the exception.
-jobject finishQuery(JNIEnv* env, int result, const ClassMap& map, void* record);
+jobject finishQuery(Env env, int result, const ClassMap& map, void* record);
 template <class Record>
-jobject finishQuery(JNIEnv* env, int result, Record* record) {
+jobject finishQuery(Env env, int result, Record* record) {
   return finishQuery(env, result, ClassOf<Record>::kMap, record);
 }
 
 /// The same for `length` records of `recordBytes` each.
-jobjectArray finishArrayQuery(JNIEnv* env, int result, const ClassMap& map, void* records,
-                              jsize length, std::size_t recordBytes);
+jobjectArray finishArrayQuery(Env env, int result, const ClassMap& map, void* records, jsize length,
+                              std::size_t recordBytes);
 template <class Record, std::size_t N>
-jobjectArray finishQuery(JNIEnv* env, int result, Record (*records)[N]) {
+jobjectArray finishQuery(Env env, int result, Record (*records)[N]) {
   return finishArrayQuery(env, result, ClassOf<Record>::kMap, records, static_cast<jsize>(N),
                           sizeof(Record));
 }
 
 /// Stores an object built from `record` at `index`; false where it cannot be built. No exception is
 /// tested for or thrown.
-bool storeBuilt(JNIEnv* env, jobjectArray array, jsize index, const ClassMap& map,
-                const void* record);
+bool storeBuilt(Env env, jobjectArray array, jsize index, const ClassMap& map, const void* record);
 
 /// The same for `length` records from the first element on. Stops at the first that cannot be built
 /// and leaves the rest null.
-void fillPartialArray(JNIEnv* env, jobjectArray array, const ClassMap& map, const void* records,
+void fillPartialArray(Env env, jobjectArray array, const ClassMap& map, const void* records,
                       jsize length, std::size_t recordBytes);
 
 /// Ends a query whose array is returned as far as its elements can be built: throws what the
 /// library returned, or fills a new array. Releases the records. Returns the array with standard
 /// output flushed; null with the exception, or where the array itself cannot be made.
-jobjectArray finishPartialArrayQuery(JNIEnv* env, int result, const ClassMap& map, void* records,
+jobjectArray finishPartialArrayQuery(Env env, int result, const ClassMap& map, void* records,
                                      jsize length, std::size_t recordBytes);
 
 /// One parameter of a library function, made from the Java argument in its place. A Java argument
@@ -126,9 +140,9 @@ template <>
 class Argument<std::int32_t> {
  public:
   explicit Argument(jint value) : value_(value) {}
-  bool accept(JNIEnv*) { return true; }
+  bool accept(Env) { return true; }
   bool allocate() { return true; }
-  int read(JNIEnv*) { return kOk; }
+  int read(Env) { return kOk; }
   void release() {}
   std::int32_t get() { return value_; }
 
@@ -141,9 +155,9 @@ class Argument<const char (*)[N]> {
  public:
   // Characters that cannot be had leave the buffer as it is: an empty text.
   explicit Argument(jstring text) : text_(text) { buffer_[0] = '\0'; }
-  bool accept(JNIEnv* env) { return copyRequiredText(env, text_, buffer_, N); }
+  bool accept(Env env) { return copyRequiredText(env, text_, buffer_, N); }
   bool allocate() { return true; }
-  int read(JNIEnv*) { return kOk; }
+  int read(Env) { return kOk; }
   void release() {}
   const char (*get())[N] { return &buffer_; }
 
@@ -156,13 +170,13 @@ template <class Record>
 class Argument<const Record*> {
  public:
   explicit Argument(jobject object) : object_(object) {}
-  bool accept(JNIEnv*) { return true; }
+  bool accept(Env) { return true; }
   bool allocate() {
     record_ = quorvelj::allocate<Record>();
     return record_ != nullptr;
   }
   /// A null object leaves the record as it is.
-  int read(JNIEnv* env) {
+  int read(Env env) {
     return object_ == nullptr ? kOk : quorvelj::read(env, ClassOf<Record>::kMap, object_, record_);
   }
   void release() { releaseRecord(record_); }
@@ -205,7 +219,7 @@ class LibraryCall {
   template <std::size_t Index = 0>
   using Output = typename Parameters::template Output<Index>;
 
-  LibraryCall(JNIEnv* env, Function function, Java... java)
+  LibraryCall(Env env, Function function, Java... java)
       : env_(env), function_(function), inputs_(java...) {}
 
   /// Flushes standard output and copies the texts; false with 258 thrown at the first that is null.
@@ -289,7 +303,7 @@ class LibraryCall {
     }
   }
 
-  JNIEnv* env_;
+  Env env_;
   Function function_;
   typename Parameters::Inputs inputs_;
   bool stopped_ = false;
@@ -298,7 +312,7 @@ class LibraryCall {
 /// A method that returns a new object or array. A record that was allocated before one that could
 /// not be had is not released.
 template <class Function, class... Java>
-auto query(JNIEnv* env, Function function, Java... java) {
+auto query(Env env, Function function, Java... java) {
   LibraryCall library(env, function, java...);
   using Object = decltype(finishQuery(env, 0, library.output()));
   if (!library.begin()) {
@@ -310,7 +324,7 @@ auto query(JNIEnv* env, Function function, Java... java) {
 
 /// A `query` whose object is built by `map` instead of its class's own.
 template <class Function, class... Java>
-jobject queryAs(JNIEnv* env, const ClassMap& map, Function function, Java... java) {
+jobject queryAs(Env env, const ClassMap& map, Function function, Java... java) {
   LibraryCall library(env, function, java...);
   if (!library.begin()) {
     return nullptr;
@@ -326,7 +340,7 @@ inline constexpr char kPartialDeparts[] =
 /// A `query` of an array in which an element that cannot be built is no failure: the array is
 /// returned with the elements before it, the rest null, and 2817 is not thrown.
 template <class Function, class... Java>
-jobjectArray partialQuery(JNIEnv* env, Function function, Java... java) {
+jobjectArray partialQuery(Env env, Function function, Java... java) {
   LibraryCall library(env, function, java...);
   if (!library.begin()) {
     return nullptr;
@@ -342,7 +356,7 @@ jobjectArray partialQuery(JNIEnv* env, Function function, Java... java) {
 
 /// A method that returns the int that the library writes, or 0 with an exception.
 template <class Function, class... Java>
-jint value(JNIEnv* env, Function function, Java... java) {
+jint value(Env env, Function function, Java... java) {
   LibraryCall library(env, function, java...);
   if (!library.begin()) {
     return 0;
@@ -359,12 +373,12 @@ jint value(JNIEnv* env, Function function, Java... java) {
 
 /// Ends a method that returns nothing: throws what the library returned, or flushes standard
 /// output.
-void finishUpdate(JNIEnv* env, int result);
+void finishUpdate(Env env, int result);
 
 /// A method that returns nothing, with records to hand over or without. All of them are allocated
 /// before the first is read, and all are released, whichever could not be had.
 template <class Function, class... Java>
-void update(JNIEnv* env, Function function, Java... java) {
+void update(Env env, Function function, Java... java) {
   LibraryCall library(env, function, java...);
   if (!library.enter()) {
     return;

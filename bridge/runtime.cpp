@@ -13,6 +13,10 @@ void* allocateZeroedRecords(std::size_t count, std::size_t bytes) {
 
 void releaseRecord(void* record) { std::free(record); }
 
+void* allocateKept(std::size_t bytes) { return std::malloc(bytes); }
+
+void releaseKept(void* kept) { std::free(kept); }
+
 void flushOutput() { static_cast<void>(std::fflush(stdout)); }
 
 }  // namespace quorvelj

@@ -16,6 +16,11 @@ void* allocateZeroedRecords(std::size_t count, std::size_t bytes);
 /// Releases what the two functions above returned; null is allowed.
 void releaseRecord(void* record);
 
+/// Returns uninitialised C heap memory for what a native call keeps, or null; the call goes on
+/// without.
+void* allocateKept(std::size_t bytes);
+void releaseKept(void* kept);
+
 /// Flushes the C runtime's standard output.
 void flushOutput();
 

@@ -23,7 +23,11 @@ namespace {
 
 /// A method that makes no more JNI calls than these has each of them failed; of more the first, in
 /// which it takes its arguments and begins its result, and the last.
+#ifdef QUORVELJ_CACHE_IDS
+constexpr int kFewCalls = 1000;
+#else
 constexpr int kFewCalls = 5000;
+#endif
 constexpr int kFirstCalls = 40;
 constexpr std::size_t kLargeRecord = 1 << 24;
 /// A native method has 16 KB for itself and the library in a 32-bit JVM.

@@ -23,7 +23,7 @@ namespace {
 constexpr char kFilesDepart[] = "the session's record is never released";
 
 template <class Function>
-void callWithFiles(JNIEnv* env, Function function, jstring unit, jobject session, jstring first,
+void callWithFiles(Env env, Function function, jstring unit, jobject session, jstring first,
                    jstring second) {
   LibraryCall library(env, function, unit, session, first, second);
   if (library.begin()) {

@@ -177,12 +177,12 @@ struct IntRecord {
   class Argument {
    public:
     explicit Argument(IntRecord record) : value_(record.value) {}
-    bool accept(JNIEnv*) { return true; }
+    bool accept(Env) { return true; }
     bool allocate() {
       record_ = quorvelj::allocate<std::int32_t>();
       return record_ != nullptr;
     }
-    int read(JNIEnv*) {
+    int read(Env) {
       *record_ = value_;
       return kOk;
     }
@@ -207,7 +207,7 @@ constexpr char kRevisionDeparts[] =
     "the result is a text, which the library writes into a buffer on the stack";
 
 template <class Function, class... Java>
-jstring newRevision(JNIEnv* env, Function function, Java... path) {
+jstring newRevision(Env env, Function function, Java... path) {
   LibraryCall library(env, function, path...);
   if (!library.begin()) {
     return nullptr;

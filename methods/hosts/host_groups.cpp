@@ -212,7 +212,7 @@ NATIVE_METHOD(jobjectArray, WZTargetIdImport, jstring unit, jstring first, jstri
 namespace {
 
 /// An array of an `Integer` and the object of a host group's mapping.
-jobjectArray newModeAndMapping(JNIEnv* env, std::int32_t mode, const LuMappingHGInfo* mapping) {
+jobjectArray newModeAndMapping(Env env, std::int32_t mode, const LuMappingHGInfo* mapping) {
   const jobjectArray pair = newObjectArrayByName(env, "java/lang/Object", 2);
   if (pair == nullptr) {
     return nullptr;

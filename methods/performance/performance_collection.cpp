@@ -96,12 +96,12 @@ struct Snapshot {
   class Argument {
    public:
     explicit Argument(Snapshot snapshot) : request_(snapshot.request), field_(snapshot.field) {}
-    bool accept(JNIEnv*) { return true; }
+    bool accept(Env) { return true; }
     bool allocate() {
       record_ = quorvelj::allocate<PerformanceAll>();
       return record_ != nullptr;
     }
-    int read(JNIEnv* env) { return quorvelj::read(env, field_, request_, record_); }
+    int read(Env env) { return quorvelj::read(env, field_, request_, record_); }
     void release() { releaseRecord(record_); }
     const PerformanceAll* get() { return record_; }
 
@@ -119,12 +119,12 @@ struct OutputFile {
   class Argument {
    public:
     explicit Argument(OutputFile file) : request_(file.request) { file_.filename[0] = '\0'; }
-    bool accept(JNIEnv* env) {
+    bool accept(Env env) {
       result_ = quorvelj::read(env, ClassOf<PerformanceOutputFile>::kMap, request_, &file_);
       return true;
     }
     bool allocate() { return true; }
-    int read(JNIEnv*) { return result_; }
+    int read(Env) { return result_; }
     void release() {}
     const PerformanceOutputFile* get() { return &file_; }
 
@@ -142,9 +142,9 @@ struct SelectedLus {
   class Argument {
    public:
     explicit Argument(SelectedLus selected) : array_(selected.array) {}
-    bool accept(JNIEnv*) { return true; }
+    bool accept(Env) { return true; }
     bool allocate() { return true; }
-    int read(JNIEnv* env) {
+    int read(Env env) {
       if (array_ != nullptr) {
         env->GetByteArrayRegion(array_, 0, sizeof lus_, reinterpret_cast<jbyte*>(&lus_));
       }
@@ -164,7 +164,7 @@ constexpr char kOutputDeparts[] =
 
 /// An update with this departure.
 template <class Function, class... Java>
-void output(JNIEnv* env, Function function, Java... java) {
+void output(Env env, Function function, Java... java) {
   LibraryCall library(env, function, java...);
   if (!library.enter()) {
     return;
@@ -181,7 +181,7 @@ void output(JNIEnv* env, Function function, Java... java) {
 /// Returns a new array of two controllers' objects, or null. From the first that cannot be built on
 /// its elements are null. No exception is tested for or thrown.
 template <class Record>
-jobjectArray buildPair(JNIEnv* env, const Record* controller0, const Record* controller1) {
+jobjectArray buildPair(Env env, const Record* controller0, const Record* controller1) {
   const jobjectArray array = newObjectArrayByName(env, ClassOf<Record>::kName, 2);
   if (array != nullptr && storeBuilt(env, array, 0, ClassOf<Record>::kMap, controller0)) {
     storeBuilt(env, array, 1, ClassOf<Record>::kMap, controller1);

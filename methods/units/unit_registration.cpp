@@ -43,7 +43,7 @@ constexpr char kDiscoveryDeparts[] =
     "thrown";
 
 template <class Function>
-jobject discover(JNIEnv* env, Function function, jobject request) {
+jobject discover(Env env, Function function, jobject request) {
   LibraryCall library(env, function, request);
   library.enter();
   DiscoverUnit* found = nullptr;

@@ -104,7 +104,7 @@ namespace {
 
 /// A text of a login pair. One without its NUL ends where its member does.
 template <std::size_t N>
-jstring newTextOf(JNIEnv* env, const char (&member)[N]) {
+jstring newTextOf(Env env, const char (&member)[N]) {
   char text[N + 1];
   std::memcpy(text, member, N);
   text[N] = '\0';
@@ -113,7 +113,7 @@ jstring newTextOf(JNIEnv* env, const char (&member)[N]) {
 
 /// Ends a login: throws what the library returned, or returns the two texts. Nothing is thrown
 /// where the first is empty, nor for a text that could not be made, whose element stays null.
-jobjectArray finishLogin(JNIEnv* env, int result, const LoginPair& pair) {
+jobjectArray finishLogin(Env env, int result, const LoginPair& pair) {
   if (result != 0) {
     throwArrayException(env, result);
     return nullptr;
@@ -205,7 +205,7 @@ struct ClockInputs {
 };
 
 /// Copies the name and reads the session, or throws 65535 and returns false.
-bool accept(JNIEnv* env, jstring unit, jobject session, ClockInputs& inputs) {
+bool accept(Env env, jstring unit, jobject session, ClockInputs& inputs) {
   copyOptionalText(env, unit, inputs.unit);
   inputs.session = allocate<QVSessionInfo>();
   if (inputs.session == nullptr) {

@@ -108,6 +108,10 @@ void releaseRecord(void* record) {
   std::free(bytes - testing::kGuardBytes);
 }
 
+void* allocateKept(std::size_t bytes) { return std::malloc(bytes); }
+
+void releaseKept(void* kept) { std::free(kept); }
+
 void flushOutput() { recorder().add("flush"); }
 
 }  // namespace quorvelj

@@ -103,6 +103,11 @@ jclass getObjectClass(MiniJvm& jvm, jobject object) {
   return target == nullptr ? nullptr : as<jclass>(jvm.heap.refer(target->type->mirror));
 }
 
+jboolean isSameObject(MiniJvm& jvm, jobject left, jobject right) {
+  enter(jvm, false, "IsSameObject");
+  return jvm.heap.resolve(left) == jvm.heap.resolve(right) ? JNI_TRUE : JNI_FALSE;
+}
+
 Member* member(MiniJvm& jvm, const char* call, jclass type, const char* name, const char* signature,
                const char* error) {
   const bool fails = enter(jvm, true, call, name, signature);
@@ -359,6 +364,7 @@ JNINativeInterface_ newTable() {
   std::fill_n(entries, sizeof table / sizeof *entries, reinterpret_cast<void (*)()>(&unlisted));
   table.FindClass = &Entry<&findClass>::call;
   table.GetObjectClass = &Entry<&getObjectClass>::call;
+  table.IsSameObject = &Entry<&isSameObject>::call;
   table.GetFieldID = &Entry<&getFieldId>::call;
   table.GetMethodID = &Entry<&getMethodId>::call;
   table.NewObjectV = &Entry<&newObjectV>::call;
