@@ -174,7 +174,7 @@ int setField(Env env, jobject object, const ClassLookup& lookup, const Field& fi
       return field.rank == 0 ? storeNew(env, object, field, name, build(env, *field.element, at))
                              : storeArray();
     case FieldKind::kPart:
-      return setFields(env, object, lookup.withFieldsOf(env, *field.element), *field.element, at);
+      return setFields(env, object, lookup.withFieldsOf(*field.element), *field.element, at);
   }
   return kFailed;  // GCOV_EXCL_LINE: the switch answers for every kind.
 }
@@ -299,10 +299,9 @@ jobject build(Env env, const ClassMap& map, const void* record) {
   if (record == nullptr) {
     return nullptr;
   }
-  ClassLookup lookup = ClassLookup::toBuild(env, map);
-  const jobject object = lookup.newObject(env);
-  if (object == nullptr ||
-      setFields(env, object, lookup, map, static_cast<const std::byte*>(record)) != kOk) {
+  const jobject object = newObjectByName(env, map.className);
+  if (object == nullptr || setFields(env, object, ClassLookup::toBuild(env, map), map,
+                                     static_cast<const std::byte*>(record)) != kOk) {
     return nullptr;
   }
   return object;

@@ -37,6 +37,10 @@ inline jclass knownClass(Env, const char*) { return nullptr; }
 /// null where the caller keeps its own and deletes it.
 inline jclass keepClass(Env, const char*, jclass) { return nullptr; }
 
+/// The no-argument constructor of the class of this name, or null where it is not known yet.
+inline jmethodID knownConstructor(Env, const char*) { return nullptr; }
+inline void keepConstructor(Env, const char*, jmethodID) {}
+
 }  // namespace quorvelj
 
 #endif

@@ -185,17 +185,21 @@ jclass findClassOrThrow(Env env, const char* className) {
 }
 
 jobject newObjectByName(Env env, const char* className) {
-  const jclass type = findClassOrThrow(env, className);
-  if (type == nullptr) {
+  const FoundClass found(env, className);
+  if (found.type == nullptr) {
     return nullptr;
   }
-  const jmethodID constructor = env->GetMethodID(type, "<init>", "()V");
+  jmethodID constructor = knownConstructor(env, className);
+  if (constructor == nullptr) {
+    constructor = env->GetMethodID(found.type, "<init>", "()V");
+    keepConstructor(env, className, constructor);
+  }
   if (constructor == nullptr) {
     return nullptr;
   }
-  const jobject object = env->NewObject(type, constructor);
+  const jobject object = env->NewObject(found.type, constructor);
   if (object != nullptr) {
-    deleteLocalRef(env, type);
+    deleteLocalRef(env, found.reference);
   }
   return object;
 }
