@@ -24,7 +24,7 @@ can() {
 }
 
 build() {
-  local options=(-DQUORVELJ_TESTS=ON)
+  local options=(-DQUORVELJ_TESTS=ON -DQUORVELJ_CACHE_IDS=ON)
   [ "$1" != linux ] || options+=(-DQUORVELJ_BENCHMARKS=ON)
   [ -z "${CI:-}" ] || options+=(-DCMAKE_COMPILE_WARNING_AS_ERROR=ON)
   echo "== build of $1"

@@ -12,12 +12,19 @@ struct LargeCall {
   const char* method;
   std::size_t recordBytes;
   int references;
+  /// The classes that a call keeps where it keeps identifiers.
+  int classes;
 };
 
 class LargeCalls : public SimulatedLibrary, public ::testing::WithParamInterface<LargeCall> {};
 
 TEST_P(LargeCalls, HoldOneRecordAndFewReferences) {
-  const auto& [name, recordBytes, references] = GetParam();
+#ifdef QUORVELJ_CACHE_IDS
+  constexpr bool kKeepsClasses = true;
+#else
+  constexpr bool kKeepsClasses = false;
+#endif
+  const auto& [name, recordBytes, references, classes] = GetParam();
   constexpr std::size_t kSessionBytes = 32;
   quorvelSimForceResult("*", 0, 1);
   MiniJvm jvm;
@@ -29,18 +36,18 @@ TEST_P(LargeCalls, HoldOneRecordAndFewReferences) {
   EXPECT_NE(method.invoke(jvm.env(), arguments).l, nullptr);
   EXPECT_EQ(testRuntime().mostBytes, recordBytes + kSessionBytes);
   EXPECT_EQ(testRuntime().liveRecords, 0);
-  EXPECT_EQ(jvm.heap.mostReferences() - before, references);
+  EXPECT_EQ(jvm.heap.mostReferences() - before, references + (kKeepsClasses ? classes : 0));
   EXPECT_EQ(jvm.heap.liveReferences() - before, 1);
 }
 
 constexpr std::size_t kRequestBytes = 4;
-INSTANTIATE_TEST_SUITE_P(, LargeCalls,
-                         ::testing::Values(LargeCall{"QV_GetAllInformation", 76'038'764, 10},
-                                           LargeCall{"QV_GetAllInformationLite", 76'038'764, 10},
-                                           LargeCall{"QV_GetAllInfo_HG", 225'436 + kRequestBytes,
-                                                     10},
-                                           LargeCall{"QV_GetPairInformationLite", 26'333'420, 7}),
-                         [](const auto& parameter) { return std::string(parameter.param.method); });
+INSTANTIATE_TEST_SUITE_P(
+    , LargeCalls,
+    ::testing::Values(LargeCall{"QV_GetAllInformation", 76'038'764, 10, 165},
+                      LargeCall{"QV_GetAllInformationLite", 76'038'764, 10, 164},
+                      LargeCall{"QV_GetAllInfo_HG", 225'436 + kRequestBytes, 10, 4},
+                      LargeCall{"QV_GetPairInformationLite", 26'333'420, 7, 3}),
+    [](const auto& parameter) { return std::string(parameter.param.method); });
 
 }  // namespace
 }  // namespace quorvelj::testing

@@ -5,7 +5,9 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
+#include <fstream>
 #include <map>
 #include <set>
 
@@ -74,6 +76,17 @@ struct Totals {
   std::string deepest;
 } totals;
 
+/// What came of each JNI call that failed, once: the method or field, the call, and the outcome.
+std::set<std::string> outcomesOfFailedCalls;
+
+void noteFailedCall(const std::string& where, MiniJvm& jvm, bool isNull) {
+  const std::optional<PendingException> pending = jvm.pending();
+  outcomesOfFailedCalls.insert(
+      where + ' ' + jvm.failedCall + '\t' + (isNull ? "null " : "") +
+      (pending ? pending->className + ' ' + pending->message + ' ' + std::to_string(pending->code)
+               : "no exception"));
+}
+
 const char* const kNoFrame = reinterpret_cast<const char*>(UINTPTR_MAX);
 
 /// What the simulator's observer looks at.
@@ -122,6 +135,10 @@ Outcome play(const NativeMethod& method, const Fault& fault) {
   outcome.libraryCalls = quorvelSimCallCount("*");
   outcome.newReferences = jvm.heap.liveReferences() - references;
 
+  if (fault.jniCall != 0) {
+    noteFailedCall(std::string(method.name) + ' ' + std::to_string(fault.libraryResult), jvm,
+                   method.resultKind() == 'L' && outcome.result.l == nullptr);
+  }
   quorvelSimObserve(nullptr);
   playing = nullptr;
   (fault.jniCall != 0         ? totals.jniFaults
@@ -137,6 +154,7 @@ Outcome play(const NativeMethod& method, const Fault& fault) {
 #ifndef QUORVELJ_ADDRESS_SANITIZER
   EXPECT_LE(stack, kMostStack);
 #endif
+  EXPECT_EQ(testRuntime().liveKept, 0) << "what the call kept was not released";
   EXPECT_EQ(testRuntime().damaged, 0) << "a record was written outside of, or released twice";
   EXPECT_EQ(jvm.heap.misuses(), 0) << "a dead, null or wrong reference was used";
   EXPECT_EQ(jvm.unreleased, outcome.libraryCalls * departure.neverReleasedCharacters)
@@ -348,7 +366,8 @@ void sweepField(const std::string& className, const Field& whole, bool built) {
     MiniJvm jvm;
     jvm.failingCall = failedCall;
     if (built) {
-      const jobject object = build(jvm.env(), map, record.data());
+      const jobject object = build(NativeCall(jvm.env()).env(), map, record.data());
+      noteFailedCall(map.className + std::string(" built ") + field.name, jvm, object == nullptr);
       // A text that cannot be stored does not end a builder, nor do texts that are not stored last.
       const std::string& failed = jvm.failedFunction;
       const bool goesOn = field.kind == FieldKind::kText && failedCall > kCallsForTheObject &&
@@ -358,7 +377,8 @@ void sweepField(const std::string& className, const Field& whole, bool built) {
       EXPECT_TRUE(goesOn || failed == "FindClass" || jvm.callsUnderException == 0);
     } else {
       const jobject object = jvm.newInput('L' + className + ';');
-      const int result = read(jvm.env(), map, object, record.data());
+      const int result = read(NativeCall(jvm.env()).env(), map, object, record.data());
+      noteFailedCall(map.className + std::string(" read ") + field.name, jvm, result != 0);
       EXPECT_TRUE((result == 0) == (failedCall == 0) || isPassedOver(jvm.failedFunction));
       EXPECT_TRUE(isPassedOver(jvm.failedFunction) || jvm.callsUnderException == 0);
     }
@@ -533,6 +553,12 @@ void Sweep::TearDownTestSuite() {
       "stack: at most %td bytes, in %s\n",
       totals.jniFaults, totals.allocations, totals.libraryResults, totals.inputs, totals.fields,
       totals.stack, totals.deepest.c_str());
+  if (const char* const file = std::getenv("QUORVELJ_OUTCOMES")) {
+    std::ofstream outcomes(file);
+    for (const std::string& outcome : outcomesOfFailedCalls) {
+      outcomes << outcome << '\n';
+    }
+  }
 }
 
 INSTANTIATE_TEST_SUITE_P(NativeMethods, Sweep,

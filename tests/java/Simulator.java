@@ -11,4 +11,7 @@ final class Simulator {
 
     /** Makes the next calls of a function, or "*", return <code>result</code> and nothing else. */
     static native void force(String function, int result, int times);
+
+    /** Makes every call of a function, or "*", answer with these bytes. */
+    static native void prepare(String function, byte[] answer);
 }

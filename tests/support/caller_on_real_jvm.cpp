@@ -7,6 +7,7 @@
 #include "tests/support/callers_jvm.h"
 #include "tests/support/fail.h"
 #include "tests/support/native_methods.h"
+#include "tests/support/variant.h"
 
 namespace quorvelj::testing {
 namespace {
@@ -15,7 +16,10 @@ constexpr char kToString[] = "()Ljava/lang/String;";
 
 JNIEnv* start() {
   std::string classPath = "-Djava.class.path=" QUORVELJ_CLASS_PATH;
-  std::string libraryPath = "-Djava.library.path=" QUORVELJ_LIBRARY_PATH;
+  const std::string libraries = QUORVELJ_LIBRARY_PATH;
+  std::string libraryPath =
+      "-Djava.library.path=" + (keepsIdentifiers() ? libraries + "/cached:" : std::string()) +
+      libraries;
   JavaVMOption options[] = {{classPath.data(), nullptr}, {libraryPath.data(), nullptr}};
   JavaVMInitArgs arguments{JNI_VERSION_1_8, 2, options, JNI_FALSE};
   JavaVM* jvm = nullptr;

@@ -73,6 +73,8 @@ class MiniJvm {
   int failingCall = 0;
   /// The JNI function that failed so, or "".
   std::string failedFunction;
+  /// The same with its texts.
+  std::string failedCall;
   /// The JNI calls so far that could have failed, all of them, and those that JNI forbids while an
   /// exception is pending, as one was.
   int fallibleCalls = 0;

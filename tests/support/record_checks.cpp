@@ -11,6 +11,7 @@
 #include "tests/support/fail.h"
 #include "tests/support/field_log.h"
 #include "tests/support/split.h"
+#include "tests/support/variant.h"
 
 namespace quorvelj::testing {
 namespace {
@@ -64,8 +65,12 @@ std::map<std::string, Names> expectedFields(const Members& members) {
   return expected;
 }
 
-/// Expects every object below `root` to be visited in the order of its members in the list.
+/// Expects every object below `root` to be visited in the order of its members in the list. Where
+/// identifiers are kept, only the first object of a class would show it.
 void expectOrder(FieldLog& log, jobject root, const Members& members) {
+  if (keepsIdentifiers()) {
+    return;
+  }
   for (const auto& [holder, expected] : expectedFields(members)) {
     bool complete = expected.empty();
     for (const Visit& visit : log.visitsTo(get(root, holder))) {
@@ -154,9 +159,13 @@ struct LocalFrame {
 };
 
 Called callLogged(FieldLog& log, const char* method, const std::vector<jobject>& arguments) {
-  log.start();
+  if (!keepsIdentifiers()) {
+    log.start();
+  }
   const Called called = call(method, arguments);
-  log.stop();
+  if (!keepsIdentifiers()) {
+    log.stop();
+  }
   EXPECT_EQ(called.failure, "");
   return called;
 }

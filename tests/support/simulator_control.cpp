@@ -22,6 +22,13 @@ void JNICALL force(JNIEnv* env, jclass, jstring function, jint result, jint time
   quorvelSimForceResult(copyOf(env, function).c_str(), result, times);
 }
 
+void JNICALL prepare(JNIEnv* env, jclass, jstring function, jbyteArray answer) {
+  jbyte* const bytes = env->GetByteArrayElements(answer, nullptr);
+  quorvelSimPrepareOutput(copyOf(env, function).c_str(), bytes,
+                          static_cast<std::size_t>(env->GetArrayLength(answer)));
+  env->ReleaseByteArrayElements(answer, bytes, JNI_ABORT);
+}
+
 }  // namespace
 
 JNIEXPORT jint JNICALL JNI_OnLoad(JavaVM* jvm, void*) {
@@ -35,10 +42,13 @@ JNIEXPORT jint JNICALL JNI_OnLoad(JavaVM* jvm, void*) {
   char callsSignature[] = "(Ljava/lang/String;)I";
   char forceName[] = "force";
   char forceSignature[] = "(Ljava/lang/String;II)V";
+  char prepareName[] = "prepare";
+  char prepareSignature[] = "(Ljava/lang/String;[B)V";
   const JNINativeMethod methods[] = {
       {callsName, callsSignature, reinterpret_cast<void*>(&calls)},
       {forceName, forceSignature, reinterpret_cast<void*>(&force)},
+      {prepareName, prepareSignature, reinterpret_cast<void*>(&prepare)},
   };
-  return env->RegisterNatives(env->FindClass("Simulator"), methods, 2) == JNI_OK ? kVersion
+  return env->RegisterNatives(env->FindClass("Simulator"), methods, 3) == JNI_OK ? kVersion
                                                                                  : JNI_ERR;
 }

@@ -108,9 +108,16 @@ void releaseRecord(void* record) {
   std::free(bytes - testing::kGuardBytes);
 }
 
-void* allocateKept(std::size_t bytes) { return std::malloc(bytes); }
+void* allocateKept(std::size_t bytes) {
+  void* const kept = testRuntime().refusesKept ? nullptr : std::malloc(bytes);
+  testRuntime().liveKept += kept == nullptr ? 0 : 1;
+  return kept;
+}
 
-void releaseKept(void* kept) { std::free(kept); }
+void releaseKept(void* kept) {
+  testRuntime().liveKept -= 1;
+  std::free(kept);
+}
 
 void flushOutput() { recorder().add("flush"); }
 

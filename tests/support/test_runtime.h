@@ -22,6 +22,9 @@ struct TestRuntime {
   std::size_t mostBytes = 0;
   /// Records that were written outside of, or released twice.
   int damaged = 0;
+  /// Whether there is no memory for what a native call keeps, and how much of it is not released.
+  bool refusesKept = false;
+  int liveKept = 0;
 };
 
 /// The running thread's.

@@ -7,12 +7,13 @@
 
 #include "tests/support/fail.h"
 #include "tests/support/native_methods.h"
+#include "tests/support/variant.h"
 
 namespace quorvelj::testing {
 namespace {
 
 HMODULE dll() {
-  static const HMODULE module = LoadLibraryA("quorvelj.dll");
+  static const HMODULE module = LoadLibraryA(keepsIdentifiers() ? "cached\\quorvelj.dll" : "quorvelj.dll");
   if (module == nullptr) {
     fail("quorvelj.dll cannot be loaded: error " + std::to_string(GetLastError()));
   }

@@ -70,17 +70,18 @@ bool enter(MiniJvm& jvm, bool fallible, const char* call, const Detail&... detai
   if (jvm.thrown != nullptr && !allowedUnderException(call)) {
     ++jvm.callsUnderException;
   }
-  if (recorder().tracing) {
+  const bool fails = fallible && ++jvm.fallibleCalls == jvm.failingCall;
+  if (recorder().tracing || fails) {
     std::ostringstream event;
     event << call;
     static_cast<void>(((event << ' ' << detail), ...));
     recorder().add(event.str());
+    if (fails) {
+      jvm.failedFunction = call;
+      jvm.failedCall = event.str();
+    }
   }
-  if (fallible && ++jvm.fallibleCalls == jvm.failingCall) {
-    jvm.failedFunction = call;
-    return true;
-  }
-  return false;
+  return fails;
 }
 
 void throwNew(MiniJvm& jvm, const std::string& className, const std::string& message = "") {
