@@ -1654,7 +1654,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the name of a registered unit
      * @param session as the login returned it
-     * @param path a file of the library's host, at most 1,023 bytes
+     * @param path of a file of this host, at most 1,023 bytes
      * @param option the library's own
      * @return the library's number for it
      * @throws DiskArrayException 258 or the library's code
@@ -1667,7 +1667,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the name of a registered unit
      * @param session as the login returned it
-     * @param path a file of the library's host, at most 1,023 bytes
+     * @param path of a file of this host, at most 1,023 bytes
      * @throws DiskArrayException 258 or the library's code
      */
     public native void QV_MicroFileConcat2(String unit, QVSessionInfo session, String path)
@@ -1678,7 +1678,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the name of a registered unit
      * @param session as the login returned it
-     * @param path a file of the library's host, at most 1,023 bytes
+     * @param path of a file of this host, at most 1,023 bytes
      * @throws DiskArrayException 258 or the library's code
      */
     public native void QV_MicroFileConcatEx(String unit, QVSessionInfo session, String path)
@@ -1689,8 +1689,8 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the name of a registered unit
      * @param session as the login returned it
-     * @param first the first file of the library's host, at most 1,023 bytes
-     * @param second the second, likewise
+     * @param first path of the first file of this host, at most 1,023 bytes
+     * @param second path of the second, likewise
      * @throws DiskArrayException 258 or the library's code
      */
     public native void QV_MicroFileConcatEx2(
@@ -1707,7 +1707,7 @@ public class DiskArrayUtilityJNI {
     /**
      * Gives up a staged firmware file.
      *
-     * @param path a file of the library's host, at most 1,023 bytes
+     * @param path of a file of this host, at most 1,023 bytes
      * @throws DiskArrayException 258 or the library's code
      */
     public native void QV_CancelMicroFileConcat2(String path) throws DiskArrayException;
@@ -1736,7 +1736,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the name of a registered unit
      * @param option the library's own
-     * @param path a file of the library's host, at most 1,023 bytes
+     * @param path of a file of this host, at most 1,023 bytes
      * @return the library's own count
      * @throws DiskArrayException 258 or the library's code
      */
@@ -1781,7 +1781,7 @@ public class DiskArrayUtilityJNI {
      * @param option2 the library's own
      * @param option3 the library's own
      * @param option4 the library's own
-     * @param path a file of the library's host, at most 1,023 bytes
+     * @param path of a file of this host, at most 1,023 bytes
      * @throws DiskArrayException 258 or the library's code
      */
     public native void QV_MicroDownloadEx2(
@@ -1854,7 +1854,7 @@ public class DiskArrayUtilityJNI {
     /**
      * Returns the revision of a firmware file.
      *
-     * @param path a file of the library's host, at most 1,023 bytes
+     * @param path of a file of this host, at most 1,023 bytes
      * @return the revision, at most 64 bytes
      * @throws DiskArrayException 258, 2817 or the library's code
      */
@@ -1865,7 +1865,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the name of a registered unit
      * @param session as the login returned it
-     * @param path a file of the library's host, at most 1,023 bytes
+     * @param path of a file of this host, at most 1,023 bytes
      * @throws DiskArrayException 258 or the library's code
      */
     public native void QV_ENCMicroFileConcat(String unit, QVSessionInfo session, String path)
@@ -1876,7 +1876,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the name of a registered unit
      * @param session as the login returned it
-     * @param path a file of the library's host, at most 1,023 bytes
+     * @param path of a file of this host, at most 1,023 bytes
      * @param option the library's own
      * @throws DiskArrayException 258 or the library's code
      */
@@ -1991,7 +1991,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the name of a registered unit
      * @param session as the login returned it
-     * @param path a file of the library's host, at most 1,023 bytes
+     * @param path of a file of this host, at most 1,023 bytes
      * @throws DiskArrayException 258 or the library's code
      */
     public native void QV_NNCBiosFileConcat(String unit, QVSessionInfo session, String path)
@@ -2267,7 +2267,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the name of a registered unit
      * @param session as the login returned it
-     * @param path a file of the library's host, at most 1,023 bytes
+     * @param path of a file of this host, at most 1,023 bytes
      * @throws DiskArrayException 258 or the library's code
      */
     public native void QV_QVAuditLogExport(String unit, QVSessionInfo session, String path)
@@ -2418,8 +2418,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Reads a configuration from files of this host.
      *
-     * @param pathA the first file of the library's host, at most 1,023 bytes
-     * @param pathB the second, likewise
+     * @param pathA path of the first file of this host, at most 1,023 bytes
+     * @param pathB path of the second, likewise
      * @return the configuration
      * @throws DiskArrayException 258, 2817 or the library's code
      */
@@ -2429,8 +2429,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Writes a configuration to files of this host.
      *
-     * @param pathA the first file of the library's host, at most 1,023 bytes
-     * @param pathB the second, likewise
+     * @param pathA path of the first file of this host, at most 1,023 bytes
+     * @param pathB path of the second, likewise
      * @param config the configuration
      * @throws DiskArrayException 258 or the library's code
      */
@@ -2455,8 +2455,8 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the name of a registered unit
      * @param session as the login returned it
-     * @param first the first file of the library's host, at most 1,023 bytes
-     * @param second the second, likewise
+     * @param first path of the first file of this host, at most 1,023 bytes
+     * @param second path of the second, likewise
      * @throws DiskArrayException 258 or the library's code
      */
     public native void QV_SetSnmpConfig(
@@ -2469,8 +2469,8 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the name of a registered unit
      * @param session as the login returned it
-     * @param first the first file of the library's host, at most 1,023 bytes
-     * @param second the second, likewise
+     * @param first path of the first file of this host, at most 1,023 bytes
+     * @param second path of the second, likewise
      * @throws DiskArrayException 258 or the library's code
      */
     public native void QV_SnmpConfigOutput(
