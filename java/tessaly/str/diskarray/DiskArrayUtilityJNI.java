@@ -1,11 +1,36 @@
 package tessaly.str.diskarray;
 
 /**
- * The calls of the array library.
+ * The calls of the array library. What holds for all of them, where a method says nothing else:
  *
- * <p>A unit is named by the name that it was registered under; a null name throws code 258. Every
- * method throws {@link DiskArrayException} with the library's code where the library refuses, and
- * {@link OutOfMemoryError} where there is no native memory for its records. Any thread may call.
+ * <ul>
+ * <li>A unit is named by the name that it was registered under. A session is what
+ *     {@link #QV_LoginQVAccount} returned for this unit.
+ * <li>A name or a path that is null throws code 258, and nothing is called. A text that is longer
+ *     than a method or a field takes, in bytes of modified UTF-8, is cut without a word. A unit's name
+ *     has at most 64 bytes.
+ * <li>An object is read field by field. One that is null reaches the library as it lay in memory, and
+ *     so does the rest of an object from a text, an array or an object in it on that is null. Nothing
+ *     is thrown. New objects hold no null but where a field's comment says so.
+ * <li>An array of ints or bytes in a request has at least the elements that its comment gives. A
+ *     shorter one is an {@link ArrayIndexOutOfBoundsException}. The library is called nevertheless;
+ *     its refusal takes the exception's place, or 2817 where an object is returned.
+ * <li>An array that has "at most" so many elements is read to its end, and no further than that. What
+ *     lies behind its end reaches the library as it lay in memory.
+ * <li>An int that has the range of a byte is handed over with its low byte.
+ * <li>An array of a result always has the elements that its comment gives, in use or not.
+ * <li>A number of 64 bits is in two fields, <code>_h</code> and <code>_l</code>:
+ *     <code>(long) h &lt;&lt; 32 | l &amp; 0xFFFFFFFFL</code>.
+ * <li>What is called the library's own passes as it is.
+ * <li>{@link DiskArrayException} has the library's code where the library refuses, and 2817 where the
+ *     result could not be built. Nothing is thrown for the library's code 256: the method returns
+ *     null, 0 or nothing.
+ * <li>{@link OutOfMemoryError} with an empty message: there is no native memory for the records.
+ * <li>Any thread may call. The calls share nothing but the library.
+ * </ul>
+ *
+ * The first use loads quorvel and quorvelj from <code>java.library.path</code>;
+ * {@link UnsatisfiedLinkError} says what is missing.
  */
 public class DiskArrayUtilityJNI {
     static {
@@ -21,153 +46,375 @@ public class DiskArrayUtilityJNI {
 
     // Unit registration
 
-    /** Registers a unit under <code>param.unit_name</code>. */
+    /**
+     * Registers a unit under <code>param.unit_name</code>.
+     *
+     * @param param the unit
+     * @throws DiskArrayException the library's code
+     */
     public native void QV_UnitAdd(QVUnitParam param) throws DiskArrayException;
 
-    /** Registers a unit by its address. */
+    /**
+     * Registers a unit by its address.
+     *
+     * @param param the unit, with an address
+     * @throws DiskArrayException the library's code
+     */
     public native void QV_UnitAddByIP(QVUnitParam param) throws DiskArrayException;
 
-    /** Changes a registered unit. */
+    /**
+     * Changes a registered unit.
+     *
+     * @param unit the name that it is registered under
+     * @param param the unit as it is to be, with all its fields
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_UnitChange(String unit, QVUnitParam param) throws DiskArrayException;
 
-    /** Changes a registered unit by its address. */
+    /**
+     * Changes a registered unit by its address.
+     *
+     * @param unit the name that it is registered under
+     * @param param the unit as it is to be, with all its fields
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_UnitChangeByIP(String unit, QVUnitParam param) throws DiskArrayException;
 
-    /** Takes a unit from the list. */
+    /**
+     * Takes a unit from the list.
+     *
+     * @param unit the name of a registered unit
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_UnitDelete(String unit) throws DiskArrayException;
 
-    /** Returns a registered unit. */
+    /**
+     * Returns a registered unit.
+     *
+     * @param unit the name of a registered unit
+     * @return the unit
+     * @throws DiskArrayException 258, 2817 or the library's code
+     */
     public native QVUnitParam QV_GetUnitParam(String unit) throws DiskArrayException;
 
-    /** Returns the number of registered units. */
+    /**
+     * Returns the number of registered units.
+     *
+     * @return the number, or -1 for the library's code 256
+     * @throws DiskArrayException the library's code
+     */
     public native int QV_GetUnitCount() throws DiskArrayException;
 
     /**
      * Returns an array of <code>count</code> elements: the registered units, and behind them
      * elements of empty texts and zeros. Time and memory follow from the count, whatever number of
-     * units is registered: hand over what {@link #QV_GetUnitCount} returned. Null where there is no
-     * native memory for as many. The elements from one that could not be built on are null.
+     * units is registered: hand over what {@link #QV_GetUnitCount} returned. The elements from one
+     * that could not be built on are null.
+     *
+     * @param count how many elements
+     * @return the units; null where there is no native memory for as many, or the count is negative
+     * @throws DiskArrayException -1 where the array cannot be made, or the library's code
      */
     public native QVUnitParam[] QV_GetUnitParamTable(int count) throws DiskArrayException;
 
-    /** Looks for a unit on the network. */
+    /**
+     * Looks for a unit on the network.
+     *
+     * @param request where to look
+     * @return the unit that was found
+     * @throws DiskArrayException 2817 or the library's code
+     */
     public native DiscoverUnit QV_DiscoverUnitInformation(DiscoverUnitRequest request)
             throws DiskArrayException;
 
-    /** Looks for a unit on the network, in the extended form. */
+    /**
+     * Looks for a unit on the network, in the extended form.
+     *
+     * @param request where to look
+     * @return the unit that was found
+     * @throws DiskArrayException 2817 or the library's code
+     */
     public native DiscoverUnit QV_DiscoverUnitInformationEx(DiscoverUnitRequest request)
             throws DiskArrayException;
 
-    /** Attaches additional units to a registered one. */
+    /**
+     * Attaches additional units to a registered one.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @param request how to attach them
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_AddAdditionalUnit(
             String unit, QVSessionInfo session, AdditionalUnitRequest request)
             throws DiskArrayException;
 
-    /** Returns the additional units of a registered one. */
+    /**
+     * Returns the additional units of a registered one.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @return the additional units
+     * @throws DiskArrayException 258, 2817 or the library's code
+     */
     public native AdditionalUnitInformation QV_GetAdditionalUnitInformation(
             String unit, QVSessionInfo session) throws DiskArrayException;
 
     // Unit login, session and array users
 
     /**
-     * Logs in to a unit. Returns two texts, or null where the array names nobody; a text that could
-     * not be made is null.
+     * Logs in to a unit with a user of the array's own list. A text that could not be made is null.
+     *
+     * @param unit the name of a registered unit
+     * @param mode the library's own
+     * @param user the user; null is one with empty texts
+     * @return two texts, or null where the array names nobody
+     * @throws DiskArrayException 258, 2817 or the library's code
      */
     public native String[] QV_LoginQVUnit(String unit, int mode, ArrayUser user)
             throws DiskArrayException;
 
-    /** Returns who is logged in, as {@link #QV_LoginQVUnit} does. */
+    /**
+     * Returns who is logged in, as {@link #QV_LoginQVUnit} does.
+     *
+     * @param unit the name of a registered unit
+     * @param mode the library's own
+     * @return two texts, or null where the array names nobody
+     * @throws DiskArrayException 258, 2817 or the library's code
+     */
     public native String[] QV_GetLoginUser(String unit, int mode) throws DiskArrayException;
 
-    /** Logs out of a unit. */
+    /**
+     * Logs out of a unit.
+     *
+     * @param unit the name of a registered unit
+     * @param mode the library's own
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_LogoutQVUnit(String unit, int mode) throws DiskArrayException;
 
-    /** Returns whether somebody is logged in. */
+    /**
+     * Returns whether somebody is logged in.
+     *
+     * @param unit the name of a registered unit
+     * @param mode the library's own
+     * @return the library's own value
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native int QV_CheckLogin(String unit, int mode) throws DiskArrayException;
 
-    /** Ends whatever login there is. */
+    /**
+     * Ends whatever login there is.
+     *
+     * @param unit the name of a registered unit
+     * @param mode the library's own
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_ResetLogin(String unit, int mode) throws DiskArrayException;
 
-    /** Keeps a session from ending by itself. */
+    /**
+     * Keeps a session from ending by itself.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_KeepSession(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Throws where the unit is not ready. */
+    /**
+     * Throws where the unit is not ready.
+     *
+     * @param unit the name of a registered unit
+     * @param mode the library's own
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_TestUnitReady(String unit, int mode) throws DiskArrayException;
 
-    /** Restarts a unit. */
+    /**
+     * Restarts a unit.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_UnitReboot(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Sets the password of the library; a null password throws code 258. */
+    /**
+     * Sets the password of the library.
+     *
+     * @param password the new password, at most 1,023 bytes; null is code 258
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_PasswdChange(String password) throws DiskArrayException;
 
-    /** Checks the password of the library: returns 0 or -1. A null password throws code 258. */
+    /**
+     * Checks the password of the library. A copy of the text stays in memory for good.
+     *
+     * @param password the password, of any length; null is code 258
+     * @return the library's 0 or -1; 2817 where Java has no memory for the text
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native int QV_PasswdCheck(String password) throws DiskArrayException;
 
-    /** Adds a user to the array's own list. */
+    /**
+     * Adds a user to the array's own list.
+     *
+     * @param unit the name of a registered unit
+     * @param number user number, the library's own
+     * @param user the user
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_RegistUser(String unit, int number, ArrayUser user)
             throws DiskArrayException;
 
-    /** Changes a user of the array's own list. */
+    /**
+     * Changes a user of the array's own list.
+     *
+     * @param unit the name of a registered unit
+     * @param number user number, the library's own
+     * @param oldUser the user until now
+     * @param newUser the user from now on
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_ChangeUser(
             String unit, int number, ArrayUser oldUser, ArrayUser newUser)
             throws DiskArrayException;
 
-    /** Takes a user from the array's own list. */
+    /**
+     * Takes a user from the array's own list.
+     *
+     * @param unit the name of a registered unit
+     * @param number user number, the library's own
+     * @param user the user
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_DeleteUser(String unit, int number, ArrayUser user)
             throws DiskArrayException;
 
-    /** Empties the array's own list of users. */
+    /**
+     * Empties the array's own list of users.
+     *
+     * @param unit the name of a registered unit
+     * @param number user number, the library's own
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_DeleteAllUser(String unit, int number) throws DiskArrayException;
 
-    /** Returns the state of the array's own list of users. */
+    /**
+     * Returns the state of the array's own list of users.
+     *
+     * @param unit the name of a registered unit
+     * @param number user number, the library's own
+     * @return the state of the list
+     * @throws DiskArrayException 258, 2817 or the library's code
+     */
     public native QVUserRegist QV_GetUserInformation(String unit, int number)
             throws DiskArrayException;
 
-    /** Returns what kind of array a unit is. */
+    /**
+     * Returns what kind of array a unit is, and how much of everything it can hold.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @return the unit
+     * @throws DiskArrayException 258, 2817 or the library's code
+     */
     public native UnitInformation QV_GetUnitInformation(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Returns the kind of each controller's ports. */
+    /**
+     * Returns the kind of each controller's ports.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @return the kinds
+     * @throws DiskArrayException 258, 2817 or the library's code
+     */
     public native CTLPortKind QV_GetUnitCTLPortKind(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Returns the time of a unit's clock. A null name is an empty one. */
+    /**
+     * Returns the time of a unit's clock. A null name is an empty one. Each call keeps 32 bytes of
+     * native memory for good.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @return the time; null where it cannot be built, without code 2817
+     * @throws DiskArrayException the library's code
+     */
     public native QVTime QV_GetUnitTime(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Sets a unit's clock; a null time throws code -1. A null name is an empty one. */
+    /**
+     * Sets a unit's clock. A null name is an empty one. Each call keeps 32 bytes of native memory
+     * for good.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @param time the time
+     * @throws DiskArrayException -1 for a null time, 2817 for a time or a session that cannot be
+     *     read, both without a call of the library, or the library's code
+     */
     public native void QV_SetUnitTime(String unit, QVSessionInfo session, QVTime time)
             throws DiskArrayException;
 
-    /** Sets a unit's clock to the host's time. A null name is an empty one. */
+    /**
+     * Sets a unit's clock to the host's time. A null name is an empty one. Each call keeps 32 bytes
+     * of native memory for good.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @throws DiskArrayException the library's code
+     */
     public native void QV_SetUnitTimeNow(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Returns how an array identifies itself. */
+    /**
+     * Returns how an array identifies itself.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @return its identifier
+     * @throws DiskArrayException 258, 2817 or the library's code
+     */
     public native UnitIdentifier QV_GetUnitIdentifier(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
     /**
-     * Sets how an array identifies itself.
+     * Sets how an array identifies itself. Layout assumed: 32 bytes have no field, and reach the
+     * library as they lay in memory. Confirm the layout before the first call on an array in use.
      *
-     * <p>Layout assumed: 32 bytes have no field, and reach the library as they lay in memory.
-     * Confirm the layout before the first call on an array in use.
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @param identifier its identifier
+     * @throws DiskArrayException 258 or the library's code
      */
     public native void QV_SetUnitIdentifier(
             String unit, QVSessionInfo session, UnitIdentifier identifier)
             throws DiskArrayException;
 
-    /** Returns the settings of an array for its time. */
+    /**
+     * Returns the settings of an array for its time.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @return the settings
+     * @throws DiskArrayException 258, 2817 or the library's code
+     */
     public native TimeInfo QV_GetTimeInfo(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
     /**
-     * Sets the settings of an array for its time.
+     * Sets the settings of an array for its time. Layout assumed: 660 bytes have no field, and
+     * reach the library as they lay in memory. Confirm the layout before the first call on an array
+     * in use.
      *
-     * <p>Layout assumed: 660 bytes have no field, and reach the library as they lay in memory.
-     * Confirm the layout before the first call on an array in use.
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @param info the settings
+     * @throws DiskArrayException 258 or the library's code
      */
     public native void QV_SetTimeInfo(String unit, QVSessionInfo session, TimeInfo info)
             throws DiskArrayException;
@@ -1402,311 +1649,830 @@ public class DiskArrayUtilityJNI {
 
     // Firmware download and replacement
 
-    /** Stages a firmware file and returns the library's number for it. */
+    /**
+     * Stages a firmware file.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @param path of a file of this host, at most 1,023 bytes
+     * @param option the library's own
+     * @return the library's number for it
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native int QV_MicroFileConcat(
             String unit, QVSessionInfo session, String path, int option) throws DiskArrayException;
 
-    /** Stages a firmware file, in the second form. */
+    /**
+     * Stages a firmware file, in the second form.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @param path of a file of this host, at most 1,023 bytes
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_MicroFileConcat2(String unit, QVSessionInfo session, String path)
             throws DiskArrayException;
 
-    /** Stages a firmware file, in the extended form. */
+    /**
+     * Stages a firmware file, in the extended form.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @param path of a file of this host, at most 1,023 bytes
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_MicroFileConcatEx(String unit, QVSessionInfo session, String path)
             throws DiskArrayException;
 
-    /** Stages a firmware of two files. */
+    /**
+     * Stages a firmware of two files.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @param first path of the first file of this host, at most 1,023 bytes
+     * @param second path of the second, likewise
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_MicroFileConcatEx2(
             String unit, QVSessionInfo session, String first, String second)
             throws DiskArrayException;
 
-    /** Gives up what is staged of the array's firmware. */
+    /**
+     * Gives up what is staged of the array's firmware.
+     *
+     * @throws DiskArrayException the library's code
+     */
     public native void QV_CancelMicroFileConcat() throws DiskArrayException;
 
-    /** Gives up a staged firmware file. */
+    /**
+     * Gives up a staged firmware file.
+     *
+     * @param path of a file of this host, at most 1,023 bytes
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_CancelMicroFileConcat2(String path) throws DiskArrayException;
 
-    /** Returns how far the download came. */
+    /**
+     * Returns how far the download came.
+     *
+     * @param unit the name of a registered unit
+     * @return the library's own count
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native int QV_GetMicroDownloadCount(String unit) throws DiskArrayException;
 
-    /** Returns how far the download came, in the extended form. */
+    /**
+     * Returns how far the download came, in the extended form.
+     *
+     * @param unit the name of a registered unit
+     * @param option the library's own
+     * @return the library's own count
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native int QV_GetMicroDownloadCountEx(String unit, int option) throws DiskArrayException;
 
-    /** Returns how far the download of a file came. */
+    /**
+     * Returns how far the download of a file came.
+     *
+     * @param unit the name of a registered unit
+     * @param option the library's own
+     * @param path of a file of this host, at most 1,023 bytes
+     * @return the library's own count
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native int QV_GetMicroDownloadCountEx2(String unit, int option, String path)
             throws DiskArrayException;
 
-    /** Downloads the staged firmware to the array. */
+    /**
+     * Downloads the staged firmware to the array.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @param option1 the library's own
+     * @param option2 the library's own
+     * @param option3 the library's own
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_MicroDownload(
             String unit, QVSessionInfo session, int option1, int option2, int option3)
             throws DiskArrayException;
 
-    /** Downloads the staged firmware to the array, in the extended form. */
+    /**
+     * Downloads the staged firmware to the array, in the extended form.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @param option1 the library's own
+     * @param option2 the library's own
+     * @param option3 the library's own
+     * @param option4 the library's own
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_MicroDownloadEx(
             String unit, QVSessionInfo session, int option1, int option2, int option3, int option4)
             throws DiskArrayException;
 
-    /** Downloads a staged firmware file to the array. */
+    /**
+     * Downloads a staged firmware file to the array.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @param option1 the library's own
+     * @param option2 the library's own
+     * @param option3 the library's own
+     * @param option4 the library's own
+     * @param path of a file of this host, at most 1,023 bytes
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_MicroDownloadEx2(
             String unit, QVSessionInfo session, int option1, int option2, int option3,
             int option4, String path) throws DiskArrayException;
 
-    /** Replaces the running firmware by the downloaded one. */
+    /**
+     * Replaces the running firmware by the downloaded one.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @param option the library's own
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_MicroReplace(String unit, QVSessionInfo session, int option)
             throws DiskArrayException;
 
     /**
-     * Replaces the running firmware and returns how far that came. The library's code 4109 is a
-     * success, too.
+     * Replaces the running firmware. The library's code 4109 is a success, too.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @param option the library's own
+     * @return how far that came
+     * @throws DiskArrayException 258, 2817 or the library's code
      */
     public native MicroReplaceInformation QV_MicroReplaceEx(
             String unit, QVSessionInfo session, int option) throws DiskArrayException;
 
-    /** Replaces the running firmware by way of the other controller. */
+    /**
+     * Replaces the running firmware by way of the other controller.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @param request the controller and how
+     * @return how far that came
+     * @throws DiskArrayException 258, 2817 or the library's code
+     */
     public native MicroReplaceInformation QV_MicroReplaceCrosscall(
             String unit, QVSessionInfo session, MicroReplaceCrosscallRequest request)
             throws DiskArrayException;
 
-    /** Completes a replacement. */
+    /**
+     * Completes a replacement.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @param option the library's own
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_CompleteMicroReplace(String unit, QVSessionInfo session, int option)
             throws DiskArrayException;
 
-    /** Returns what is staged of the array's firmware. */
+    /**
+     * Returns what is staged of the array's firmware.
+     *
+     * @return what is staged
+     * @throws DiskArrayException 2817 or the library's code
+     */
     public native MicroFileInformation QV_GetMicroFileInformation() throws DiskArrayException;
 
-    /** Returns the revision of the staged firmware. */
+    /**
+     * Returns the revision of the staged firmware.
+     *
+     * @return the revision, at most 64 bytes
+     * @throws DiskArrayException 2817 or the library's code
+     */
     public native String QV_GetNewMicroRevision() throws DiskArrayException;
 
-    /** Returns the revision of a firmware file. */
+    /**
+     * Returns the revision of a firmware file.
+     *
+     * @param path of a file of this host, at most 1,023 bytes
+     * @return the revision, at most 64 bytes
+     * @throws DiskArrayException 258, 2817 or the library's code
+     */
     public native String QV_GetNewMicroRevision2(String path) throws DiskArrayException;
 
-    /** Stages an enclosure firmware file. */
+    /**
+     * Stages an enclosure firmware file.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @param path of a file of this host, at most 1,023 bytes
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_ENCMicroFileConcat(String unit, QVSessionInfo session, String path)
             throws DiskArrayException;
 
-    /** Stages an enclosure firmware file, in the extended form. */
+    /**
+     * Stages an enclosure firmware file, in the extended form.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @param path of a file of this host, at most 1,023 bytes
+     * @param option the library's own
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_ENCMicroFileConcatEx(
             String unit, QVSessionInfo session, String path, int option) throws DiskArrayException;
 
-    /** Gives up what is staged of the enclosure firmware. */
+    /**
+     * Gives up what is staged of the enclosure firmware.
+     *
+     * @throws DiskArrayException the library's code
+     */
     public native void QV_CancelENCMicroFileConcat() throws DiskArrayException;
 
-    /** Downloads the staged enclosure firmware and returns the library's number for it. */
+    /**
+     * Downloads the staged enclosure firmware.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @param option1 the library's own
+     * @param option2 the library's own
+     * @return the number that the library writes
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native int QV_ENCMicroDownload(
             String unit, QVSessionInfo session, int option1, int option2) throws DiskArrayException;
 
-    /** Returns how far the download of the enclosure firmware came. */
+    /**
+     * Returns how far the download of the enclosure firmware came.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @return the library's own count
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native int QV_GetENCMicroDownloadCount(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Replaces the running enclosure firmware by the downloaded one. */
+    /**
+     * Replaces the running enclosure firmware by the downloaded one.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @param option the library's own
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_ENCMicroReplace(String unit, QVSessionInfo session, int option)
             throws DiskArrayException;
 
-    /** Replaces the running enclosure firmware, in the extended form. */
+    /**
+     * Replaces the running enclosure firmware, in the extended form.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @param option the library's own
+     * @param record the library's own
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_ENCMicroReplaceEx(
             String unit, QVSessionInfo session, int option, int record) throws DiskArrayException;
 
-    /** Returns what is staged of the enclosure firmware. */
+    /**
+     * Returns what is staged of the enclosure firmware.
+     *
+     * @return what is staged
+     * @throws DiskArrayException 2817 or the library's code
+     */
     public native ENCMicroInformation QV_GetENCMicroInformation() throws DiskArrayException;
 
-    /** Returns the enclosure firmware of an array. */
+    /**
+     * Returns the enclosure firmware of an array.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @return the firmware
+     * @throws DiskArrayException 258, 2817 or the library's code
+     */
     public native ENCMicroInformation QV_GetENCMicroInformationEx(
             String unit, QVSessionInfo session) throws DiskArrayException;
 
-    /** Returns the revision of the staged BIOS. */
+    /**
+     * Returns the revision of the staged BIOS.
+     *
+     * @return the revision
+     * @throws DiskArrayException 2817 or the library's code
+     */
     public native NNCBiosRevision QV_GetLocalNNCBiosRevision() throws DiskArrayException;
 
-    /** Returns the BIOS revisions of the NAS nodes. */
+    /**
+     * Returns the BIOS revisions of the NAS nodes.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @return the revisions
+     * @throws DiskArrayException 258, 2817 or the library's code
+     */
     public native NNCBiosRevisionList QV_GetNNCBiosRevisionList(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Prepares the NAS nodes for the download of a BIOS. */
+    /**
+     * Prepares the NAS nodes for the download of a BIOS.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @param option the library's own
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_PreparesNNCBiosDownload(String unit, QVSessionInfo session, int option)
             throws DiskArrayException;
 
-    /** Stages a BIOS file. */
+    /**
+     * Stages a BIOS file.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @param path of a file of this host, at most 1,023 bytes
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_NNCBiosFileConcat(String unit, QVSessionInfo session, String path)
             throws DiskArrayException;
 
-    /** Gives up what is staged of the BIOS. */
+    /**
+     * Gives up what is staged of the BIOS.
+     *
+     * @throws DiskArrayException the library's code
+     */
     public native void QV_CancelNNCBiosFileConcat() throws DiskArrayException;
 
-    /** Downloads the staged BIOS. */
+    /**
+     * Downloads the staged BIOS.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @param option1 the library's own
+     * @param option2 the library's own
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_NNCBiosDownload(
             String unit, QVSessionInfo session, int option1, int option2) throws DiskArrayException;
 
-    /** Returns how far the download of the BIOS came. */
+    /**
+     * Returns how far the download of the BIOS came.
+     *
+     * @return the library's own count
+     * @throws DiskArrayException the library's code
+     */
     public native int QV_GetNNCBiosDownloadCount() throws DiskArrayException;
 
-    /** Returns the state of the BIOS download of a NAS node. */
+    /**
+     * Returns the state of the BIOS download of a NAS node.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @param option the library's own
+     * @return the state
+     * @throws DiskArrayException 258, 2817 or the library's code
+     */
     public native NNCBiosDownloadStatus QV_GetNNCBiosDownloadStatus(
             String unit, QVSessionInfo session, int option) throws DiskArrayException;
 
-    /** Returns which NAS nodes are being upgraded. */
+    /**
+     * Returns which NAS nodes are being upgraded.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @return the state of each node
+     * @throws DiskArrayException 258, 2817 or the library's code
+     */
     public native NNCUpgradeStatusList QV_GetNNCUpgradeStatusList(
             String unit, QVSessionInfo session) throws DiskArrayException;
 
     // Account authentication
 
-    /** Logs in with an account of the array. */
+    /**
+     * Logs in with an account of the array.
+     *
+     * @param unit the name of a registered unit
+     * @param request the account and its password
+     * @return the session, for every other call on this unit
+     * @throws DiskArrayException 258, 2817 or the library's code
+     */
     public native QVSessionInfo QV_LoginQVAccount(String unit, LoginRequest request)
             throws DiskArrayException;
 
-    /** Logs in for the alert check. */
+    /**
+     * Logs in for the alert check.
+     *
+     * @param unit the name of a registered unit
+     * @param option the library's own
+     * @return the session
+     * @throws DiskArrayException 258, 2817 or the library's code
+     */
     public native QVSessionInfo QV_LoginQVAccountAlertCheck(String unit, int option)
             throws DiskArrayException;
 
-    /** Ends a session. */
+    /**
+     * Ends a session.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @param option how to end it
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_LogoutQVAccount(String unit, QVSessionInfo session, LogoutOption option)
             throws DiskArrayException;
 
-    /** Ends a session of the alert check. */
+    /**
+     * Ends a session of the alert check.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @param option how to end it
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_LogoutQVAccountAlertCheck(
             String unit, QVSessionInfo session, LogoutOption option) throws DiskArrayException;
 
-    /** Ends all sessions of an account. */
+    /**
+     * Ends all sessions of an account.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @param account the account
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_ForcedLogoutQVAccount(
             String unit, QVSessionInfo session, AccountIdentifier account)
             throws DiskArrayException;
 
-    /** Deletes an account. */
+    /**
+     * Deletes an account.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @param account the account
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_DeleteAccount(
             String unit, QVSessionInfo session, AccountIdentifier account)
             throws DiskArrayException;
 
-    /** Creates an account. */
+    /**
+     * Creates an account.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @param account the account
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_CreateAccount(String unit, QVSessionInfo session, Account account)
             throws DiskArrayException;
 
-    /** Changes an account. */
+    /**
+     * Changes an account.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @param account the account as it is to be
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_ChangeAccount(String unit, QVSessionInfo session, Account account)
             throws DiskArrayException;
 
-    /** Changes the password of the session's own user. */
+    /**
+     * Changes the password of the session's own user.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @param change the user and both passwords
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_ChangeOwnUserPassword(
             String unit, QVSessionInfo session, OwnPasswordChange change)
             throws DiskArrayException;
 
-    /** Returns the settings for all accounts. */
+    /**
+     * Returns the settings for all accounts.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @return the settings
+     * @throws DiskArrayException 258, 2817 or the library's code
+     */
     public native AccountOption QV_GetAccountOption(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Sets the settings for all accounts. */
+    /**
+     * Sets the settings for all accounts.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @param option the settings
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_SetAccountOption(
             String unit, QVSessionInfo session, AccountOption option) throws DiskArrayException;
 
-    /** Returns the roles that accounts may have. */
+    /**
+     * Returns the roles that accounts may have.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @return the roles
+     * @throws DiskArrayException 258, 2817 or the library's code
+     */
     public native QVAccountRoleInformation QV_GetQVAccountRoleInformation(
             String unit, QVSessionInfo session) throws DiskArrayException;
 
-    /** Returns the accounts. */
+    /**
+     * Returns the accounts.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @return the accounts
+     * @throws DiskArrayException 258, 2817 or the library's code
+     */
     public native QVAccountInfoList QV_GetAccountInformation(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Returns what the session's own user may do. */
+    /**
+     * Returns what the session's own user may do.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @return what the user may do
+     * @throws DiskArrayException 258, 2817 or the library's code
+     */
     public native OwnUserPermission QV_GetOwnUserPermission(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Returns the warning that is shown before a login. */
+    /**
+     * Returns the warning that is shown before a login. It needs no session.
+     *
+     * @param unit the name of a registered unit
+     * @return the warning
+     * @throws DiskArrayException 258, 2817 or the library's code
+     */
     public native AccountBanner QV_GetAccountBanner(String unit) throws DiskArrayException;
 
-    /** Returns the warning that is shown before a login, to a user who is logged in. */
+    /**
+     * Returns the warning that is shown before a login, to a user who is logged in.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @return the warning
+     * @throws DiskArrayException 258, 2817 or the library's code
+     */
     public native AccountBanner QV_GetAccountBannerAuth(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Sets the warning that is shown before a login. */
+    /**
+     * Sets the warning that is shown before a login.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @param banner the warning
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_SetAccountBannerAuth(
             String unit, QVSessionInfo session, AccountBanner banner) throws DiskArrayException;
 
     // Audit log
 
-    /** Returns the settings of the audit log. */
+    /**
+     * Returns the settings of the audit log.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @return the settings
+     * @throws DiskArrayException 258, 2817 or the library's code
+     */
     public native QVAuditLogInformation QV_GetQVAuditLogInformation(
             String unit, QVSessionInfo session) throws DiskArrayException;
 
-    /** Sets the settings of the audit log. */
+    /**
+     * Sets the settings of the audit log.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @param information the settings
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_SetQVAuditLogInformation(
             String unit, QVSessionInfo session, QVAuditLogInformation information)
             throws DiskArrayException;
 
-    /** Writes the audit log to a file. */
+    /**
+     * Writes the audit log to a file.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @param path of a file of this host, at most 1,023 bytes
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_QVAuditLogExport(String unit, QVSessionInfo session, String path)
             throws DiskArrayException;
 
-    /** Clears the audit log. */
+    /**
+     * Clears the audit log.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @param request the request
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_InitQVAuditLog(
             String unit, QVSessionInfo session, AuditLogInitRequest request)
             throws DiskArrayException;
 
     // Alert check and e-mail alerts
 
-    /** Returns the mail settings of this host. */
+    /**
+     * Returns the mail settings of this host.
+     *
+     * @return the settings; null where they cannot be built, without code 2817
+     * @throws DiskArrayException the library's code
+     */
     public native EmailInfo QV_GetEmailInfo() throws DiskArrayException;
 
-    /** Sets the mail settings of this host. */
+    /**
+     * Sets the mail settings of this host.
+     *
+     * @param info the settings
+     * @throws DiskArrayException the library's code
+     */
     public native void QV_SetEmailInfo(EmailInfo info) throws DiskArrayException;
 
-    /** Returns the alert of an array. */
+    /**
+     * Returns the alert of an array.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @param option the library's own
+     * @return the library's own value
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native int QV_AlertCheck(String unit, QVSessionInfo session, int option)
             throws DiskArrayException;
 
-    /** Returns the alert of an array, in the extended form. */
+    /**
+     * Returns the alert of an array, in the extended form.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @param option the library's own
+     * @return the alert
+     * @throws DiskArrayException 258, 2817 or the library's code
+     */
     public native AlertCheckEx QV_AlertCheckEx(String unit, QVSessionInfo session, int option)
             throws DiskArrayException;
 
-    /** Returns how often alerts are checked for. */
+    /**
+     * Returns how often alerts are checked for.
+     *
+     * @return the time between two checks, in the library's own unit
+     * @throws DiskArrayException the library's code
+     */
     public native int QV_GetAlertInterval() throws DiskArrayException;
 
-    /** Sets how often alerts are checked for. */
+    /**
+     * Sets how often alerts are checked for.
+     *
+     * @param interval the time between two checks, in the library's own unit
+     * @throws DiskArrayException the library's code
+     */
     public native void QV_SetAlertInterval(int interval) throws DiskArrayException;
 
-    /** Returns who checks for alerts. */
+    /**
+     * Returns who checks for alerts.
+     *
+     * @return the account
+     * @throws DiskArrayException 2817 or the library's code
+     */
     public native AlertCheckUser QV_GetAlertCheckUser() throws DiskArrayException;
 
-    /** Sets who checks for alerts. */
+    /**
+     * Sets who checks for alerts.
+     *
+     * @param user the account
+     * @throws DiskArrayException the library's code
+     */
     public native void QV_SetAlertCheckUser(AlertCheckUser user) throws DiskArrayException;
 
-    /** Returns the state of the array's e-mail alert. */
+    /**
+     * Returns the state of the array's e-mail alert.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @return the state, with the mail
+     * @throws DiskArrayException 258, 2817 or the library's code
+     */
     public native EmailAlertInformation QV_GetEmailAlertInformation(
             String unit, QVSessionInfo session) throws DiskArrayException;
 
-    /** Sets the mail that the array sends on an alert. */
+    /**
+     * Sets the mail that the array sends on an alert.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @param info the mail
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_SetEmailAlertInfo(String unit, QVSessionInfo session, EmailAlertInfo info)
             throws DiskArrayException;
 
-    /** Clears the mail that the array sends on an alert. */
+    /**
+     * Clears the mail that the array sends on an alert.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_ClearEmailAlertInfo(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Changes the mode of the array's e-mail alert. */
+    /**
+     * Changes the mode of the array's e-mail alert.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @param mode the library's own
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_ChangeEmailAlertMode(String unit, QVSessionInfo session, int mode)
             throws DiskArrayException;
 
-    /** Sends a test mail from a controller of the array. */
+    /**
+     * Sends a test mail from a controller of the array.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @param test the controller
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_TestEmailAlert(String unit, QVSessionInfo session, EmailAlertTest test)
             throws DiskArrayException;
 
     // SNMP configuration
 
-    /** Reads a configuration from files of this host. */
+    /**
+     * Reads a configuration from files of this host.
+     *
+     * @param pathA path of the first file of this host, at most 1,023 bytes
+     * @param pathB path of the second, likewise
+     * @return the configuration
+     * @throws DiskArrayException 258, 2817 or the library's code
+     */
     public native SnmpConfigInformation QV_LoadSnmpConfig(String pathA, String pathB)
             throws DiskArrayException;
 
-    /** Writes a configuration to files of this host. */
+    /**
+     * Writes a configuration to files of this host.
+     *
+     * @param pathA path of the first file of this host, at most 1,023 bytes
+     * @param pathB path of the second, likewise
+     * @param config the configuration
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_SaveSnmpConfig(String pathA, String pathB, SnmpConfigInformation config)
             throws DiskArrayException;
 
-    /** Sets the configuration of the array. */
+    /**
+     * Sets the configuration of the array.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @param config the configuration
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_SetSnmpConfigonMemory(
             String unit, QVSessionInfo session, SnmpConfigInformation config)
             throws DiskArrayException;
 
-    /** Sets the configuration of the array from files of this host. */
+    /**
+     * Sets the configuration of the array from files of this host. Each call keeps 32 bytes of
+     * native memory for good.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @param first path of the first file of this host, at most 1,023 bytes
+     * @param second path of the second, likewise
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_SetSnmpConfig(
             String unit, QVSessionInfo session, String first, String second)
             throws DiskArrayException;
 
-    /** Writes the configuration of the array to files of this host. */
+    /**
+     * Writes the configuration of the array to files of this host. Each call keeps 32 bytes of
+     * native memory for good.
+     *
+     * @param unit the name of a registered unit
+     * @param session as the login returned it
+     * @param first path of the first file of this host, at most 1,023 bytes
+     * @param second path of the second, likewise
+     * @throws DiskArrayException 258 or the library's code
+     */
     public native void QV_SnmpConfigOutput(
             String unit, QVSessionInfo session, String first, String second)
             throws DiskArrayException;
