@@ -921,8 +921,7 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Computes the graph of an interval: of the two that the library computes, that of controller
-     * 0.
+     * Computes the graph of an interval, the first of the two that the library computes.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
