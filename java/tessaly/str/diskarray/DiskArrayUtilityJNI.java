@@ -421,222 +421,672 @@ public class DiskArrayUtilityJNI {
 
     // Unit condition
 
-    /** Returns the condition of every replaceable part. */
+    /**
+     * Returns the condition of every replaceable part.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param option the library's own value; the simulator leaves it aside
+     * @return the conditions
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native UnitCondition QV_GetUnitCondition(
             String unit, QVSessionInfo session, int option) throws DiskArrayException;
 
-    /** Returns the summary of an array to a user, or to a session that is open. */
+    /**
+     * Returns the summary of an array to a user, or to a session that is open. It needs no login
+     * before.
+     *
+     * @param unit the unit's registered name
+     * @param request who asks; null hands over a request as it lay in memory
+     * @return the summary; over the simulator also where the caller is refused
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native ArrayCondition QV_GetArrayCondition(String unit, ArrayConditionRequest request)
             throws DiskArrayException;
 
     // All-information bundles
 
-    /** Returns all that the array tells of itself. */
+    /**
+     * Returns all that the array tells of itself: 76 MB, more than a million objects. A slice costs
+     * less.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return all of it
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native ArrayAllInformation QV_GetAllInformation(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Returns the same with compact mapping and pairs. */
+    /**
+     * Returns the same with compact pairs, as {@link #QV_GetPairInformationLite2} has them.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return all of it
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native ArrayAllInformation QV_GetAllInformationLite(
             String unit, QVSessionInfo session) throws DiskArrayException;
 
-    /** Returns a slice: the unit, its drives, RAID groups and LUs. */
+    /**
+     * Returns a slice: the unit, its drives, RAID groups and LUs.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param request the controllers that are asked; null hands over a request as it lay in memory
+     * @return the slice
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native ArrayAllInfo_Base QV_GetAllInfo_Base(
             String unit, QVSessionInfo session, ControllerRequest request) throws DiskArrayException;
 
-    /** Returns a slice: parameters of host groups, cache partitions and port kinds. */
+    /**
+     * Returns a slice: parameters of host groups, cache partitions and port kinds.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param request the controllers that are asked; null hands over a request as it lay in memory
+     * @return the slice
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native ArrayAllInfo_BaseAdditional QV_GetAllInfo_BaseAdditional(
             String unit, QVSessionInfo session, ControllerRequest request) throws DiskArrayException;
 
-    /** Returns a slice: host groups. */
+    /**
+     * Returns a slice: host groups.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param request the controllers that are asked; null hands over a request as it lay in memory
+     * @return the slice
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native ArrayAllInfo_HG QV_GetAllInfo_HG(
             String unit, QVSessionInfo session, ControllerRequest request) throws DiskArrayException;
 
-    /** Returns a slice: iSCSI ports. */
+    /**
+     * Returns a slice: iSCSI ports.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param request the controllers that are asked; null hands over a request as it lay in memory
+     * @return the slice
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native ArrayAllInfo_iSCSI QV_GetAllInfo_iSCSI(
             String unit, QVSessionInfo session, ControllerRequest request) throws DiskArrayException;
 
-    /** Returns a slice: the LU mapping. */
+    /**
+     * Returns a slice: the LU mapping.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param request the controllers that are asked; null hands over a request as it lay in memory
+     * @return the slice
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native ArrayAllInfo_Mapping QV_GetAllInfo_Mapping(
             String unit, QVSessionInfo session, ControllerRequest request) throws DiskArrayException;
 
-    /** Returns a slice: host group options. */
+    /**
+     * Returns a slice: host group options.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param request the controllers that are asked; null hands over a request as it lay in memory
+     * @return the slice
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native ArrayAllInfo_Host QV_GetAllInfo_Host(
             String unit, QVSessionInfo session, ControllerRequest request) throws DiskArrayException;
 
-    /** Returns a slice: ports, LAN and settings. */
+    /**
+     * Returns a slice: ports, LAN and settings.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param request the controllers that are asked; null hands over a request as it lay in memory
+     * @return the slice
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native ArrayAllInfo_Config QV_GetAllInfo_Config(
             String unit, QVSessionInfo session, ControllerRequest request) throws DiskArrayException;
 
-    /** Returns a slice: program products. */
+    /**
+     * Returns a slice: program products.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param request the controllers that are asked; null hands over a request as it lay in memory
+     * @return the slice
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native ArrayAllInfo_PP QV_GetAllInfo_PP(
             String unit, QVSessionInfo session, ControllerRequest request) throws DiskArrayException;
 
-    /** Returns a slice: pools, pairs and remote paths. */
+    /**
+     * Returns a slice: pools, pairs and remote paths.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param request the controllers that are asked; null hands over a request as it lay in memory
+     * @return the slice
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native ArrayAllInfo_Replication QV_GetAllInfo_Replication(
             String unit, QVSessionInfo session, ControllerRequest request) throws DiskArrayException;
 
-    /** Returns a slice: tuning. */
+    /**
+     * Returns a slice: tuning.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param request the controllers that are asked; null hands over a request as it lay in memory
+     * @return the slice
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native ArrayAllInfo_Tuning QV_GetAllInfo_Tuning(
             String unit, QVSessionInfo session, ControllerRequest request) throws DiskArrayException;
 
     // Drives and parts
 
-    /** Returns what one drive is. */
+    /**
+     * Returns what one drive is.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param first the library's own value; over the simulator the enclosure
+     * @param second the library's own value; over the simulator the slot
+     * @return the drive
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native DiskDriveInformation QV_GetDriveInformation(
             String unit, QVSessionInfo session, int first, int second) throws DiskArrayException;
 
     /**
      * Returns what the drives are in the flat form, 450 elements. The elements from one that could
      * not be built on are null.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the drives; null where there is no array for them
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native DiskDriveInformation[] QV_GetDriveInformationAll(
             String unit, QVSessionInfo session) throws DiskArrayException;
 
-    /** Returns what the drives are, by enclosure. */
+    /**
+     * Returns what the drives are, by enclosure.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the drives, 60 enclosures of 30 slots
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native DiskDriveInformationAll QV_GetDiskDriveInformationAll(
             String unit, QVSessionInfo session) throws DiskArrayException;
 
-    /** Returns the state of the drives, by enclosure. */
+    /**
+     * Returns the state of the drives, by enclosure.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the states, 60 enclosures of 30 slots
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native DiskDriveStatusAll QV_GetDiskDriveStatusAll(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
     /**
-     * Returns the state of the drives in the flat form, 450 elements. A null name is an empty one.
+     * Returns the state of the drives in the flat form, 450 elements. An element that could not be
+     * built is null.
+     *
+     * @param unit the unit's registered name; null is an empty one
+     * @param session the session from a login
+     * @return the states
+     * @throws DiskArrayException with the library's code
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native DiskDrive[] QV_GetDriveStatus(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Returns how far the reconstruction of a drive has come. */
+    /**
+     * Returns how far the reconstruction of a drive has come.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param first the library's own value
+     * @param second the library's own value
+     * @return how far it has come
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native DriveReconstructInformation QV_DriveReconstructInformation(
             String unit, QVSessionInfo session, int first, int second) throws DiskArrayException;
 
-    /** Returns how drives are restored and spared. */
+    /**
+     * Returns how drives are restored and spared.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the settings
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native DiskDriveRestoration QV_GetDiskDriveRestoration(
             String unit, QVSessionInfo session) throws DiskArrayException;
 
-    /** Sets how drives are restored and spared. */
+    /**
+     * Sets how drives are restored and spared.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param restoration the settings; null hands them over as they lay in memory
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_SetDiskDriveRestoration(
             String unit, QVSessionInfo session, DiskDriveRestoration restoration)
             throws DiskArrayException;
 
-    /** Returns how SATA drives are maintained. */
+    /**
+     * Returns how SATA drives are maintained.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the settings
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native SATADriveInformation QV_GetSATADriveInformation(
             String unit, QVSessionInfo session) throws DiskArrayException;
 
-    /** Sets how SATA drives are maintained. */
+    /**
+     * Sets how SATA drives are maintained.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param information the settings; null hands them over as they lay in memory
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_SetSATADriveInformation(
             String unit, QVSessionInfo session, SATADriveInformation information)
             throws DiskArrayException;
 
-    /** Returns how SATA drives are restored. */
+    /**
+     * Returns how SATA drives are restored.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the settings
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native SATADriveRestoration QV_GetSATADriveRestoration(
             String unit, QVSessionInfo session) throws DiskArrayException;
 
-    /** Sets how SATA drives are restored. */
+    /**
+     * Sets how SATA drives are restored.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param restoration the settings; null hands them over as they lay in memory
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_SetSATADriveRestoration(
             String unit, QVSessionInfo session, SATADriveRestoration restoration)
             throws DiskArrayException;
 
-    /** Returns how drives' response times are diagnosed. */
+    /**
+     * Returns how drives' response times are diagnosed.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the settings
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native DriveResponseDiag QV_GetDriveResponseDiag(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Sets how drives' response times are diagnosed. */
+    /**
+     * Sets how drives' response times are diagnosed.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param diagnosis the settings; null hands them over as they lay in memory
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_SetDriveResponseDiag(
             String unit, QVSessionInfo session, DriveResponseDiag diagnosis)
             throws DiskArrayException;
 
-    /** Sets the mode of a drive. */
+    /**
+     * Sets the mode of a drive.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param first the library's own value
+     * @param second the library's own value
+     * @param third the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_SetDriveMode(
             String unit, QVSessionInfo session, int first, int second, int third)
             throws DiskArrayException;
 
-    /** Returns the power saving by RAID group and by logical unit. */
+    /**
+     * Returns the power saving by RAID group and by logical unit.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the power saving
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native SpinDownUpInformation QV_GetSpinDownUpInformation(
             String unit, QVSessionInfo session) throws DiskArrayException;
 
-    /** Spins down the drives of a RAID group. */
+    /**
+     * Spins down the drives of a RAID group.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param raidGroup number of the RAID group
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_SpinDownDriveByRG(String unit, QVSessionInfo session, int raidGroup)
             throws DiskArrayException;
 
-    /** Spins up the drives of a RAID group. */
+    /**
+     * Spins up the drives of a RAID group.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param raidGroup number of the RAID group
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_SpinUpDriveByRG(String unit, QVSessionInfo session, int raidGroup)
             throws DiskArrayException;
 
-    /** Returns the parts of an array. */
+    /**
+     * Returns what the parts of an array are.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the parts
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native PartsList QV_GetPartsList(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Writes the parts of an array to a file; a null path throws code 258. */
+    /**
+     * Writes the parts of an array to a file.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param path path of the file, at most 1023 bytes
+     * @throws DiskArrayException with the library's code; 258 where unit or path is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_PartsListExport(String unit, QVSessionInfo session, String path)
             throws DiskArrayException;
 
-    /** Returns the parts that failed. */
+    /**
+     * Returns the parts that failed.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the parts
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native ObstPartsInformation QV_GetObstPartsInformation(
             String unit, QVSessionInfo session) throws DiskArrayException;
 
-    /** Returns the enclosure controllers. */
+    /**
+     * Returns the enclosure controllers, and how far the replacement of their microprogram has
+     * come.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the enclosure controllers
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native ENCStatusList QV_GetENCStatusList(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Returns the batteries of an array. */
+    /**
+     * Returns the batteries of an array.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the batteries
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native BatteryConfig QV_GetBatteryConfig(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Sets the batteries of an array. */
+    /**
+     * Sets the batteries of an array.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param config the batteries; null hands them over as they lay in memory
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_SetBatteryConfig(String unit, QVSessionInfo session, BatteryConfig config)
             throws DiskArrayException;
 
-    /** Returns which locate LEDs are lit. */
+    /**
+     * Returns which locate LEDs are lit.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the LEDs
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native LocateLEDInformation QV_GetLocateLEDInformation(
             String unit, QVSessionInfo session) throws DiskArrayException;
 
-    /** Lights locate LEDs. */
+    /**
+     * Lights locate LEDs, and puts out the others: change those of
+     * {@link #QV_GetLocateLEDInformation}.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param information the LEDs; null hands them over as they lay in memory
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_SetLocateLEDInformation(
             String unit, QVSessionInfo session, LocateLEDInformation information)
             throws DiskArrayException;
 
-    /** Returns the data that is pinned in the cache. */
+    /**
+     * Returns the data that is pinned in the cache.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the pinned data
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native PINInformation QV_GetIntegrationPinInfo(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Returns the data that is pinned in the cache in the short form, 8192 elements. */
+    /**
+     * Returns the data that is pinned in the cache in the short form.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return a value for each logical unit, 8192 elements: the library's own
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native int[] QV_GetPinInfo2(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Lets go of the data that is pinned in the cache. */
+    /**
+     * Lets go of the data that is pinned in the cache.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_FlushPinInfo(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Returns the library's number on the data that is pinned in the cache. */
+    /**
+     * Returns the library's number on the data that is pinned in the cache.
+     *
+     * @param unit the unit's registered name
+     * @param option the library's own value
+     * @return the library's number
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     */
     public native int QV_GetPinInfo(String unit, int option) throws DiskArrayException;
 
-    /** Returns the library's number on the time that asking for pinned data takes. */
+    /**
+     * Returns the library's number on the time that asking for pinned data takes.
+     *
+     * @param unit the unit's registered name
+     * @param option the library's own value
+     * @return the library's number
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     */
     public native int QV_GetPinInfoGetTime(String unit, int option) throws DiskArrayException;
 
     // Performance collection and output. Snapshots come in pairs, an element a controller.
 
     /**
-     * Returns the command counts of all LUs. The elements from one that could not be built on are
-     * null; null where there is no array for them.
+     * Returns the command counts of the LUs up to 4,095: a light snapshot. The elements from one
+     * that could not be built on are null.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the counts by controller, 2 elements; null where there is no array for them
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native StatisticalCommand[] QV_GetPerformance(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
     /**
-     * Returns all counters. The elements from one that could not be built on are null; null where
-     * there is no array for them.
+     * Returns all counters: a snapshot of 7 MB. The elements from one that could not be built on
+     * are null.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param option the library's own value; the simulator leaves it aside
+     * @return the counters by controller, 2 elements; null where there is no array for them
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory for the session. Without memory for
+     *     the counters the library is called without them.
      */
     public native PerformanceAll[] QV_GetPerformanceAll(
             String unit, QVSessionInfo session, int option) throws DiskArrayException;
 
-    /** Writes the command counts of an interval to a file. */
+    /**
+     * Writes the command counts of an interval to a file. A snapshot that is null reaches the
+     * library as it lay in memory.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param path path of the file, at most 1023 bytes
+     * @param preinfo0 snapshot of controller 0 before the interval
+     * @param afterinfo0 snapshot of controller 0 after the interval
+     * @param preinfo1 snapshot of controller 1 before the interval
+     * @param afterinfo1 snapshot of controller 1 after the interval
+     * @throws DiskArrayException with the library's code; 258 where unit or path is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_PerformanceOutput(
             String unit, QVSessionInfo session, String path, StatisticalCommand preinfo0,
             StatisticalCommand afterinfo0, StatisticalCommand preinfo1,
             StatisticalCommand afterinfo1) throws DiskArrayException;
 
-    /** Writes the command counts of an interval to a file, for the LUs whose byte is not zero. */
+    /**
+     * Writes the command counts of an interval to a file, for the LUs whose byte is not zero. A
+     * snapshot that is null reaches the library as it lay in memory.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param path path of the file, at most 1023 bytes
+     * @param preinfo0 snapshot of controller 0 before the interval
+     * @param afterinfo0 snapshot of controller 0 after the interval
+     * @param preinfo1 snapshot of controller 1 before the interval
+     * @param afterinfo1 snapshot of controller 1 after the interval
+     * @param lu a byte for each LU, 4096 bytes; null selects none
+     * @param option0 the library's own value
+     * @param option1 the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit or path is null
+     * @throws OutOfMemoryError where there is no native memory
+     * @throws ArrayIndexOutOfBoundsException where lu is shorter; the library was called
+     *     nevertheless
+     */
     public native void QV_PerformanceOutputLU(
             String unit, QVSessionInfo session, String path, StatisticalCommand preinfo0,
             StatisticalCommand afterinfo0, StatisticalCommand preinfo1,
@@ -648,6 +1098,12 @@ public class DiskArrayUtilityJNI {
      *
      * <p>Layout assumed: 104 bytes have no field, and reach the library as they lay in memory.
      * Confirm the layout before the first call on an array in use.
+     *
+     * @param unit the unit's registered name
+     * @param request the snapshots, and what to write of them; null hands it over as it lay in
+     *     memory
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_PerformanceOutputAll(String unit, PerformanceOutputAllRequest request)
             throws DiskArrayException;
@@ -657,12 +1113,28 @@ public class DiskArrayUtilityJNI {
      *
      * <p>Layout assumed: 412 bytes have no field, and reach the library as they lay in memory.
      * Confirm the layout before the first call on an array in use.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param request the snapshots, and what to write of them; null hands it over as it lay in
+     *     memory
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_PerformanceOutputAllEx(
             String unit, QVSessionInfo session, PerformanceOutputAllExRequest request)
             throws DiskArrayException;
 
-    /** Writes to a file that an interval was left out. */
+    /**
+     * Writes to a file that an interval was left out.
+     *
+     * @param unit the unit's registered name
+     * @param path path of the file, at most 1023 bytes
+     * @param time the time of the interval; null hands it over as it lay in memory
+     * @param option the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit or path is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_PerformanceOutputSkip(String unit, String path, QVTime time, int option)
             throws DiskArrayException;
 
@@ -671,6 +1143,11 @@ public class DiskArrayUtilityJNI {
      *
      * <p>Layout assumed: 256 bytes have no field, and reach the library as they lay in memory.
      * Confirm the layout before the first call on an array in use.
+     *
+     * @param path path of the collection, at most 1023 bytes
+     * @param request the part, and where to write it; null hands it over as it lay in memory
+     * @throws DiskArrayException with the library's code; 258 where path is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_PerformanceOutputCSV(String path, PerformanceOutputCSVRequest request)
             throws DiskArrayException;
@@ -680,16 +1157,41 @@ public class DiskArrayUtilityJNI {
      *
      * <p>Layout assumed: 256 bytes have no field, and reach the library as they lay in memory.
      * Confirm the layout before the first call on an array in use.
+     *
+     * @param path path of the collection, at most 1023 bytes
+     * @param request the part, and where to write it; null hands it over as it lay in memory
+     * @return the number of files
+     * @throws DiskArrayException with the library's code; 258 where path is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native int QV_GetPerformanceCSVNum(String path, PerformanceOutputCSVRequest request)
             throws DiskArrayException;
 
-    /** Computes the graph of an interval. */
+    /**
+     * Computes the graph of an interval, the first of the two that the library computes.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param request the snapshots; null hands them over as they lay in memory
+     * @return the graph
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native PerformanceCollectGraphInfo QV_PerformanceOutputGraphInfo(
             String unit, QVSessionInfo session, PerformanceOutputGraphInfoRequest request)
             throws DiskArrayException;
 
-    /** Begins a collection. */
+    /**
+     * Begins a collection.
+     *
+     * @param session the session from a login
+     * @param path path of the collection, at most 1023 bytes
+     * @param option0 the library's own value; over the simulator the interval
+     * @param option1 the library's own value
+     * @throws DiskArrayException with the library's code; 258 where path is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_PerformanceDataInitialize(
             QVSessionInfo session, String path, int option0, int option1)
             throws DiskArrayException;
@@ -699,36 +1201,97 @@ public class DiskArrayUtilityJNI {
      *
      * <p>Layout assumed: 864,488 bytes have no field, and reach the library as they lay in memory.
      * Confirm the layout before the first call on an array in use.
+     *
+     * @param path path of the collection, at most 1023 bytes
+     * @param graph the graph; null hands it over as it lay in memory
+     * @throws DiskArrayException with the library's code; 258 where path is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_PerformanceDataOutput(String path, PerformanceCollectGraphInfo graph)
             throws DiskArrayException;
 
-    /** Returns the content of a collection's management file. */
+    /**
+     * Returns the content of a collection's management file.
+     *
+     * @param path path of the file, at most 1023 bytes
+     * @return its content
+     * @throws DiskArrayException with the library's code; 258 where path is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native PerformanceMngInfo QV_PerformanceInputMngFile(String path)
             throws DiskArrayException;
 
-    /** Returns how many files a collection may have. */
+    /**
+     * Returns how many files a collection may have.
+     *
+     * @return the number of files
+     * @throws DiskArrayException with the library's code
+     */
     public native int QV_GetPfmFileMaxCount() throws DiskArrayException;
 
-    /** Returns whether a unit counts. */
+    /**
+     * Returns whether a unit counts.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return 0 where it does not count, over the simulator; else the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native int QV_GetPfmStatisCfg(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Switches counting on or off. */
+    /**
+     * Switches counting on or off.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param enabled 0 switches off, over the simulator; else the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_SetPfmStatisCfg(String unit, QVSessionInfo session, int enabled)
             throws DiskArrayException;
 
-    /** Returns the numbers of errors at which a drive is reported. */
+    /**
+     * Returns the numbers of errors at which a drive is reported.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the numbers
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native Threshold QV_GetThreshold(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Sets the numbers of errors at which a drive is reported. */
+    /**
+     * Sets the numbers of errors at which a drive is reported.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param threshold the numbers; null hands them over as they lay in memory
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_SetThreshold(String unit, QVSessionInfo session, Threshold threshold)
             throws DiskArrayException;
 
     // Statistical information
 
-    /** Returns the array's internal counters. */
+    /**
+     * Returns the array's internal counters.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param option the library's own value; the simulator leaves it aside
+     * @return the counters
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native StatisticalInformation QV_GetStatisticalInformation(
             String unit, QVSessionInfo session, int option) throws DiskArrayException;
 
