@@ -786,8 +786,8 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Returns how far the formatting of each LU is. A null name is taken as an empty one. A list
-     * that cannot be built is null, with the error that the JVM has for it and no 2817.
+     * Returns how far the formatting of each LU is. A list that cannot be built is null, with the
+     * error that the JVM has for it and no 2817.
      *
      * @param unit the unit's registered name; null is taken as an empty one
      * @return the list, 2,048 LUs
@@ -1183,7 +1183,7 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Returns the cache-resident LUs. A null name is taken as an empty one.
+     * Returns the cache-resident LUs.
      *
      * @param unit the unit's registered name; null is taken as an empty one
      * @param session the session from a login
@@ -1195,14 +1195,14 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Sets the cache-resident LUs. A null name is taken as an empty one.
+     * Sets the cache-resident LUs.
      *
      * <p>Layout assumed: 44 bytes have no field, and reach the library as they lay in memory.
      * Confirm the layout before the first call on an array in use.
      *
      * @param unit the unit's registered name; null is taken as an empty one
      * @param session the session from a login
-     * @param turbo the cache-resident LUs; null is the same as any
+     * @param turbo the cache-resident LUs, of which nothing is read; may be null
      * @throws DiskArrayException with the library's code
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -2298,8 +2298,7 @@ public class DiskArrayUtilityJNI {
             FibreInformation second) throws DiskArrayException;
 
     /**
-     * Reads the permitted hosts of a Fibre Channel port from a file: 128 elements. A null text is
-     * an empty one.
+     * Reads the permitted hosts of a Fibre Channel port from a file.
      *
      * @param unit the unit's registered name; null is taken as an empty one
      * @param path the path of the file, at most 1,023 bytes; null is taken as an empty one
