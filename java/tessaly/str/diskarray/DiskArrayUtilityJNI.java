@@ -1300,36 +1300,107 @@ public class DiskArrayUtilityJNI {
     /**
      * Returns the RAID groups in the short form, always 90 elements. The elements from one that
      * could not be built on are null.
+     *
+     * @param unit the unit's registered name
+     * @return the RAID groups, 90 elements
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native RaidGroup[] QV_GetRaidGroups(String unit) throws DiskArrayException;
 
-    /** Adds a RAID group. */
+    /**
+     * Adds a RAID group.
+     *
+     * @param unit the unit's registered name
+     * @param group the RAID group; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_RaidGroupAdd(String unit, RaidGroup group) throws DiskArrayException;
 
-    /** Expands a RAID group. */
+    /**
+     * Expands a RAID group.
+     *
+     * @param unit the unit's registered name
+     * @param group the RAID group as it is to be; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_RaidGroupExpand(String unit, RaidGroup group) throws DiskArrayException;
 
-    /** Deletes a RAID group. */
+    /**
+     * Deletes a RAID group.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param rgnum the number of the RAID group
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_RaidGroupDelete(String unit, QVSessionInfo session, int rgnum)
             throws DiskArrayException;
 
-    /** Deletes all RAID groups. */
+    /**
+     * Deletes all RAID groups.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_RaidGroupAllDelete(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Creates a RAID group of chosen drives. */
+    /**
+     * Creates a RAID group of chosen drives.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param request the RAID group and its drives; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_CreateRaidGroup(
             String unit, QVSessionInfo session, CreateRaidGroup request) throws DiskArrayException;
 
-    /** Returns the RAID groups with their drives. */
+    /**
+     * Returns the RAID groups with their drives.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the RAID groups and their drives
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native RaidGroupInformation QV_GetRaidGroupInformation(
             String unit, QVSessionInfo session) throws DiskArrayException;
 
-    /** Returns the areas of a RAID group. */
+    /**
+     * Returns the areas of a RAID group.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param rgnum the number of the RAID group
+     * @return its areas
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native RGAreaInformation QV_GetRGAreaInformation(
             String unit, QVSessionInfo session, int rgnum) throws DiskArrayException;
 
-    /** Returns what a RAID group would be, without creating it. */
+    /**
+     * Returns what a RAID group would be, without creating it.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param request the RAID group and its drives; not null
+     * @return the RAID group as it would be
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native RgDetail QV_GetRaidGroupCreationCapacity(
             String unit, QVSessionInfo session, CreateRaidGroup request) throws DiskArrayException;
 
@@ -1338,199 +1409,598 @@ public class DiskArrayUtilityJNI {
     /**
      * Returns the LUs, always 8,192 elements. The elements from one that could not be built on are
      * null.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the LUs, 8,192 elements; those in use have a <code>lu_valid</code> other than 0
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native LogicalUnit[] QV_GetLogicalUnit(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Returns one LU. */
+    /**
+     * Returns one LU.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param lun the LU number
+     * @return the LU
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native LogicalUnit QV_GetLogicalUnit1(String unit, QVSessionInfo session, int lun)
             throws DiskArrayException;
 
-    /** Returns the number of the last LU. */
+    /**
+     * Returns the number of the last LU.
+     *
+     * @param unit the unit's registered name
+     * @return the LU number; what it is where there is no LU is the library's own
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     */
     public native int QV_GetLastLogicalUnit(String unit) throws DiskArrayException;
 
-    /** Creates an LU. */
+    /**
+     * Creates an LU.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param request the LU; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     * @throws ArrayIndexOutOfBoundsException where <code>befor_lun</code> is too short; the library
+     *     was called nevertheless
+     */
     public native void QV_CreateLogicalUnit(
             String unit, QVSessionInfo session, LogicalUnitCreationRequest request)
             throws DiskArrayException;
 
-    /** Adds an LU. */
+    /**
+     * Adds an LU.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param record the LU; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_LogicalUnitAdd(String unit, QVSessionInfo session, LogicalUnit record)
             throws DiskArrayException;
 
-    /** Deletes an LU; the library chooses which. */
+    /**
+     * Deletes an LU; the library chooses which.
+     *
+     * @param unit the unit's registered name
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     */
     public native void QV_LogicalUnitDelete(String unit) throws DiskArrayException;
 
-    /** Deletes all LUs. */
+    /**
+     * Deletes all LUs.
+     *
+     * @param unit the unit's registered name
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     */
     public native void QV_LogicalUnitDeleteAll(String unit) throws DiskArrayException;
 
-    /** Deletes an LU. */
+    /**
+     * Deletes an LU.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param lun the LU number
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_LogicalUnitDeleteByLUN(String unit, QVSessionInfo session, int lun)
             throws DiskArrayException;
 
-    /** Expands an LU. */
+    /**
+     * Expands an LU.
+     *
+     * @param unit the unit's registered name
+     * @param first the library's own value
+     * @param second the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     */
     public native void QV_LogicalUnitExpand(String unit, int first, int second)
             throws DiskArrayException;
 
-    /** Changes the staging of an LU. */
+    /**
+     * Changes the staging of an LU.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param first the library's own value
+     * @param second the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_LogicalUnitChangeStaging(
             String unit, QVSessionInfo session, int first, int second) throws DiskArrayException;
 
-    /** Changes the controller of an LU. */
+    /**
+     * Changes the controller of an LU.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param value the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_LogicalUnitChangeCtl(String unit, QVSessionInfo session, int value)
             throws DiskArrayException;
 
-    /** Invalidates an LU. */
+    /**
+     * Invalidates an LU.
+     *
+     * @param unit the unit's registered name
+     * @param lun the LU number
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     */
     public native void QV_LogicalUnitInvalid(String unit, int lun) throws DiskArrayException;
 
-    /** Restores an LU that was invalidated. */
+    /**
+     * Restores an LU that was invalidated.
+     *
+     * @param unit the unit's registered name
+     * @param lun the LU number
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     */
     public native void QV_LogicalUnitRestore(String unit, int lun) throws DiskArrayException;
 
-    /** Moves and resizes an LU. */
+    /**
+     * Moves and resizes an LU.
+     *
+     * @param unit the unit's registered name
+     * @param request the LU and its new place and size; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_LogicalUnitRealloc(String unit, LogicalUnitReallocationRequest request)
             throws DiskArrayException;
 
-    /** Starts to format an LU. */
+    /**
+     * Starts to format an LU.
+     *
+     * @param unit the unit's registered name
+     * @param first the library's own value
+     * @param second the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     */
     public native void QV_LogicalUnitFormat(String unit, int first, int second)
             throws DiskArrayException;
 
-    /** Returns how far the formatting of an LU is. */
+    /**
+     * Returns how far the formatting of an LU is.
+     *
+     * @param unit the unit's registered name
+     * @param lun the LU number
+     * @return how far it is, the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     */
     public native int QV_LogicalUnitFormatStatus(String unit, int lun) throws DiskArrayException;
 
-    /** Has the controller format an LU at once. */
+    /**
+     * Has the controller format an LU at once.
+     *
+     * @param unit the unit's registered name
+     * @param first the library's own value
+     * @param second the library's own value
+     * @return the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     */
     public native int QV_LogicalUnitFormatImmediateCTL(String unit, int first, int second)
             throws DiskArrayException;
 
-    /** Returns how far the formatting of each LU is. A null name is taken as an empty one. */
+    /**
+     * Returns how far the formatting of each LU is. A list that cannot be built is null, with the
+     * error that the JVM has for it and no 2817.
+     *
+     * @param unit the unit's registered name; null is taken as an empty one
+     * @return the list, 2,048 LUs
+     * @throws DiskArrayException with the library's code
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native LuFormatStatusList QV_LogicalUnitFormatStatusList(String unit)
             throws DiskArrayException;
 
-    /** Enters LUs for formatting. */
+    /**
+     * Enters LUs for formatting.
+     *
+     * @param unit the unit's registered name
+     * @param list a byte for each LU; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     * @throws ArrayIndexOutOfBoundsException where <code>lu</code> is too short; the library was
+     *     called nevertheless
+     */
     public native void QV_EntryFormatList(String unit, FormatEntryList list)
             throws DiskArrayException;
 
-    /** Returns how far the LUs that were entered for formatting are. */
+    /**
+     * Returns how far the LUs that were entered for formatting are.
+     *
+     * @param unit the unit's registered name
+     * @return the list, 2,048 LUs
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native FormatStatusList QV_GetFormatStatusList(String unit) throws DiskArrayException;
 
-    /** Returns how quick formats are run. */
+    /**
+     * Returns how quick formats are run.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the settings
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native QuickFormatOption QV_GetQuickFormatOption(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Sets how quick formats are run. */
+    /**
+     * Sets how quick formats are run.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param option the settings; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_SetQuickFormatOption(
             String unit, QVSessionInfo session, QuickFormatOption option) throws DiskArrayException;
 
-    /** Enters LUs for a quick format. */
+    /**
+     * Enters LUs for a quick format.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param list a byte for each LU; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     * @throws ArrayIndexOutOfBoundsException where <code>lu</code> is too short; the library was
+     *     called nevertheless
+     */
     public native void QV_EntryQuickFormatList(
             String unit, QVSessionInfo session, QuickFormatEntryList list)
             throws DiskArrayException;
 
-    /** Returns how far the quick formats are. */
+    /**
+     * Returns how far the quick formats are.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the list, 8,192 LUs
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native QuickFormatStatusList QV_GetQuickFormatStatusList(
             String unit, QVSessionInfo session) throws DiskArrayException;
 
-    /** Enters LUs for a correction of their parity. */
+    /**
+     * Enters LUs for a correction of their parity.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param request the LUs; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     * @throws ArrayIndexOutOfBoundsException where <code>lu</code> is too short; the library was
+     *     called nevertheless
+     */
     public native void QV_EntryParityCorrectionList(
             String unit, QVSessionInfo session, ParityCorrectionRequest request)
             throws DiskArrayException;
 
-    /** Returns how far the parity corrections are. */
+    /**
+     * Returns how far the parity corrections are.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the list, 8,192 LUs
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native ParityCorrectionStatusList QV_GetParityCorrectionStatusList(
             String unit, QVSessionInfo session) throws DiskArrayException;
 
-    /** Returns the controllers that own the LUs. */
+    /**
+     * Returns the controllers that own the LUs.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the LUs and their controllers
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native LuOwnership QV_GetLuOwnership(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Sets the controller that owns an LU. */
+    /**
+     * Sets the controller that owns an LU.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param info the LU and its controllers; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_SetLuOwnership(String unit, QVSessionInfo session, LuOwnershipInfo info)
             throws DiskArrayException;
 
     // Pools, virtual volumes and special LUs
 
-    /** Returns the pools. */
+    /**
+     * Returns the pools.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the pools of single controllers and of the whole array
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native PoolInfo QV_GetPoolInformation(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Changes the settings of a pool. */
+    /**
+     * Changes the settings of a pool.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param request the pool and its new settings; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_ChangePoolInformation(
             String unit, QVSessionInfo session, PoolChangeRequest request)
             throws DiskArrayException;
 
-    /** Adds an LU to a pool. */
+    /**
+     * Adds an LU to a pool.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param first the library's own value
+     * @param second the library's own value
+     * @param third the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_PoolLUAdd(
             String unit, QVSessionInfo session, int first, int second, int third)
             throws DiskArrayException;
 
-    /** Adds several LUs to a pool. */
+    /**
+     * Adds several LUs to a pool.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param controller the controller, the library's own number
+     * @param pool the pool number
+     * @param list the LUs; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     * @throws ArrayIndexOutOfBoundsException where <code>lu</code> is too short; the library was
+     *     called nevertheless
+     */
     public native void QV_PoolLUAddList(
             String unit, QVSessionInfo session, int controller, int pool, PoolLUListRequest list)
             throws DiskArrayException;
 
-    /** Takes all LUs from a pool. */
+    /**
+     * Takes all LUs from a pool.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param first the library's own value
+     * @param second the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_PoolLUAllDelete(String unit, QVSessionInfo session, int first, int second)
             throws DiskArrayException;
 
-    /** Creates a virtual volume. */
+    /**
+     * Creates a virtual volume.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param first the library's own value
+     * @param second the library's own value
+     * @param third the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_CreateVVOL(
             String unit, QVSessionInfo session, int first, int second, int third)
             throws DiskArrayException;
 
-    /** Creates a virtual volume of a given capacity. */
+    /**
+     * Creates a virtual volume of a given capacity.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param volume the volume; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_CreateVVOLEx(
             String unit, QVSessionInfo session, VvolDetailInformation volume)
             throws DiskArrayException;
 
-    /** Deletes a virtual volume. */
+    /**
+     * Deletes a virtual volume.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param first the library's own value
+     * @param second the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_DeleteVVOL(String unit, QVSessionInfo session, int first, int second)
             throws DiskArrayException;
 
-    /** Returns the virtual volumes. */
+    /**
+     * Returns the virtual volumes.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the virtual volumes
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native VvolInformation QV_GetVVOLInformation(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Returns the integrated LUs. */
+    /**
+     * Returns the integrated LUs.
+     *
+     * @param unit the unit's registered name
+     * @return the integrated LUs
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native IntegrationLUInfo QV_IntegrationLUInfo(String unit) throws DiskArrayException;
 
-    /** Returns the integrated LUs, in the second form. */
+    /**
+     * Returns the integrated LUs, in the second form.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the integrated LUs
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native IntegrationLUInfo2 QV_IntegrationLUInfo2(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Integrates or separates LUs. */
+    /**
+     * Integrates or separates LUs.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param request what to do with which LUs; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     * @throws ArrayIndexOutOfBoundsException where <code>child_lu</code> is too short; the library
+     *     was called nevertheless
+     */
     public native void QV_SetIntegrationLU(
             String unit, QVSessionInfo session, IntegrationRequest request)
             throws DiskArrayException;
 
-    /** Returns the data-management LUs. */
+    /**
+     * Returns the data-management LUs.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the data-management LUs
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native DMLUInformation QV_GetDMLU(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Sets the data-management LUs. */
+    /**
+     * Sets the data-management LUs.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param information the data-management LUs; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_SetDMLU(String unit, QVSessionInfo session, DMLUInformation information)
             throws DiskArrayException;
 
-    /** Returns the guard of each LU. */
+    /**
+     * Returns the guard of each LU.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the guard of each LU
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native LuGuardInformation QV_GetLuGuardInformation(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Sets the access level of an LU. */
+    /**
+     * Sets the access level of an LU.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param request the LU and its new access level; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_SetLuAccessLevel(
             String unit, QVSessionInfo session, LuAccessLevelRequest request)
             throws DiskArrayException;
 
-    /** Sets the S-VOL disable mode of an LU. */
+    /**
+     * Sets the S-VOL disable mode of an LU.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param first the library's own value
+     * @param second the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_SetSvolDisableMode(
             String unit, QVSessionInfo session, int first, int second) throws DiskArrayException;
 
-    /** Extends the retention term of an LU. */
+    /**
+     * Extends the retention term of an LU.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param first the library's own value
+     * @param second the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_ExtendRetentionTerm(
             String unit, QVSessionInfo session, int first, int second) throws DiskArrayException;
 
-    /** Sets the expiration lock. */
+    /**
+     * Sets the expiration lock.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param value the lock, the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_SetExpirationLock(String unit, QVSessionInfo session, int value)
             throws DiskArrayException;
 
-    /** Returns the cache-resident LUs. */
+    /**
+     * Returns the cache-resident LUs.
+     *
+     * @param unit the unit's registered name; null is taken as an empty one
+     * @param session the session from a login
+     * @return the cache-resident LUs
+     * @throws DiskArrayException with the library's code; 2817 where the result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native TurboLu QV_GetTurboLU(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
@@ -1539,98 +2009,299 @@ public class DiskArrayUtilityJNI {
      *
      * <p>Layout assumed: 44 bytes have no field, and reach the library as they lay in memory.
      * Confirm the layout before the first call on an array in use.
+     *
+     * @param unit the unit's registered name; null is taken as an empty one
+     * @param session the session from a login
+     * @param turbo the cache-resident LUs, of which nothing is read; may be null
+     * @throws DiskArrayException with the library's code
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_SetTurboLU(String unit, QVSessionInfo session, TurboLu turbo)
             throws DiskArrayException;
 
     // Host groups and LU mapping
 
-    /** Returns all host groups. */
+    /**
+     * Returns all host groups.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the host groups
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native HGList QV_GetHGList(String unit, QVSessionInfo session) throws DiskArrayException;
 
-    /** Creates a host group under <code>hostGroup.hgname</code>, at most 32 characters. */
+    /**
+     * Creates a host group under <code>hostGroup.hgname</code>, at most 32 bytes.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param controller the controller, 0 or 1
+     * @param port the port of the controller, 0 to 7
+     * @param group the number of the new host group, 0 to 127
+     * @param hostGroup the host group, of which the name is read; neither may be null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_CreateHG(
             String unit, QVSessionInfo session, int controller, int port, int group,
             HGInfo hostGroup)
             throws DiskArrayException;
 
-    /** Renames a host group to <code>hostGroup.hgname</code>. */
+    /**
+     * Renames a host group to <code>hostGroup.hgname</code>, at most 32 bytes.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param controller the controller, 0 or 1
+     * @param port the port of the controller, 0 to 7
+     * @param group the host group of the port, 0 to 127
+     * @param hostGroup the host group, of which the name is read; neither may be null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_ChangeHG(
             String unit, QVSessionInfo session, int controller, int port, int group,
             HGInfo hostGroup)
             throws DiskArrayException;
 
-    /** Deletes host groups of all ports. */
+    /**
+     * Deletes host groups of all ports.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param list the host groups; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     * @throws ArrayIndexOutOfBoundsException where a <code>hg</code> is too short; the library was
+     *     called nevertheless
+     */
     public native void QV_DeleteHGList(String unit, QVSessionInfo session, DeleteHGList list)
             throws DiskArrayException;
 
-    /** Sets host groups of all ports back to their first state. */
+    /**
+     * Sets host groups of all ports back to their first state.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param list the host groups; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     * @throws ArrayIndexOutOfBoundsException where a <code>hg</code> is too short; the library was
+     *     called nevertheless
+     */
     public native void QV_InitHGList(String unit, QVSessionInfo session, InitHGList list)
             throws DiskArrayException;
 
-    /** Deletes host groups of one port. */
+    /**
+     * Deletes host groups of one port.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param controller the controller, 0 or 1
+     * @param port the port of the controller, 0 to 7
+     * @param list the host groups; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     * @throws ArrayIndexOutOfBoundsException where <code>hg</code> is too short; the library was
+     *     called nevertheless
+     */
     public native void QV_DeleteHGPortList(
             String unit, QVSessionInfo session, int controller, int port, DeleteHGPortList list)
             throws DiskArrayException;
 
-    /** Sets host groups of one port back to their first state. */
+    /**
+     * Sets host groups of one port back to their first state.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param controller the controller, 0 or 1
+     * @param port the port of the controller, 0 to 7
+     * @param list the host groups; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     * @throws ArrayIndexOutOfBoundsException where <code>hg</code> is too short; the library was
+     *     called nevertheless
+     */
     public native void QV_InitHGPortList(
             String unit, QVSessionInfo session, int controller, int port, InitHGPortList list)
             throws DiskArrayException;
 
-    /** Returns the mapping of all ports. */
+    /**
+     * Returns the mapping of all ports.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the mapping, some 34 MB of it
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native LuMapping QV_GetLuMappingListAll(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Returns the mapping of all ports in its compact form. */
+    /**
+     * Returns the mapping of all ports in its compact form, which has every field of the full one.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the mapping, some 34 MB of it
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native LuMapping QV_GetLuMappingListAllLite(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Sets the mapping of all ports. */
+    /**
+     * Sets the mapping of all ports.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param mapping the mapping; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     * @throws ArrayIndexOutOfBoundsException where a <code>lu</code> is too short; the library was
+     *     called nevertheless
+     */
     public native void QV_SetLuMappingListAll(String unit, QVSessionInfo session, LuMapping mapping)
             throws DiskArrayException;
 
-    /** Sets the mapping of one host group. */
+    /**
+     * Sets the mapping of one host group.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param controller the controller, 0 or 1
+     * @param port the port of the controller, 0 to 7
+     * @param group the host group or target of the port, 0 to 254
+     * @param mapping what is mapped to it; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     * @throws ArrayIndexOutOfBoundsException where <code>lu</code> is too short; the library was
+     *     called nevertheless
+     */
     public native void QV_SetLuMappingList(
             String unit, QVSessionInfo session, int controller, int port, int group,
             LuMappingHGInfo mapping)
             throws DiskArrayException;
 
-    /** Returns the mapping of one port. */
+    /**
+     * Returns the mapping of one port.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param controller the controller, 0 or 1
+     * @param port the port of the controller, 0 to 7
+     * @return the mapping of the port
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native LuMappingPortList QV_GetLuMappingPortList(
             String unit, QVSessionInfo session, int controller, int port) throws DiskArrayException;
 
-    /** Sets the mapping of one port. */
+    /**
+     * Sets the mapping of one port.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param controller the controller, 0 or 1
+     * @param port the port of the controller, 0 to 7
+     * @param mapping the mapping of the port; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     * @throws ArrayIndexOutOfBoundsException where a <code>lu</code> is too short; the library was
+     *     called nevertheless
+     */
     public native void QV_SetLuMappingPortList(
             String unit, QVSessionInfo session, int controller, int port, LuMappingPortList mapping)
             throws DiskArrayException;
 
     /**
-     * Returns an <code>Integer</code>, the mapping mode, and the {@link LuMappingHGInfo} of
-     * one host group.
+     * Returns an <code>Integer</code>, the mapping mode, and the {@link LuMappingHGInfo} of one
+     * host group.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param controller the controller, 0 or 1
+     * @param port the port of the controller, 0 to 7
+     * @param group the host group or target of the port, 0 to 254
+     * @return 2 elements: the <code>Integer</code>, then the {@link LuMappingHGInfo}
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native Object[] QV_GetLuMappingList(
             String unit, QVSessionInfo session, int controller, int port, int group)
             throws DiskArrayException;
 
-    /** Returns the ports through which each LU is mapped. */
+    /**
+     * Returns the ports through which each LU is mapped.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param request the controllers asked of; not null
+     * @return the ports of each LU
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native LuMappingPortAssignInfo QV_GetLuMappingPortAssignInfo(
             String unit, QVSessionInfo session, ControllerRequest request)
             throws DiskArrayException;
 
-    /** Changes the mapping mode. */
+    /**
+     * Changes the mapping mode.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param mode the mapping mode, the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_ChangeMappingMode(String unit, QVSessionInfo session, int mode)
             throws DiskArrayException;
 
-    /** Returns the mapping guard of every LU. */
+    /**
+     * Returns the mapping guard of every LU.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the guard, a byte for each LU
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native MappingGuardList QV_GetMappingGuardList(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Sets the mapping guard of every LU. */
+    /**
+     * Sets the mapping guard of every LU.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param guard the guard, a byte for each LU; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     * @throws ArrayIndexOutOfBoundsException where <code>lumap_guard</code> is too short; the
+     *     library was called nevertheless
+     */
     public native void QV_SetMappingGuardList(
             String unit, QVSessionInfo session, MappingGuardList guard) throws DiskArrayException;
 
-    /** Returns the options of all host groups. */
+    /**
+     * Returns the options of all host groups.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the options
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native HGOption QV_GetHGOptionAll(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
@@ -1639,11 +2310,29 @@ public class DiskArrayUtilityJNI {
      *
      * <p>Layout assumed: 16,480 bytes have no field, and reach the library as they lay in memory.
      * Confirm the layout before the first call on an array in use.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param options the options; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_SetHGOptionAll(String unit, QVSessionInfo session, HGOption options)
             throws DiskArrayException;
 
-    /** Returns the options of one host group. */
+    /**
+     * Returns the options of one host group.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param controller the controller, 0 or 1
+     * @param port the port of the controller, 0 to 7
+     * @param group the host group of the port, 0 to 254
+     * @return the options
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native HGOptionInfo QV_GetHGOption(
             String unit, QVSessionInfo session, int controller, int port, int group)
             throws DiskArrayException;
@@ -1653,13 +2342,31 @@ public class DiskArrayUtilityJNI {
      *
      * <p>Layout assumed: 4 bytes have no field, and reach the library as they lay in memory.
      * Confirm the layout before the first call on an array in use.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param controller the controller, 0 or 1
+     * @param port the port of the controller, 0 to 7
+     * @param group the host group of the port, 0 to 254
+     * @param option the options; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_SetHGOption(
             String unit, QVSessionInfo session, int controller, int port, int group,
             HGOptionInfo option)
             throws DiskArrayException;
 
-    /** Returns the options of all ports. */
+    /**
+     * Returns the options of all ports.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the options
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native PortOption QV_GetPortOption(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
@@ -1668,23 +2375,67 @@ public class DiskArrayUtilityJNI {
      *
      * <p>Layout assumed: 16 bytes have no field, and reach the library as they lay in memory.
      * Confirm the layout before the first call on an array in use.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param options the options; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     * @throws ArrayIndexOutOfBoundsException where a <code>lip_mode</code> or
+     *     <code>port_common_opt</code> is too short; the library was called nevertheless
      */
     public native void QV_SetPortOption(String unit, QVSessionInfo session, PortOption options)
             throws DiskArrayException;
 
-    /** Returns the host group parameters that there are to choose from. */
+    /**
+     * Returns the host group parameters that there are to choose from.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the parameters
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native HGParameterList QV_GetHGParameterList(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Returns the host group parameters in their second form. */
+    /**
+     * Returns the host group parameters in their second form.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the parameters
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native HGParameterList2 QV_GetHGParameterList2(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Returns the identifiers of the host group parameters. */
+    /**
+     * Returns the identifiers of the host group parameters.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param controller the controller, 0 or 1
+     * @return the identifiers
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native HGParameterID QV_GetHGParameterID(
             String unit, QVSessionInfo session, int controller) throws DiskArrayException;
 
-    /** Returns the hosts known at the ports. */
+    /**
+     * Returns the hosts known at the ports.
+     *
+     * @param unit the unit's registered name
+     * @return the hosts
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native WWNInformation QV_GetWWNInformation(String unit) throws DiskArrayException;
 
     /**
@@ -1692,11 +2443,25 @@ public class DiskArrayUtilityJNI {
      *
      * <p>Layout assumed: 297,056 bytes have no field, and reach the library as they lay in memory.
      * Confirm the layout before the first call on an array in use.
+     *
+     * @param unit the unit's registered name
+     * @param information the hosts; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_SetWWNInformation(String unit, WWNInformation information)
             throws DiskArrayException;
 
-    /** Returns the hosts of the host groups. */
+    /**
+     * Returns the hosts of the host groups.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the hosts
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native WWNHGInformation QV_GetWWNHGInformation(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
@@ -1705,12 +2470,27 @@ public class DiskArrayUtilityJNI {
      *
      * <p>Layout assumed: 155,776 bytes have no field, and reach the library as they lay in memory.
      * Confirm the layout before the first call on an array in use.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param information the hosts; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_SetWWNHGInformation(
             String unit, QVSessionInfo session, WWNHGInformation information)
             throws DiskArrayException;
 
-    /** Returns the two target IDs of a controller. */
+    /**
+     * Returns the two target IDs of a controller.
+     *
+     * @param unit the unit's registered name
+     * @param controller the controller, 0 or 1
+     * @return the target IDs, 2 elements
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native TargetId[] QV_GetTargetId(String unit, int controller) throws DiskArrayException;
 
     /**
@@ -1718,147 +2498,455 @@ public class DiskArrayUtilityJNI {
      *
      * <p>Layout assumed: 8,192 bytes have no field, and reach the library as they lay in memory.
      * Confirm the layout before the first call on an array in use.
+     *
+     * @param unit the unit's registered name
+     * @param controller the controller, 0 or 1
+     * @param id the target ID; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     * @throws ArrayIndexOutOfBoundsException where <code>multi</code> is too short; the library was
+     *     called nevertheless
      */
     public native void QV_SetTargetId(String unit, int controller, TargetId id)
             throws DiskArrayException;
 
-    /** Returns the target IDs that a file holds. */
+    /**
+     * Returns the target IDs that a file holds.
+     *
+     * @param unit the unit's registered name
+     * @param file the path of the file, at most 1,023 bytes
+     * @return the target IDs, 2 elements
+     * @throws DiskArrayException with the library's code; 258 where unit or file is null; 2817
+     *     where the result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native TargetId[] QV_TargetIdImport(String unit, String file) throws DiskArrayException;
 
-    /** Returns the target IDs that two files hold, in the WZ form. */
+    /**
+     * Returns the target IDs that two files hold, in the WZ form.
+     *
+     * @param unit the unit's registered name
+     * @param first the path of the first file, at most 1,023 bytes
+     * @param second the path of the second file, at most 1,023 bytes
+     * @return the target IDs, 2 elements
+     * @throws DiskArrayException with the library's code; 258 where unit, first or second is null;
+     *     2817 where the result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native WZTargetId[] QV_WZTargetIdImport(String unit, String first, String second)
             throws DiskArrayException;
 
     // iSCSI targets and ports
 
-    /** Returns the addresses of the iSCSI ports. */
+    /**
+     * Returns the addresses of the iSCSI ports.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the ports
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native QViSCSIPortInformation QV_GetiSCSIPortInformation(
             String unit, QVSessionInfo session) throws DiskArrayException;
 
-    /** Sets the addresses of the iSCSI ports. */
+    /**
+     * Sets the addresses of the iSCSI ports.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param ports the ports; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_SetiSCSIPortInformation(
             String unit, QVSessionInfo session, QViSCSIPortInformation ports)
             throws DiskArrayException;
 
-    /** Returns the iSCSI targets of all ports. */
+    /**
+     * Returns the iSCSI targets of all ports.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the targets
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native QViSCSITargetInformationAll QV_GetiSCSITargetInformationAll(
             String unit, QVSessionInfo session) throws DiskArrayException;
 
-    /** Creates an iSCSI target. */
+    /**
+     * Creates an iSCSI target.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param controller the controller, 0 or 1
+     * @param port the port of the controller, 0 to 7
+     * @param number the number of the new target, 0 to 254
+     * @param target the target; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_CreateiSCSITarget(
             String unit, QVSessionInfo session, int controller, int port, int number,
             QViSCSITargetInfo target) throws DiskArrayException;
 
-    /** Changes an iSCSI target. */
+    /**
+     * Changes an iSCSI target.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param controller the controller, 0 or 1
+     * @param port the port of the controller, 0 to 7
+     * @param number the target of the port, 0 to 254
+     * @param target the target as it is to be; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_ChangeiSCSITarget(
             String unit, QVSessionInfo session, int controller, int port, int number,
             QViSCSITargetInfo target) throws DiskArrayException;
 
-    /** Deletes iSCSI targets of a port. */
+    /**
+     * Deletes iSCSI targets of a port.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param controller the controller, 0 or 1
+     * @param port the port of the controller, 0 to 7
+     * @param targets the targets; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     * @throws ArrayIndexOutOfBoundsException where <code>target</code> is too short; the library
+     *     was called nevertheless
+     */
     public native void QV_DeleteiSCSITarget(
             String unit, QVSessionInfo session, int controller, int port, DeleteTargetList targets)
             throws DiskArrayException;
 
-    /** Takes all iSCSI targets of a port back to their first state. */
+    /**
+     * Takes all iSCSI targets of a port back to their first state.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param controller the controller, 0 or 1
+     * @param port the port of the controller, 0 to 7
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_InitiSCSITarget(
             String unit, QVSessionInfo session, int controller, int port) throws DiskArrayException;
 
-    /** Changes the security of the iSCSI targets of a port. */
+    /**
+     * Changes the security of the iSCSI targets of a port.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param controller the controller, 0 or 1
+     * @param port the port of the controller, 0 to 7
+     * @param security the security, the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_ChangeiSCSITargetSecurity(
             String unit, QVSessionInfo session, int controller, int port, int security)
             throws DiskArrayException;
 
-    /** Returns the registered iSCSI initiators of all ports. */
+    /**
+     * Returns the registered iSCSI initiators of all ports.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the initiators
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native QViSCSIInitiatorInformationAll QV_GetiSCSIInitiatorInformationAll(
             String unit, QVSessionInfo session) throws DiskArrayException;
 
-    /** Returns the registered iSCSI initiators of a port. */
+    /**
+     * Returns the registered iSCSI initiators of a port.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param controller the controller, 0 or 1
+     * @param port the port of the controller, 0 to 7
+     * @return the initiators
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native QViSCSIInitiatorPortInformation QV_GetiSCSIInitiatorInformation(
             String unit, QVSessionInfo session, int controller, int port) throws DiskArrayException;
 
-    /** Sets the registered iSCSI initiators of a port; the name is spelled as in the library. */
+    /**
+     * Sets the registered iSCSI initiators of a port; the name is spelled as in the library.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param controller the controller, 0 or 1
+     * @param port the port of the controller, 0 to 7
+     * @param initiators the initiators; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     * @throws ArrayIndexOutOfBoundsException where a <code>target_bitmap</code> is too short; the
+     *     library was called nevertheless
+     */
     public native void QV_SetiSCSIInitiatortInformation(
             String unit, QVSessionInfo session, int controller, int port,
             QViSCSIInitiatorPortInfo initiators) throws DiskArrayException;
 
-    /** Returns the iSCSI initiators that are logged in. */
+    /**
+     * Returns the iSCSI initiators that are logged in.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the initiators
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native QViSCSILoginInitiatorInformationAll QV_GetiSCSILoginInitiatorInformationAll(
             String unit, QVSessionInfo session) throws DiskArrayException;
 
-    /** Returns the CHAP users of all ports. */
+    /**
+     * Returns the CHAP users of all ports.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the CHAP users
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native QViSCSICHAPUserInformationAll QV_GetiSCSICHAPUserInformationAll(
             String unit, QVSessionInfo session) throws DiskArrayException;
 
-    /** Returns the CHAP users of a port. */
+    /**
+     * Returns the CHAP users of a port.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param controller the controller, 0 or 1
+     * @param port the port of the controller, 0 to 7
+     * @return the CHAP users
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native QViSCSICHAPUserPortInformation QV_GetiSCSICHAPUserInformation(
             String unit, QVSessionInfo session, int controller, int port) throws DiskArrayException;
 
-    /** Sets the CHAP users of a port. */
+    /**
+     * Sets the CHAP users of a port.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param controller the controller, 0 or 1
+     * @param port the port of the controller, 0 to 7
+     * @param users the CHAP users; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     * @throws ArrayIndexOutOfBoundsException where a <code>target_bitmap</code> is too short; the
+     *     library was called nevertheless
+     */
     public native void QV_SetiSCSICHAPUserInformation(
             String unit, QVSessionInfo session, int controller, int port,
             QViSCSICHAPUserPortInfo users) throws DiskArrayException;
 
-    /** Imports CHAP users from a file. */
+    /**
+     * Imports CHAP users from a file.
+     *
+     * @param unit the unit's registered name
+     * @param path the path of the file, at most 1,023 bytes
+     * @param session the session from a login
+     * @throws DiskArrayException with the library's code; 258 where unit or path is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_iSCSICHAPUserImport(String unit, String path, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Returns the iSNS servers of the iSCSI ports. */
+    /**
+     * Returns the iSNS servers of the iSCSI ports.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the servers
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native QViSNSInformation QV_GetiSNSInformation(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Sets the iSNS servers of the iSCSI ports. */
+    /**
+     * Sets the iSNS servers of the iSCSI ports.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param servers the servers; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_SetiSNSInformation(
             String unit, QVSessionInfo session, QViSNSInformation servers)
             throws DiskArrayException;
 
-    /** Starts pings from iSCSI ports. */
+    /**
+     * Starts pings from iSCSI ports.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param request the ports and what they ping; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_RequestiSCSIPing(String unit, QVSessionInfo session, QViSCSIPing request)
             throws DiskArrayException;
 
-    /** Returns how far the pings came. */
+    /**
+     * Returns how far the pings came.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the pings
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native QViSCSIPing QV_GetiSCSIPingStatus(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Returns the iSCSI paths to other arrays. */
+    /**
+     * Returns the iSCSI paths to other arrays.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the paths
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native QViSCSIRemotePathInfo QV_GetiSCSIRemotePath(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Sets the iSCSI paths to another array. */
+    /**
+     * Sets the iSCSI paths to another array.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param path the paths; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_SetiSCSIRemotePath(
             String unit, QVSessionInfo session, QViSCSIRemotePath path) throws DiskArrayException;
 
-    /** Deletes the iSCSI paths to another array. */
+    /**
+     * Deletes the iSCSI paths to another array.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param path the paths; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_DeliSCSIRemotePath(
             String unit, QVSessionInfo session, QViSCSIRemotePath path) throws DiskArrayException;
 
     // Fibre ports and LAN settings
 
-    /** Returns the LAN address of a controller. */
+    /**
+     * Returns the LAN address of a controller.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param controller the controller, 0 or 1
+     * @return its LAN address
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native LANInformation QV_GetLANInformation(
             String unit, QVSessionInfo session, int controller) throws DiskArrayException;
 
-    /** Sets the LAN address of a controller. */
+    /**
+     * Sets the LAN address of a controller.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param controller the controller, 0 or 1
+     * @param port the port, the library's own number
+     * @param information the LAN address; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_SetLANInformation(
             String unit, QVSessionInfo session, int controller, int port,
             LANInformation information) throws DiskArrayException;
 
-    /** Returns the LAN addresses and links of both controllers. */
+    /**
+     * Returns the LAN addresses and links of both controllers.
+     *
+     * @param unit the unit's registered name
+     * @return the LAN addresses and links
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native LANInformationEx QV_GetLANInformationEx(String unit) throws DiskArrayException;
 
-    /** Sets the LAN addresses and links of both controllers. */
+    /**
+     * Sets the LAN addresses and links of both controllers.
+     *
+     * @param unit the unit's registered name
+     * @param information the LAN addresses and links; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_SetLANInformationEx(String unit, LANInformationEx information)
             throws DiskArrayException;
 
-    /** Returns the management port numbers. */
+    /**
+     * Returns the management port numbers.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the port numbers
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native LANPortNumber QV_GetLANPortNumber(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Sets the management port numbers. */
+    /**
+     * Sets the management port numbers.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param controller the controller, 0 or 1
+     * @param numbers the port numbers; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_SetLANPortNumber(
             String unit, QVSessionInfo session, int controller, LANPortNumber numbers)
             throws DiskArrayException;
 
-    /** Returns the user LAN. */
+    /**
+     * Returns the user LAN.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the user LAN
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native QVUserLANInformation QV_GetQVUserLANInformation(
             String unit, QVSessionInfo session) throws DiskArrayException;
 
@@ -1867,12 +2955,28 @@ public class DiskArrayUtilityJNI {
      *
      * <p>Layout assumed: 184 bytes have no field, and reach the library as they lay in memory.
      * Confirm the layout before the first call on an array in use.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param information the user LAN; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_SetQVUserLANInformation(
             String unit, QVSessionInfo session, QVUserLANInformation information)
             throws DiskArrayException;
 
-    /** Reads the user LAN from a file. */
+    /**
+     * Reads the user LAN from a file.
+     *
+     * @param unit the unit's registered name
+     * @param path the path of the file, at most 1,023 bytes
+     * @param session the session from a login
+     * @return the user LAN that the file holds
+     * @throws DiskArrayException with the library's code; 258 where unit or path is null; 2817
+     *     where the result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native QVUserLANInformation QV_LoadQVUserLANInformation(
             String unit, String path, QVSessionInfo session) throws DiskArrayException;
 
@@ -1881,6 +2985,12 @@ public class DiskArrayUtilityJNI {
      *
      * <p>Layout assumed: 8 bytes have no field, and reach the library as they lay in memory.
      * Confirm the layout before the first call on an array in use.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param file the file; neither it nor its name may be null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_LANExport(String unit, QVSessionInfo session, LANFile file)
             throws DiskArrayException;
@@ -1890,32 +3000,90 @@ public class DiskArrayUtilityJNI {
      *
      * <p>Layout assumed: 8 bytes have no field, and reach the library as they lay in memory.
      * Confirm the layout before the first call on an array in use.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param file the file; neither it nor its name may be null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_LANImport(String unit, QVSessionInfo session, LANFile file)
             throws DiskArrayException;
 
-    /** Returns the maintenance LAN. */
+    /**
+     * Returns the maintenance LAN.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the maintenance LAN
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native MainteLanInfo QV_GetMainteLanInfo(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Sets the address of the maintenance LAN. */
+    /**
+     * Sets the address of the maintenance LAN.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param address the address; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_SetMainteIPAddress(
             String unit, QVSessionInfo session, MainteIPAddress address) throws DiskArrayException;
 
-    /** Returns the addresses that the maintenance LAN may be given. */
+    /**
+     * Returns the addresses that the maintenance LAN may be given.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the addresses
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native MainteLanAvailableList QV_GetMainteLanAvailableList(
             String unit, QVSessionInfo session) throws DiskArrayException;
 
-    /** Returns the LAN of the network controllers. */
+    /**
+     * Returns the LAN of the network controllers.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the LAN of the network controllers
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native NNCLANInformation QV_GetNNCLANInformation(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Sets the LAN of the network controllers. */
+    /**
+     * Sets the LAN of the network controllers.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param information the LAN of the network controllers; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_SetNNCLANInformation(
             String unit, QVSessionInfo session, NNCLANInformation information)
             throws DiskArrayException;
 
-    /** Returns the Fibre Channel ports: 2 elements, one for each controller. */
+    /**
+     * Returns the Fibre Channel ports: 2 elements, one for each controller.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the ports of each controller, 2 elements
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native FibreInformation[] QV_GetFibreInformation(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
@@ -1924,14 +3092,30 @@ public class DiskArrayUtilityJNI {
      *
      * <p>Layout assumed: 80 bytes have no field, and reach the library as they lay in memory.
      * Confirm the layout before the first call on an array in use.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param first the ports of controller 0; not null
+     * @param second the ports of controller 1; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     * @throws ArrayIndexOutOfBoundsException where a <code>topology</code>,
+     *     <code>topology_ref</code> or <code>lun_security_bitmap</code> is too short; the library
+     *     was called nevertheless
      */
     public native void QV_SetFibreInformation(
             String unit, QVSessionInfo session, FibreInformation first,
             FibreInformation second) throws DiskArrayException;
 
     /**
-     * Reads the permitted hosts of a Fibre Channel port from a file: 128 elements. A null text is
-     * an empty one.
+     * Reads the permitted hosts of a Fibre Channel port from a file.
+     *
+     * @param unit the unit's registered name; null is taken as an empty one
+     * @param path the path of the file, at most 1,023 bytes; null is taken as an empty one
+     * @param port the port, the library's own number
+     * @return the hosts, 128 elements
+     * @throws DiskArrayException with the library's code; 2817 where the result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native FibreInformationPermission[] QV_FibreInfoPermissionImport(
             String unit, String path, int port) throws DiskArrayException;
