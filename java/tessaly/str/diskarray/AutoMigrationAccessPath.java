@@ -4,18 +4,26 @@ import java.util.Arrays;
 
 /** The networks of the array and of the new one. */
 public class AutoMigrationAccessPath {
-    /** At most 2; those behind are left out. */
+    /**
+     * 2 elements, one for each controller of the array; not null. An element that is null or
+     * missing reaches the library as it lay in memory, and those behind 2 are left out.
+     */
     public AutoMigrationAccessPathNetwork[] ctl = new AutoMigrationAccessPathNetwork[2];
 
     {
         Arrays.setAll(ctl, index -> new AutoMigrationAccessPathNetwork());
     }
+    /** Mode of changing the maintenance address, the library's own value. */
     public int mainte_ip_change_mode;
-    /** At most 2; those behind are left out. */
+    /**
+     * 2 elements, one for each controller of the new array; not null. An element that is null or
+     * missing reaches the library as it lay in memory, and those behind 2 are left out.
+     */
     public AutoMigrationAccessPathNetwork[] newarray_ctl = new AutoMigrationAccessPathNetwork[2];
 
     {
         Arrays.setAll(newarray_ctl, index -> new AutoMigrationAccessPathNetwork());
     }
+    /** Mode of changing the new array's maintenance address, the library's own value. */
     public int newarray_mainte_ip_change_mode;
 }

@@ -2,6 +2,10 @@ package tessaly.str.diskarray;
 
 /** The arrays at the other ends of remote pairs. */
 public class RemoteDeviceInformationEx {
-    /** At most 8; those behind are left out. */
+    /**
+     * 8 elements, used or not: <code>set_valid</code> tells. To hand over: not null; an element
+     * that is null or missing reaches the library as it lay in memory, and those behind 8 are left
+     * out.
+     */
     public RemoteDeviceInfo[] dev;
 }
