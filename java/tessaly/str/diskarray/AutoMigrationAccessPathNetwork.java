@@ -6,7 +6,7 @@ public class AutoMigrationAccessPathNetwork {
     public int dhcp_mode;
     /** IP address in dotted form, at most 15 bytes; not null. */
     public String ip_address = "";
-    /** Subnet mask in dotted form, at most 15 bytes; not null. */
+    /** Subnet in dotted form, at most 15 bytes; not null. */
     public String subnet = "";
     /** Address of the gateway in dotted form, at most 15 bytes; not null. */
     public String gateway = "";

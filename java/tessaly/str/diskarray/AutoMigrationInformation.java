@@ -12,7 +12,7 @@ public class AutoMigrationInformation {
     public int copy_speed;
     /** Error of the migration, the library's own value. */
     public int migration_error;
-    /** Whether the migration is usable, the library's own value. */
+    /** Usable status, the library's own value. */
     public int usable_status;
     /** Whether <code>upgrade_func</code> is valid, the library's own value. */
     public int upgrade_func_valid;

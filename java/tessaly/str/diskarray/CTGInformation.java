@@ -2,8 +2,10 @@ package tessaly.str.diskarray;
 
 /** The consistency groups of pairs inside the array, and those of remote pairs. */
 public class CTGInformation {
-    /** Gemlyn and SnapShot: 256 elements, in use where <code>ctg_valid</code> is not 0. */
+    /**
+     * Groups of pairs inside the array: 256 elements, in use where <code>ctg_valid</code> is not 0.
+     */
     public CTGInfo[] gmss_info;
-    /** Farlink and Longlink: 256 elements, in use where <code>ctg_valid</code> is not 0. */
+    /** Groups of remote pairs: 256 elements, in use where <code>ctg_valid</code> is not 0. */
     public CTGInfo[] flfle_info;
 }

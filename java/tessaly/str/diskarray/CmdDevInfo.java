@@ -2,7 +2,7 @@ package tessaly.str.diskarray;
 
 /** A command device. */
 public class CmdDevInfo {
-    /** Whether the entry is in use, the library's own value. */
+    /** Whether the command device is valid, the library's own value. */
     public int cmd_valid;
     /** Whether the entry is set, the library's own value. */
     public int set_valid;

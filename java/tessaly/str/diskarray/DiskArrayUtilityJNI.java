@@ -1563,11 +1563,11 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Returns the array at the other end of remote pairs.
+     * Returns the remote array that this one knows.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @return the other array
+     * @return the remote array
      * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
      *     result could not be built
      * @throws OutOfMemoryError where there is no native memory
@@ -1576,11 +1576,11 @@ public class DiskArrayUtilityJNI {
             String unit, QVSessionInfo session) throws DiskArrayException;
 
     /**
-     * Sets the array at the other end of remote pairs.
+     * Sets the remote array that this one knows.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param device the other array
+     * @param device the remote array
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1589,11 +1589,11 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Returns the arrays at the other ends of remote pairs.
+     * Returns the remote arrays that this one knows.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @return 8 other arrays, used or not
+     * @return 8 remote arrays, used or not
      * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
      *     result could not be built
      * @throws OutOfMemoryError where there is no native memory
@@ -1602,11 +1602,11 @@ public class DiskArrayUtilityJNI {
             String unit, QVSessionInfo session) throws DiskArrayException;
 
     /**
-     * Sets the arrays at the other ends of remote pairs.
+     * Sets the remote arrays that this one knows.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param devices 8 other arrays
+     * @param devices 8 remote arrays
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */

@@ -26,7 +26,7 @@ public class FarlinkAsyncLuInfo {
     public int remote_lu;
     /** Serial number of the other array. */
     public String remote_serial;
-    /** Which members are valid, the library's own value. */
+    /** Validity of the member, the library's own value. */
     public int member_valid;
     /** Synchronised rate, the library's own value. */
     public int synchronized_rate;

@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** An array at the other end of remote pairs. */
+/** A remote array that this one knows. */
 public class RemoteDeviceInfo {
     /** Whether the entry is set, the library's own value. */
     public int set_valid;

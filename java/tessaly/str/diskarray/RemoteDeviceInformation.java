@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** The array at the other end of remote pairs. */
+/** The remote array that this one knows. */
 public class RemoteDeviceInformation {
     /** Whether an array is given, the library's own value. */
     public int valid;

@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** The arrays at the other ends of remote pairs. */
+/** The remote arrays that this one knows. */
 public class RemoteDeviceInformationEx {
     /**
      * 8 elements, used or not: <code>set_valid</code> tells. To hand over: not null; an element

@@ -10,9 +10,9 @@ public class RvrfSrcInfo {
     public String self_serial_no;
     /** Sequence number of this array. */
     public String self_sequence_no;
-    /** Bandwidth of a line where none is given, in the library's own unit. */
+    /** Default bandwidth of a line in the library's own unit. */
     public int line_band_default;
-    /** Port number where none is given. */
+    /** Default port number. */
     public int port_num_default;
     /** 8 elements, in use where <code>valid</code> is not 0. */
     public RvrfSrcArrayUnit[] arrayunit;

@@ -10,10 +10,10 @@ public class ZencopyLuInfo {
     public int pair_attr;
     /** Changed rate, the library's own value. */
     public int changed_rate;
-    /** Type of the other array, the library's own text. */
+    /** Remote type, the library's own text. */
     public String remote_type;
-    /** Serial number of the other array. */
+    /** Remote serial number. */
     public String remote_serial;
-    /** Logical device in the other array, the library's own text. */
+    /** Remote logical device, the library's own text. */
     public String remote_ldev;
 }
