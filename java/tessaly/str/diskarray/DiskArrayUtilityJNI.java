@@ -1133,7 +1133,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the pair to create
+     * @param request the pair to create; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1145,7 +1145,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the pairs to split
+     * @param request the pairs to split; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1157,7 +1157,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the pairs to dissolve
+     * @param request the pairs to dissolve; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1169,7 +1169,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the pairs to resynchronise
+     * @param request the pairs to resynchronise; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1181,7 +1181,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the pairs to restore
+     * @param request the pairs to restore; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1193,7 +1193,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the pair to create
+     * @param request the pair to create; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1205,7 +1205,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the pairs to split
+     * @param request the pairs to split; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1217,7 +1217,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the pairs to dissolve
+     * @param request the pairs to dissolve; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1229,7 +1229,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the pairs to resynchronise
+     * @param request the pairs to resynchronise; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1241,7 +1241,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the pairs to restore
+     * @param request the pairs to restore; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1253,7 +1253,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the pair to create
+     * @param request the pair to create; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1265,7 +1265,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the pairs to split
+     * @param request the pairs to split; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1277,7 +1277,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the pairs to dissolve
+     * @param request the pairs to dissolve; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1289,7 +1289,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the pairs to resynchronise
+     * @param request the pairs to resynchronise; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1301,7 +1301,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the pairs to swap
+     * @param request the pairs to swap; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1313,7 +1313,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the pair to create
+     * @param request the pair to create; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1325,7 +1325,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the pairs to split
+     * @param request the pairs to split; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1337,7 +1337,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the pairs to dissolve
+     * @param request the pairs to dissolve; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1349,7 +1349,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the pairs to resynchronise
+     * @param request the pairs to resynchronise; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1361,7 +1361,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the pairs to swap
+     * @param request the pairs to swap; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1373,7 +1373,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param change the pair, and its new attributes
+     * @param change the pair, and its new attributes; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1385,7 +1385,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the migrations, and the new pace of each
+     * @param request the migrations, and the new pace of each; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1505,7 +1505,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param option the settings
+     * @param option the settings; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1555,7 +1555,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param change the group, and its new attributes
+     * @param change the group, and its new attributes; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1580,7 +1580,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param device the remote array
+     * @param device the remote array; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1606,7 +1606,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param devices 8 remote arrays
+     * @param devices 8 remote arrays; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1619,7 +1619,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param deletion the other arrays, 8 at most
+     * @param deletion the other arrays, 8 at most; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1632,7 +1632,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param rebuild the path
+     * @param rebuild the path; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1658,7 +1658,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param paths the other array and the paths to it
+     * @param paths the other array and the paths to it; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1694,7 +1694,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param device the command devices, as {@link #QV_GetCommandDevice} returns them
+     * @param device the command devices, as {@link #QV_GetCommandDevice} returns them; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws ArrayIndexOutOfBoundsException where an int array of device is too short; the library
      *     was called nevertheless
@@ -1734,7 +1734,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param controller the controller, the library's own value
-     * @param control the synchronisation of 4 ports
+     * @param control the synchronisation of 4 ports; not null
      * @param option the library's own value
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
@@ -1749,7 +1749,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param reserve the logical units to reserve
+     * @param reserve the logical units to reserve; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws ArrayIndexOutOfBoundsException where the array of reserve is too short; the library
      *     was called nevertheless
@@ -1764,7 +1764,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param reserve the logical units to release
+     * @param reserve the logical units to release; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws ArrayIndexOutOfBoundsException where the array of reserve is too short; the library
      *     was called nevertheless
@@ -1779,7 +1779,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the migrations to start
+     * @param request the migrations to start; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1792,7 +1792,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the migrations to cancel
+     * @param request the migrations to cancel; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1805,7 +1805,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the migrations to split
+     * @param request the migrations to split; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1818,7 +1818,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the migrations to split
+     * @param request the migrations to split; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1870,7 +1870,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param pace how fast to copy
+     * @param pace how fast to copy; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1882,7 +1882,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param pace how fast to copy from now on
+     * @param pace how fast to copy from now on; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1894,7 +1894,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param path the networks of both arrays
+     * @param path the networks of both arrays; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */

@@ -1,6 +1,12 @@
 package tessaly.str.diskarray;
 
-/** The pairs inside an array; its light forms leave some fields unset. */
+/**
+ * The pairs inside an array; its light forms leave some fields unset.
+ *
+ * <p>{@link DiskArrayUtilityJNI#QV_GetPairInformationLite} returns the light form, {@link
+ * DiskArrayUtilityJNI#QV_GetPairInformationLite2} and {@link
+ * DiskArrayUtilityJNI#QV_GetAllInformationLite} the second one.
+ */
 public class PairInfo {
     /** Option word, the library's own value. */
     public int option;
