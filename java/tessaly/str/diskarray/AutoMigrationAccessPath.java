@@ -4,10 +4,7 @@ import java.util.Arrays;
 
 /** The networks of the array and of the new one. */
 public class AutoMigrationAccessPath {
-    /**
-     * 2 elements, one for each controller of the array; not null. An element that is null or
-     * missing reaches the library as it lay in memory, and those behind 2 are left out.
-     */
+    /** At most 2 elements, one for each controller of the array; not null, and no element null. */
     public AutoMigrationAccessPathNetwork[] ctl = new AutoMigrationAccessPathNetwork[2];
 
     {
@@ -16,8 +13,7 @@ public class AutoMigrationAccessPath {
     /** Mode of changing the maintenance address, the library's own value. */
     public int mainte_ip_change_mode;
     /**
-     * 2 elements, one for each controller of the new array; not null. An element that is null or
-     * missing reaches the library as it lay in memory, and those behind 2 are left out.
+     * At most 2 elements, one for each controller of the new array; not null, and no element null.
      */
     public AutoMigrationAccessPathNetwork[] newarray_ctl = new AutoMigrationAccessPathNetwork[2];
 

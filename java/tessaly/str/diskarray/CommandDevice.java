@@ -6,19 +6,16 @@ public class CommandDevice {
     public int mrcf_lite;
     /** Mode, the library's own value. */
     public int mode;
-    /** 2 elements, the library's own values. To hand over: not null, and not shorter. */
+    /** 2 elements, no fewer, the library's own values. Null in a new object. */
     public int[] valid;
-    /** 2 elements, numbers of logical units. To hand over: not null, and not shorter. */
+    /** 2 elements, no fewer, numbers of logical units. Null in a new object. */
     public int[] lu;
-    /** 2 elements, the library's own values. To hand over: not null, and not shorter. */
+    /** 2 elements, no fewer, the library's own values. Null in a new object. */
     public int[] security;
     /** Sequence number, at most 4 bytes; not null. */
     public String sequence_no = "";
     /** How many elements of <code>cmddev</code> are in use. */
     public int cmd_count;
-    /**
-     * 128 elements, used or not. To hand over: not null; an element that is null or missing reaches
-     * the library as it lay in memory, and those behind 128 are left out.
-     */
+    /** 128 elements, used or not. Handed over: at most 128 elements. Null in a new object. */
     public CmdDevInfo[] cmddev;
 }

@@ -4,14 +4,9 @@ package tessaly.str.diskarray;
 public class DiskArrayException extends Exception {
     private static final long serialVersionUID = 1L;
 
-    /** The code. */
     private final int code;
 
-    /**
-     * Made by the native library.
-     *
-     * @param code what {@link #getCode} returns
-     */
+    /** Made by the native library. */
     public DiskArrayException(int code) {
         super("disk array error " + code + words(code));
         this.code = code;
@@ -33,10 +28,7 @@ public class DiskArrayException extends Exception {
 
     /**
      * Returns the code: 258 where a required text was null, 2817 where the result could not be
-     * built, -1 where the time to set was null, any other as the array library returned it. It is
-     * never 256, with which a method returns its failure value and throws nothing.
-     *
-     * @return the code
+     * built, -1 where the time to set was null, any other as the array library returned it.
      */
     public int getCode() {
         return code;

@@ -9,8 +9,8 @@ public class LuMigrationRequest {
     /** Owner of the migrations, the library's own value. */
     public int owner_id;
     /**
-     * At most 4,095 elements; not null. One that is meant but null or missing reaches the library
-     * as it lay in memory; those behind 4,095 are left out.
+     * At most 4,095 elements, of which <code>request_pair_count</code> are meant; not null, and no
+     * element null.
      */
     public LuMigrationRequestPairInfo[] lu = new LuMigrationRequestPairInfo[4095];
 

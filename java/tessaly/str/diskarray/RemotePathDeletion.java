@@ -7,8 +7,8 @@ public class RemotePathDeletion {
     /** How many elements of <code>serial</code> are meant; not compared with its length. */
     public int delete_count;
     /**
-     * At most 8 elements; not null. One that is meant but null or missing reaches the library as it
-     * lay in memory; those behind 8 are left out.
+     * At most 8 elements, of which <code>delete_count</code> are meant; not null, and no element
+     * null.
      */
     public RemotePathSerial[] serial = new RemotePathSerial[8];
 

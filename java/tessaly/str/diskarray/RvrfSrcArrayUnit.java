@@ -13,9 +13,8 @@ public class RvrfSrcArrayUnit {
     /** Sequence number of the other array, at most 4 bytes; not null. */
     public String other_sequence_no = "";
     /**
-     * 2 elements, in use where <code>valid_index</code> is not 0. To hand over: not null; an
-     * element that is null or missing reaches the library as it lay in memory, and those behind 2
-     * are left out.
+     * 2 elements, in use where <code>valid_index</code> is not 0. Handed over: at most 2 elements.
+     * Null in a new object.
      */
     public RvrfSrcPath[] path;
     /** Whether <code>timeout</code> is given, the library's own value. */
