@@ -3122,275 +3122,821 @@ public class DiskArrayUtilityJNI {
 
     // Copy pairs
 
-    /** Creates a Gemlyn pair. */
+    /**
+     * Creates a Gemlyn pair.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param request the pair to create; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_CreateGemlynPair(
             String unit, QVSessionInfo session, CreateGemlynPair request) throws DiskArrayException;
 
-    /** Splits Gemlyn pairs. */
+    /**
+     * Splits Gemlyn pairs.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param request the pairs to split; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_SplitGemlynPair(String unit, QVSessionInfo session, SplitGemlynPair request)
             throws DiskArrayException;
 
-    /** Dissolves Gemlyn pairs. */
+    /**
+     * Dissolves Gemlyn pairs.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param request the pairs to dissolve; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_SimpleGemlynPair(String unit, QVSessionInfo session, PairOperation request)
             throws DiskArrayException;
 
-    /** Copies the changes since the split of Gemlyn pairs to their secondary side. */
+    /**
+     * Resynchronises Gemlyn pairs.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param request the pairs to resynchronise; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_ResyncGemlynPair(String unit, QVSessionInfo session, PairOperation request)
             throws DiskArrayException;
 
-    /** Copies the secondary side of Gemlyn pairs back. */
+    /**
+     * Copies the secondary side of Gemlyn pairs back.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param request the pairs to restore; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_RestoreGemlynPair(String unit, QVSessionInfo session, PairOperation request)
             throws DiskArrayException;
 
-    /** Creates a SnapShot pair. */
+    /**
+     * Creates a SnapShot pair.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param request the pair to create; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_CreateSnapShotPair(
             String unit, QVSessionInfo session, CreateSnapShotPair request) throws DiskArrayException;
 
-    /** Splits SnapShot pairs. */
+    /**
+     * Splits SnapShot pairs.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param request the pairs to split; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_SplitSnapShotPair(
             String unit, QVSessionInfo session, SplitSnapShotPair request) throws DiskArrayException;
 
-    /** Dissolves SnapShot pairs. */
+    /**
+     * Dissolves SnapShot pairs.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param request the pairs to dissolve; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_SimpleSnapShotPair(String unit, QVSessionInfo session, PairOperation request)
             throws DiskArrayException;
 
-    /** Copies the changes since the split of SnapShot pairs to their secondary side. */
+    /**
+     * Resynchronises SnapShot pairs.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param request the pairs to resynchronise; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_ResyncSnapShotPair(String unit, QVSessionInfo session, PairOperation request)
             throws DiskArrayException;
 
-    /** Copies the secondary side of SnapShot pairs back. */
+    /**
+     * Copies the secondary side of SnapShot pairs back.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param request the pairs to restore; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_RestoreSnapShotPair(
             String unit, QVSessionInfo session, PairOperation request) throws DiskArrayException;
 
-    /** Creates a Farlink pair. */
+    /**
+     * Creates a Farlink pair.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param request the pair to create; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_CreateFarlinkPair(
             String unit, QVSessionInfo session, CreateFarlinkPair request) throws DiskArrayException;
 
-    /** Splits Farlink pairs. */
+    /**
+     * Splits Farlink pairs.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param request the pairs to split; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_SplitFarlinkPair(
             String unit, QVSessionInfo session, SplitFarlinkPair request) throws DiskArrayException;
 
-    /** Dissolves Farlink pairs. */
+    /**
+     * Dissolves Farlink pairs.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param request the pairs to dissolve; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_SimpleFarlinkPair(
             String unit, QVSessionInfo session, SimpleRemotePair request) throws DiskArrayException;
 
-    /** Copies the changes since the split of Farlink pairs to the other array. */
+    /**
+     * Resynchronises Farlink pairs.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param request the pairs to resynchronise; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_ResyncFarlinkPair(
             String unit, QVSessionInfo session, RemotePairOperation request) throws DiskArrayException;
 
-    /** Makes the secondary side of Farlink pairs the primary one. */
+    /**
+     * Swaps the sides of Farlink pairs.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param request the pairs to swap; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_SwapFarlinkPair(
             String unit, QVSessionInfo session, RemotePairOperation request) throws DiskArrayException;
 
-    /** Creates a Longlink pair. */
+    /**
+     * Creates a Longlink pair.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param request the pair to create; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_CreateLonglinkPair(
             String unit, QVSessionInfo session, CreateLonglinkPair request) throws DiskArrayException;
 
-    /** Splits Longlink pairs. */
+    /**
+     * Splits Longlink pairs.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param request the pairs to split; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_SplitLonglinkPair(
             String unit, QVSessionInfo session, SplitLonglinkPair request) throws DiskArrayException;
 
-    /** Dissolves Longlink pairs. */
+    /**
+     * Dissolves Longlink pairs.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param request the pairs to dissolve; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_SimpleLonglinkPair(
             String unit, QVSessionInfo session, SimpleRemotePair request) throws DiskArrayException;
 
-    /** Copies the changes since the split of Longlink pairs to the other array. */
+    /**
+     * Resynchronises Longlink pairs.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param request the pairs to resynchronise; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_ResyncLonglinkPair(
             String unit, QVSessionInfo session, RemotePairOperation request) throws DiskArrayException;
 
-    /** Makes the secondary side of Longlink pairs the primary one. */
+    /**
+     * Swaps the sides of Longlink pairs.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param request the pairs to swap; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_SwapLonglinkPair(
             String unit, QVSessionInfo session, RemotePairOperation request) throws DiskArrayException;
 
-    /** Changes the attributes of a pair. */
+    /**
+     * Changes the attributes of a pair.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param change the pair, and its new attributes; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_ChangeReplicationPair(
             String unit, QVSessionInfo session, PairChange change) throws DiskArrayException;
 
-    /** Changes the pace of migrations of logical units. */
+    /**
+     * Changes the pace of migrations of logical units.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param request the migrations, and the new pace of each; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_ChangeCopyPace(
             String unit, QVSessionInfo session, LuMigrationRequest request)
             throws DiskArrayException;
 
-    /** Returns the pairs inside the array: 4,094 logical units of 32 pairs, used or not. */
+    /**
+     * Returns the pairs inside the array, with all their fields. That makes an object for each of
+     * 4,094 logical units and 32 pairs of each, used or not: who lists or watches pairs takes
+     * {@link #QV_GetPairInformationSimple} or {@link #QV_GetPairInformationLite}.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the pairs inside the array
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native PairInfo QV_GetPairInformation(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Returns the same with the state and the names of the pairs only. */
+    /**
+     * Returns the pairs inside the array with their state and names, the light form. It fills: of
+     * {@link PairInfo} <code>option</code>, <code>pair_count</code> and <code>lu</code>; of {@link
+     * PairLUInfo} <code>lun</code>, <code>pool_usedrate</code>, <code>mirror_count</code> and
+     * <code>m_info</code>; of {@link MirrorLUInfo} <code>mirror_no</code>, <code>lun</code>,
+     * <code>pool_no</code>, <code>pair_status</code>, <code>pair_status_detail</code>,
+     * <code>ctg_valid</code>, <code>ctg_no</code>, <code>ctg_name</code>, <code>pair_name</code>,
+     * <code>copy_speed</code>, <code>synchronized_rate</code>, <code>split_time</code> and
+     * <code>add_message</code>. All others are 0 or null.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the pairs inside the array; <code>ctl</code> and <code>sys</code> are null
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native PairInfo QV_GetPairInformationLite(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Returns the same with the capacities only, of 2,046 logical units. */
+    /**
+     * Returns the pairs inside the array with their capacities, of the first 2,046 of the 4,094
+     * logical units, the second light form. It fills: of {@link PairInfo} <code>option</code>,
+     * <code>ctl</code>, <code>pair_count</code> and <code>lu</code>; of {@link PairLUInfo}
+     * <code>lun</code>, <code>capacity</code>, <code>pool_usedcapa_h</code>,
+     * <code>pool_usedcapa_l</code>, <code>pool_usedrate</code>, <code>mirror_count</code> and
+     * <code>m_info</code>; of {@link MirrorLUInfo} <code>mirror_no</code>, <code>lun</code>,
+     * <code>ctl_no</code>, <code>pool_no</code>, <code>pair_status</code>, <code>usedcapa</code>,
+     * <code>changed_rate</code> and <code>time</code>. All others are 0 or null.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the pairs inside the array; <code>sys</code> is null
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native PairInfo QV_GetPairInformationLite2(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Returns which logical units are paired inside the array. */
+    /**
+     * Returns which logical units are paired inside the array.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the numbers of the paired logical units
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native PairInfoSimple QV_GetPairInformationSimple(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Returns the Farlink pairs. */
+    /**
+     * Returns the Farlink pairs.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the Farlink pairs
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native FarlinkPairInformation QV_GetFarlinkPairInformation(
             String unit, QVSessionInfo session) throws DiskArrayException;
 
-    /** Returns the asynchronous pairs and their consistency groups. */
+    /**
+     * Returns the asynchronous pairs and their consistency groups.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the asynchronous pairs and their groups
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native FarlinkAsyncPairInformation QV_GetFarlinkAsyncPairInformation(
             String unit, QVSessionInfo session) throws DiskArrayException;
 
-    /** Returns the settings of asynchronous pairs. */
+    /**
+     * Returns the settings of asynchronous pairs.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the settings
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native FarlinkAsyncOption QV_GetFarlinkAsyncOption(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Sets the settings of asynchronous pairs. */
+    /**
+     * Sets the settings of asynchronous pairs.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param option the settings; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_SetFarlinkAsyncOption(
             String unit, QVSessionInfo session, FarlinkAsyncOption option)
             throws DiskArrayException;
 
-    /** Returns the pairs with arrays of another family. */
+    /**
+     * Returns the Zencopy pairs. It needs no session.
+     *
+     * @param unit the unit's registered name
+     * @return the Zencopy pairs
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native ZencopyInformation QV_GetZencopyInformation(String unit)
             throws DiskArrayException;
 
-    /** Splits a pair with an array of another family. */
+    /**
+     * Splits a Zencopy pair. It needs no session.
+     *
+     * @param unit the unit's registered name
+     * @param pair which pair, the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     */
     public native void QV_SplitZencopyPair(String unit, int pair) throws DiskArrayException;
 
     // Remote paths and consistency groups
 
-    /** Returns the consistency groups, 256 inside the array and 256 of remote pairs. */
+    /**
+     * Returns the consistency groups, 256 of pairs inside the array and 256 of remote pairs, used
+     * or not.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the consistency groups
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native CTGInformation QV_GetCTGInformation(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Changes the attributes of a consistency group. */
+    /**
+     * Changes the attributes of a consistency group.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param change the group, and its new attributes; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_ChangeReplicationCTG(String unit, QVSessionInfo session, CTGInfo change)
             throws DiskArrayException;
 
-    /** Returns the array at the other end of remote pairs. */
+    /**
+     * Returns the remote array that this one knows.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the remote array
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native RemoteDeviceInformation QV_GetRemoteDeviceInformation(
             String unit, QVSessionInfo session) throws DiskArrayException;
 
-    /** Sets the array at the other end of remote pairs. */
+    /**
+     * Sets the remote array that this one knows.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param device the remote array; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_SetRemoteDeviceInformation(
             String unit, QVSessionInfo session, RemoteDeviceInformation device)
             throws DiskArrayException;
 
-    /** Returns the arrays at the other ends of remote pairs. */
+    /**
+     * Returns the remote arrays that this one knows.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return 8 remote arrays, used or not
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native RemoteDeviceInformationEx QV_GetRemoteDeviceInformationEx(
             String unit, QVSessionInfo session) throws DiskArrayException;
 
-    /** Sets the arrays at the other ends of remote pairs. */
+    /**
+     * Sets the remote arrays that this one knows.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param devices 8 remote arrays; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_SetRemoteDeviceInformationEx(
             String unit, QVSessionInfo session, RemoteDeviceInformationEx devices)
             throws DiskArrayException;
 
-    /** Deletes the remote paths to other arrays. */
+    /**
+     * Deletes the remote paths to other arrays.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param deletion the other arrays, 8 at most; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_DelRemotePath(
             String unit, QVSessionInfo session, RemotePathDeletion deletion)
             throws DiskArrayException;
 
-    /** Sets up a remote path anew. */
+    /**
+     * Sets up a remote path anew.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param rebuild the path; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_ReconstructRemotePath(
             String unit, QVSessionInfo session, RemotePathRebuild rebuild)
             throws DiskArrayException;
 
-    /** Returns the remote paths. */
+    /**
+     * Returns the paths to other arrays, as the source of remote verify.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the paths
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native RvrfSrcInfo QV_GetRvrfSrcPath(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Sets the remote paths to another array. */
+    /**
+     * Sets the paths to another array, as the source of remote verify.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param paths the other array and the paths to it; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_SetRvrfSrcPath(String unit, QVSessionInfo session, RvrfSrcArrayUnit paths)
             throws DiskArrayException;
 
-    /** Deletes all remote paths. */
+    /**
+     * Deletes the paths to other arrays, as the source of remote verify.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_DelRvrfSrcPath(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Returns the logical units through which hosts give commands. */
+    /**
+     * Returns the command devices.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the command devices
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native CommandDevice QV_GetCommandDevice(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Sets the logical units through which hosts give commands. */
+    /**
+     * Sets the command devices.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param device the command devices, as {@link #QV_GetCommandDevice} returns them; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws ArrayIndexOutOfBoundsException where an int array of device is too short; the library
+     *     was called nevertheless
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_SetCommandDevice(String unit, QVSessionInfo session, CommandDevice device)
             throws DiskArrayException;
 
-    /** Returns the pairs as couplings of logical units. */
+    /**
+     * Returns the pairs as couplings of logical units.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return 8,192 couplings, used or not
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native CouplingInfo QV_GetCouplingInfo(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Returns the synchronisation of the ports of a controller. */
+    /**
+     * Returns the synchronisation of the ports of a controller. It needs no session.
+     *
+     * @param unit the unit's registered name
+     * @param controller the controller, the library's own value
+     * @return the synchronisation of 4 ports
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native SyncControl QV_GetSyncControl(String unit, int controller)
             throws DiskArrayException;
 
-    /** Sets the synchronisation of the ports of a controller. */
+    /**
+     * Sets the synchronisation of the ports of a controller. It needs no session.
+     *
+     * @param unit the unit's registered name
+     * @param controller the controller, the library's own value
+     * @param control the synchronisation of 4 ports; not null
+     * @param option the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_SetSyncControl(
             String unit, int controller, SyncControl control, int option) throws DiskArrayException;
 
     // Volume migration
 
-    /** Reserves logical units as targets of migrations. */
+    /**
+     * Reserves logical units as targets of migrations.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param reserve the logical units to reserve; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws ArrayIndexOutOfBoundsException where the array of reserve is too short; the library
+     *     was called nevertheless
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_AddLuMigrationReserveLU(
             String unit, QVSessionInfo session, LuMigrationReserve reserve)
             throws DiskArrayException;
 
-    /** Takes back the reservation of logical units. */
+    /**
+     * Takes back the reservation of logical units.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param reserve the logical units to release; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws ArrayIndexOutOfBoundsException where the array of reserve is too short; the library
+     *     was called nevertheless
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_DeleteLuMigrationReserveLU(
             String unit, QVSessionInfo session, LuMigrationReserve reserve)
             throws DiskArrayException;
 
-    /** Starts to migrate logical units. */
+    /**
+     * Starts to migrate logical units to reserved ones.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param request the migrations to start; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_StartLuMigration(
             String unit, QVSessionInfo session, LuMigrationRequest request)
             throws DiskArrayException;
 
-    /** Cancels migrations that are still copying. */
+    /**
+     * Cancels migrations.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param request the migrations to cancel; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_CancelLuMigration(
             String unit, QVSessionInfo session, LuMigrationRequest request)
             throws DiskArrayException;
 
-    /** Splits the pairs of migrations. */
+    /**
+     * Splits the pairs of migrations.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param request the migrations to split; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_SplitLuMigration(
             String unit, QVSessionInfo session, LuMigrationRequest request)
             throws DiskArrayException;
 
-    /** Splits the pairs of migrations and releases their owner. */
+    /**
+     * Splits the pairs of migrations and releases their owner.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param request the migrations to split; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_SplitLuMigrationFreeOwner(
             String unit, QVSessionInfo session, LuMigrationRequest request)
             throws DiskArrayException;
 
-    /** Returns what the migration has to do with each logical unit. */
+    /**
+     * Returns the migration's state of each logical unit.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return 8,192 states, one for each logical unit
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native LuMigrationState QV_GetLuMigrationState(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Returns the reserved logical units and the migrations with their progress. */
+    /**
+     * Returns the reserved logical units and the migrations with their progress.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return 4,095 reserved logical units and 4,095 migrations, used or not
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native LuMigrationInformation QV_GetLuMigrationInformation(
             String unit, QVSessionInfo session) throws DiskArrayException;
 
-    /** Returns the state of the migration of the whole array. */
+    /**
+     * Returns the state of the migration of the whole array.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @return the state and the progress
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native AutoMigrationInformation QV_GetAutoMigrationInformation(
             String unit, QVSessionInfo session) throws DiskArrayException;
 
-    /** Starts to migrate the whole array. */
+    /**
+     * Starts to migrate the whole array.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param pace how fast to copy; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_StartAutoMigration(
             String unit, QVSessionInfo session, AutoMigrationPace pace) throws DiskArrayException;
 
-    /** Changes the pace of the migration of the whole array. */
+    /**
+     * Changes the pace of the migration of the whole array.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param pace how fast to copy from now on; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_ChangeAutoMigrationCopyPace(
             String unit, QVSessionInfo session, AutoMigrationPace pace) throws DiskArrayException;
 
-    /** Changes the networks of the array and of the new one. */
+    /**
+     * Changes the networks of the array and of the new one.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @param path the networks of both arrays; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_ChangeAutoMigrationAccessPath(
             String unit, QVSessionInfo session, AutoMigrationAccessPath path)
             throws DiskArrayException;
 
-    /** Deletes the data of the array that was migrated. */
+    /**
+     * Deletes the data of the migration of the whole array.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_DeleteAutoMigrationData(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Resets whether the migration of the whole array may be used. */
+    /**
+     * Resets the usable status of the migration of the whole array.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_ResetAutoMigrationUsableStatus(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Restarts the array. */
+    /**
+     * Restarts the unit in the migration of the whole array.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_RebootAutoMigrationUnit(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
-    /** Shuts the array down. */
+    /**
+     * Shuts down the unit in the migration of the whole array.
+     *
+     * @param unit the unit's registered name
+     * @param session the session from a login
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
+     */
     public native void QV_ShutdownAutoMigrationUnit(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
