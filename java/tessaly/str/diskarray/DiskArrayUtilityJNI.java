@@ -83,7 +83,7 @@ public class DiskArrayUtilityJNI {
     /**
      * Takes a unit from the list.
      *
-     * @param unit the name of a registered unit
+     * @param unit the unit's registered name
      * @throws DiskArrayException 258 or the library's code
      */
     public native void QV_UnitDelete(String unit) throws DiskArrayException;
@@ -91,7 +91,7 @@ public class DiskArrayUtilityJNI {
     /**
      * Returns a registered unit.
      *
-     * @param unit the name of a registered unit
+     * @param unit the unit's registered name
      * @return the unit
      * @throws DiskArrayException 258, 2817 or the library's code
      */
@@ -140,8 +140,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Attaches additional units to a registered one.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @param request how to attach them
      * @throws DiskArrayException 258 or the library's code
      */
@@ -152,8 +152,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Returns the additional units of a registered one.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @return the additional units
      * @throws DiskArrayException 258, 2817 or the library's code
      */
@@ -165,7 +165,7 @@ public class DiskArrayUtilityJNI {
     /**
      * Logs in to a unit with a user of the array's own list. A text that could not be made is null.
      *
-     * @param unit the name of a registered unit
+     * @param unit the unit's registered name
      * @param mode the library's own
      * @param user the user; null is one with empty texts
      * @return two texts, or null where the array names nobody
@@ -177,7 +177,7 @@ public class DiskArrayUtilityJNI {
     /**
      * Returns who is logged in, as {@link #QV_LoginQVUnit} does.
      *
-     * @param unit the name of a registered unit
+     * @param unit the unit's registered name
      * @param mode the library's own
      * @return two texts, or null where the array names nobody
      * @throws DiskArrayException 258, 2817 or the library's code
@@ -187,7 +187,7 @@ public class DiskArrayUtilityJNI {
     /**
      * Logs out of a unit.
      *
-     * @param unit the name of a registered unit
+     * @param unit the unit's registered name
      * @param mode the library's own
      * @throws DiskArrayException 258 or the library's code
      */
@@ -196,7 +196,7 @@ public class DiskArrayUtilityJNI {
     /**
      * Returns whether somebody is logged in.
      *
-     * @param unit the name of a registered unit
+     * @param unit the unit's registered name
      * @param mode the library's own
      * @return the library's own value
      * @throws DiskArrayException 258 or the library's code
@@ -206,7 +206,7 @@ public class DiskArrayUtilityJNI {
     /**
      * Ends whatever login there is.
      *
-     * @param unit the name of a registered unit
+     * @param unit the unit's registered name
      * @param mode the library's own
      * @throws DiskArrayException 258 or the library's code
      */
@@ -215,8 +215,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Keeps a session from ending by itself.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @throws DiskArrayException 258 or the library's code
      */
     public native void QV_KeepSession(String unit, QVSessionInfo session)
@@ -225,7 +225,7 @@ public class DiskArrayUtilityJNI {
     /**
      * Throws where the unit is not ready.
      *
-     * @param unit the name of a registered unit
+     * @param unit the unit's registered name
      * @param mode the library's own
      * @throws DiskArrayException 258 or the library's code
      */
@@ -234,8 +234,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Restarts a unit.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @throws DiskArrayException 258 or the library's code
      */
     public native void QV_UnitReboot(String unit, QVSessionInfo session)
@@ -261,7 +261,7 @@ public class DiskArrayUtilityJNI {
     /**
      * Adds a user to the array's own list.
      *
-     * @param unit the name of a registered unit
+     * @param unit the unit's registered name
      * @param number user number, the library's own
      * @param user the user
      * @throws DiskArrayException 258 or the library's code
@@ -272,7 +272,7 @@ public class DiskArrayUtilityJNI {
     /**
      * Changes a user of the array's own list.
      *
-     * @param unit the name of a registered unit
+     * @param unit the unit's registered name
      * @param number user number, the library's own
      * @param oldUser the user until now
      * @param newUser the user from now on
@@ -285,7 +285,7 @@ public class DiskArrayUtilityJNI {
     /**
      * Takes a user from the array's own list.
      *
-     * @param unit the name of a registered unit
+     * @param unit the unit's registered name
      * @param number user number, the library's own
      * @param user the user
      * @throws DiskArrayException 258 or the library's code
@@ -296,7 +296,7 @@ public class DiskArrayUtilityJNI {
     /**
      * Empties the array's own list of users.
      *
-     * @param unit the name of a registered unit
+     * @param unit the unit's registered name
      * @param number user number, the library's own
      * @throws DiskArrayException 258 or the library's code
      */
@@ -305,7 +305,7 @@ public class DiskArrayUtilityJNI {
     /**
      * Returns the state of the array's own list of users.
      *
-     * @param unit the name of a registered unit
+     * @param unit the unit's registered name
      * @param number user number, the library's own
      * @return the state of the list
      * @throws DiskArrayException 258, 2817 or the library's code
@@ -316,8 +316,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Returns what kind of array a unit is, and how much of everything it can hold.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @return the unit
      * @throws DiskArrayException 258, 2817 or the library's code
      */
@@ -327,8 +327,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Returns the kind of each controller's ports.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @return the kinds
      * @throws DiskArrayException 258, 2817 or the library's code
      */
@@ -339,8 +339,8 @@ public class DiskArrayUtilityJNI {
      * Returns the time of a unit's clock. A null name is an empty one. Each call keeps 32 bytes of
      * native memory for good.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @return the time; null where it cannot be built, without code 2817
      * @throws DiskArrayException the library's code
      */
@@ -351,8 +351,8 @@ public class DiskArrayUtilityJNI {
      * Sets a unit's clock. A null name is an empty one. Each call keeps 32 bytes of native memory
      * for good.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @param time the time
      * @throws DiskArrayException -1 for a null time, 2817 for a time or a session that cannot be
      *     read, both without a call of the library, or the library's code
@@ -364,8 +364,8 @@ public class DiskArrayUtilityJNI {
      * Sets a unit's clock to the host's time. A null name is an empty one. Each call keeps 32 bytes
      * of native memory for good.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @throws DiskArrayException the library's code
      */
     public native void QV_SetUnitTimeNow(String unit, QVSessionInfo session)
@@ -374,8 +374,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Returns how an array identifies itself.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @return its identifier
      * @throws DiskArrayException 258, 2817 or the library's code
      */
@@ -386,8 +386,8 @@ public class DiskArrayUtilityJNI {
      * Sets how an array identifies itself. Layout assumed: 32 bytes have no field, and reach the
      * library as they lay in memory. Confirm the layout before the first call on an array in use.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @param identifier its identifier
      * @throws DiskArrayException 258 or the library's code
      */
@@ -398,8 +398,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Returns the settings of an array for its time.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @return the settings
      * @throws DiskArrayException 258, 2817 or the library's code
      */
@@ -411,8 +411,8 @@ public class DiskArrayUtilityJNI {
      * reach the library as they lay in memory. Confirm the layout before the first call on an array
      * in use.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @param info the settings
      * @throws DiskArrayException 258 or the library's code
      */
@@ -3945,8 +3945,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Stages a firmware file.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @param path of a file of this host, at most 1,023 bytes
      * @param option the library's own
      * @return the library's number for it
@@ -3958,8 +3958,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Stages a firmware file, in the second form.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @param path of a file of this host, at most 1,023 bytes
      * @throws DiskArrayException 258 or the library's code
      */
@@ -3969,8 +3969,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Stages a firmware file, in the extended form.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @param path of a file of this host, at most 1,023 bytes
      * @throws DiskArrayException 258 or the library's code
      */
@@ -3980,8 +3980,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Stages a firmware of two files.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @param first path of the first file of this host, at most 1,023 bytes
      * @param second path of the second, likewise
      * @throws DiskArrayException 258 or the library's code
@@ -4008,7 +4008,7 @@ public class DiskArrayUtilityJNI {
     /**
      * Returns how far the download came.
      *
-     * @param unit the name of a registered unit
+     * @param unit the unit's registered name
      * @return the library's own count
      * @throws DiskArrayException 258 or the library's code
      */
@@ -4017,7 +4017,7 @@ public class DiskArrayUtilityJNI {
     /**
      * Returns how far the download came, in the extended form.
      *
-     * @param unit the name of a registered unit
+     * @param unit the unit's registered name
      * @param option the library's own
      * @return the library's own count
      * @throws DiskArrayException 258 or the library's code
@@ -4027,7 +4027,7 @@ public class DiskArrayUtilityJNI {
     /**
      * Returns how far the download of a file came.
      *
-     * @param unit the name of a registered unit
+     * @param unit the unit's registered name
      * @param option the library's own
      * @param path of a file of this host, at most 1,023 bytes
      * @return the library's own count
@@ -4039,8 +4039,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Downloads the staged firmware to the array.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @param option1 the library's own
      * @param option2 the library's own
      * @param option3 the library's own
@@ -4053,8 +4053,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Downloads the staged firmware to the array, in the extended form.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @param option1 the library's own
      * @param option2 the library's own
      * @param option3 the library's own
@@ -4068,8 +4068,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Downloads a staged firmware file to the array.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @param option1 the library's own
      * @param option2 the library's own
      * @param option3 the library's own
@@ -4084,8 +4084,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Replaces the running firmware by the downloaded one.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @param option the library's own
      * @throws DiskArrayException 258 or the library's code
      */
@@ -4095,8 +4095,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Replaces the running firmware. The library's code 4109 is a success, too.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @param option the library's own
      * @return how far that came
      * @throws DiskArrayException 258, 2817 or the library's code
@@ -4107,8 +4107,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Replaces the running firmware by way of the other controller.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @param request the controller and how
      * @return how far that came
      * @throws DiskArrayException 258, 2817 or the library's code
@@ -4120,8 +4120,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Completes a replacement.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @param option the library's own
      * @throws DiskArrayException 258 or the library's code
      */
@@ -4156,8 +4156,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Stages an enclosure firmware file.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @param path of a file of this host, at most 1,023 bytes
      * @throws DiskArrayException 258 or the library's code
      */
@@ -4167,8 +4167,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Stages an enclosure firmware file, in the extended form.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @param path of a file of this host, at most 1,023 bytes
      * @param option the library's own
      * @throws DiskArrayException 258 or the library's code
@@ -4186,8 +4186,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Downloads the staged enclosure firmware.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @param option1 the library's own
      * @param option2 the library's own
      * @return the number that the library writes
@@ -4199,8 +4199,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Returns how far the download of the enclosure firmware came.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @return the library's own count
      * @throws DiskArrayException 258 or the library's code
      */
@@ -4210,8 +4210,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Replaces the running enclosure firmware by the downloaded one.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @param option the library's own
      * @throws DiskArrayException 258 or the library's code
      */
@@ -4221,8 +4221,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Replaces the running enclosure firmware, in the extended form.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @param option the library's own
      * @param record the library's own
      * @throws DiskArrayException 258 or the library's code
@@ -4241,8 +4241,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Returns the enclosure firmware of an array.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @return the firmware
      * @throws DiskArrayException 258, 2817 or the library's code
      */
@@ -4260,8 +4260,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Returns the BIOS revisions of the NAS nodes.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @return the revisions
      * @throws DiskArrayException 258, 2817 or the library's code
      */
@@ -4271,8 +4271,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Prepares the NAS nodes for the download of a BIOS.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @param option the library's own
      * @throws DiskArrayException 258 or the library's code
      */
@@ -4282,8 +4282,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Stages a BIOS file.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @param path of a file of this host, at most 1,023 bytes
      * @throws DiskArrayException 258 or the library's code
      */
@@ -4300,8 +4300,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Downloads the staged BIOS.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @param option1 the library's own
      * @param option2 the library's own
      * @throws DiskArrayException 258 or the library's code
@@ -4320,8 +4320,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Returns the state of the BIOS download of a NAS node.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @param option the library's own
      * @return the state
      * @throws DiskArrayException 258, 2817 or the library's code
@@ -4332,8 +4332,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Returns which NAS nodes are being upgraded.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @return the state of each node
      * @throws DiskArrayException 258, 2817 or the library's code
      */
@@ -4345,7 +4345,7 @@ public class DiskArrayUtilityJNI {
     /**
      * Logs in with an account of the array.
      *
-     * @param unit the name of a registered unit
+     * @param unit the unit's registered name
      * @param request the account and its password
      * @return the session, for every other call on this unit
      * @throws DiskArrayException 258, 2817 or the library's code
@@ -4356,7 +4356,7 @@ public class DiskArrayUtilityJNI {
     /**
      * Logs in for the alert check.
      *
-     * @param unit the name of a registered unit
+     * @param unit the unit's registered name
      * @param option the library's own
      * @return the session
      * @throws DiskArrayException 258, 2817 or the library's code
@@ -4367,8 +4367,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Ends a session.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @param option how to end it
      * @throws DiskArrayException 258 or the library's code
      */
@@ -4378,8 +4378,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Ends a session of the alert check.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @param option how to end it
      * @throws DiskArrayException 258 or the library's code
      */
@@ -4389,8 +4389,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Ends all sessions of an account.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @param account the account
      * @throws DiskArrayException 258 or the library's code
      */
@@ -4401,8 +4401,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Deletes an account.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @param account the account
      * @throws DiskArrayException 258 or the library's code
      */
@@ -4413,8 +4413,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Creates an account.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @param account the account
      * @throws DiskArrayException 258 or the library's code
      */
@@ -4424,8 +4424,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Changes an account.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @param account the account as it is to be
      * @throws DiskArrayException 258 or the library's code
      */
@@ -4435,8 +4435,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Changes the password of the session's own user.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @param change the user and both passwords
      * @throws DiskArrayException 258 or the library's code
      */
@@ -4447,8 +4447,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Returns the settings for all accounts.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @return the settings
      * @throws DiskArrayException 258, 2817 or the library's code
      */
@@ -4458,8 +4458,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Sets the settings for all accounts.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @param option the settings
      * @throws DiskArrayException 258 or the library's code
      */
@@ -4469,8 +4469,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Returns the roles that accounts may have.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @return the roles
      * @throws DiskArrayException 258, 2817 or the library's code
      */
@@ -4480,8 +4480,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Returns the accounts.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @return the accounts
      * @throws DiskArrayException 258, 2817 or the library's code
      */
@@ -4491,8 +4491,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Returns what the session's own user may do.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @return what the user may do
      * @throws DiskArrayException 258, 2817 or the library's code
      */
@@ -4502,7 +4502,7 @@ public class DiskArrayUtilityJNI {
     /**
      * Returns the warning that is shown before a login. It needs no session.
      *
-     * @param unit the name of a registered unit
+     * @param unit the unit's registered name
      * @return the warning
      * @throws DiskArrayException 258, 2817 or the library's code
      */
@@ -4511,8 +4511,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Returns the warning that is shown before a login, to a user who is logged in.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @return the warning
      * @throws DiskArrayException 258, 2817 or the library's code
      */
@@ -4522,8 +4522,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Sets the warning that is shown before a login.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @param banner the warning
      * @throws DiskArrayException 258 or the library's code
      */
@@ -4535,8 +4535,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Returns the settings of the audit log.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @return the settings
      * @throws DiskArrayException 258, 2817 or the library's code
      */
@@ -4546,8 +4546,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Sets the settings of the audit log.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @param information the settings
      * @throws DiskArrayException 258 or the library's code
      */
@@ -4558,8 +4558,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Writes the audit log to a file.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @param path of a file of this host, at most 1,023 bytes
      * @throws DiskArrayException 258 or the library's code
      */
@@ -4569,8 +4569,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Clears the audit log.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @param request the request
      * @throws DiskArrayException 258 or the library's code
      */
@@ -4599,8 +4599,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Returns the alert of an array.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @param option the library's own
      * @return the library's own value
      * @throws DiskArrayException 258 or the library's code
@@ -4611,8 +4611,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Returns the alert of an array, in the extended form.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @param option the library's own
      * @return the alert
      * @throws DiskArrayException 258, 2817 or the library's code
@@ -4655,8 +4655,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Returns the state of the array's e-mail alert.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @return the state, with the mail
      * @throws DiskArrayException 258, 2817 or the library's code
      */
@@ -4666,8 +4666,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Sets the mail that the array sends on an alert.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @param info the mail
      * @throws DiskArrayException 258 or the library's code
      */
@@ -4677,8 +4677,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Clears the mail that the array sends on an alert.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @throws DiskArrayException 258 or the library's code
      */
     public native void QV_ClearEmailAlertInfo(String unit, QVSessionInfo session)
@@ -4687,8 +4687,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Changes the mode of the array's e-mail alert.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @param mode the library's own
      * @throws DiskArrayException 258 or the library's code
      */
@@ -4698,8 +4698,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Sends a test mail from a controller of the array.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @param test the controller
      * @throws DiskArrayException 258 or the library's code
      */
@@ -4733,8 +4733,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Sets the configuration of the array.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @param config the configuration
      * @throws DiskArrayException 258 or the library's code
      */
@@ -4746,8 +4746,8 @@ public class DiskArrayUtilityJNI {
      * Sets the configuration of the array from files of this host. Each call keeps 32 bytes of
      * native memory for good.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @param first path of the first file of this host, at most 1,023 bytes
      * @param second path of the second, likewise
      * @throws DiskArrayException 258 or the library's code
@@ -4760,8 +4760,8 @@ public class DiskArrayUtilityJNI {
      * Writes the configuration of the array to files of this host. Each call keeps 32 bytes of
      * native memory for good.
      *
-     * @param unit the name of a registered unit
-     * @param session as the login returned it
+     * @param unit the unit's registered name
+     * @param session the session from a login
      * @param first path of the first file of this host, at most 1,023 bytes
      * @param second path of the second, likewise
      * @throws DiskArrayException 258 or the library's code
