@@ -25,7 +25,8 @@ package tessaly.str.diskarray;
  * <li>{@link DiskArrayException} has the library's code where the library refuses, and 2817 where the
  *     result could not be built. Nothing is thrown for the library's code 256: the method returns
  *     null, 0 or nothing.
- * <li>{@link OutOfMemoryError} with an empty message: there is no native memory for the records.
+ * <li>{@link OutOfMemoryError} with an empty message: there is no native memory for the records, or
+ *     the library's code is 65535.
  * <li>Any thread may call. The calls share nothing but the library.
  * </ul>
  *
@@ -49,16 +50,18 @@ public class DiskArrayUtilityJNI {
     /**
      * Registers a unit under <code>param.unit_name</code>.
      *
-     * @param param the unit
-     * @throws DiskArrayException the library's code
+     * @param param the unit; not null
+     * @throws DiskArrayException with the library's code
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_UnitAdd(QVUnitParam param) throws DiskArrayException;
 
     /**
      * Registers a unit by its address.
      *
-     * @param param the unit, with an address
-     * @throws DiskArrayException the library's code
+     * @param param the unit, with an address; not null
+     * @throws DiskArrayException with the library's code
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_UnitAddByIP(QVUnitParam param) throws DiskArrayException;
 
@@ -66,8 +69,9 @@ public class DiskArrayUtilityJNI {
      * Changes a registered unit.
      *
      * @param unit the name that it is registered under
-     * @param param the unit as it is to be, with all its fields
-     * @throws DiskArrayException 258 or the library's code
+     * @param param the unit as it is to be, with all its fields; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_UnitChange(String unit, QVUnitParam param) throws DiskArrayException;
 
@@ -75,8 +79,9 @@ public class DiskArrayUtilityJNI {
      * Changes a registered unit by its address.
      *
      * @param unit the name that it is registered under
-     * @param param the unit as it is to be, with all its fields
-     * @throws DiskArrayException 258 or the library's code
+     * @param param the unit as it is to be, with all its fields; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_UnitChangeByIP(String unit, QVUnitParam param) throws DiskArrayException;
 
@@ -84,7 +89,7 @@ public class DiskArrayUtilityJNI {
      * Takes a unit from the list.
      *
      * @param unit the unit's registered name
-     * @throws DiskArrayException 258 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null
      */
     public native void QV_UnitDelete(String unit) throws DiskArrayException;
 
@@ -93,7 +98,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @return the unit
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native QVUnitParam QV_GetUnitParam(String unit) throws DiskArrayException;
 
@@ -101,7 +108,7 @@ public class DiskArrayUtilityJNI {
      * Returns the number of registered units.
      *
      * @return the number, or -1 for the library's code 256
-     * @throws DiskArrayException the library's code
+     * @throws DiskArrayException with the library's code
      */
     public native int QV_GetUnitCount() throws DiskArrayException;
 
@@ -113,16 +120,17 @@ public class DiskArrayUtilityJNI {
      *
      * @param count how many elements
      * @return the units; null where there is no native memory for as many, or the count is negative
-     * @throws DiskArrayException -1 where the array cannot be made, or the library's code
+     * @throws DiskArrayException with the library's code; -1 where the array cannot be made
      */
     public native QVUnitParam[] QV_GetUnitParamTable(int count) throws DiskArrayException;
 
     /**
      * Looks for a unit on the network.
      *
-     * @param request where to look
+     * @param request where to look; not null
      * @return the unit that was found
-     * @throws DiskArrayException 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 2817 where the result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native DiscoverUnit QV_DiscoverUnitInformation(DiscoverUnitRequest request)
             throws DiskArrayException;
@@ -130,9 +138,10 @@ public class DiskArrayUtilityJNI {
     /**
      * Looks for a unit on the network, in the extended form.
      *
-     * @param request where to look
+     * @param request where to look; not null
      * @return the unit that was found
-     * @throws DiskArrayException 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 2817 where the result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native DiscoverUnit QV_DiscoverUnitInformationEx(DiscoverUnitRequest request)
             throws DiskArrayException;
@@ -142,8 +151,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request how to attach them
-     * @throws DiskArrayException 258 or the library's code
+     * @param request how to attach them; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_AddAdditionalUnit(
             String unit, QVSessionInfo session, AdditionalUnitRequest request)
@@ -155,7 +165,9 @@ public class DiskArrayUtilityJNI {
      * @param unit the unit's registered name
      * @param session the session from a login
      * @return the additional units
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native AdditionalUnitInformation QV_GetAdditionalUnitInformation(
             String unit, QVSessionInfo session) throws DiskArrayException;
@@ -166,10 +178,11 @@ public class DiskArrayUtilityJNI {
      * Logs in to a unit with a user of the array's own list. A text that could not be made is null.
      *
      * @param unit the unit's registered name
-     * @param mode the library's own
+     * @param mode the library's own value
      * @param user the user; null is one with empty texts
      * @return two texts, or null where the array names nobody
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
      */
     public native String[] QV_LoginQVUnit(String unit, int mode, ArrayUser user)
             throws DiskArrayException;
@@ -178,9 +191,10 @@ public class DiskArrayUtilityJNI {
      * Returns who is logged in, as {@link #QV_LoginQVUnit} does.
      *
      * @param unit the unit's registered name
-     * @param mode the library's own
+     * @param mode the library's own value
      * @return two texts, or null where the array names nobody
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
      */
     public native String[] QV_GetLoginUser(String unit, int mode) throws DiskArrayException;
 
@@ -188,27 +202,27 @@ public class DiskArrayUtilityJNI {
      * Logs out of a unit.
      *
      * @param unit the unit's registered name
-     * @param mode the library's own
-     * @throws DiskArrayException 258 or the library's code
+     * @param mode the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
      */
     public native void QV_LogoutQVUnit(String unit, int mode) throws DiskArrayException;
 
     /**
-     * Returns whether somebody is logged in.
+     * Checks the login of a unit.
      *
      * @param unit the unit's registered name
-     * @param mode the library's own
+     * @param mode the library's own value
      * @return the library's own value
-     * @throws DiskArrayException 258 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null
      */
     public native int QV_CheckLogin(String unit, int mode) throws DiskArrayException;
 
     /**
-     * Ends whatever login there is.
+     * Resets the login of a unit.
      *
      * @param unit the unit's registered name
-     * @param mode the library's own
-     * @throws DiskArrayException 258 or the library's code
+     * @param mode the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
      */
     public native void QV_ResetLogin(String unit, int mode) throws DiskArrayException;
 
@@ -217,17 +231,18 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @throws DiskArrayException 258 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_KeepSession(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
     /**
-     * Throws where the unit is not ready.
+     * Tests whether a unit is ready: throws the library's code where it is not.
      *
      * @param unit the unit's registered name
-     * @param mode the library's own
-     * @throws DiskArrayException 258 or the library's code
+     * @param mode the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
      */
     public native void QV_TestUnitReady(String unit, int mode) throws DiskArrayException;
 
@@ -236,7 +251,8 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @throws DiskArrayException 258 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_UnitReboot(String unit, QVSessionInfo session)
             throws DiskArrayException;
@@ -244,17 +260,17 @@ public class DiskArrayUtilityJNI {
     /**
      * Sets the password of the library.
      *
-     * @param password the new password, at most 1,023 bytes; null is code 258
-     * @throws DiskArrayException 258 or the library's code
+     * @param password the new password, at most 1,023 bytes
+     * @throws DiskArrayException with the library's code; 258 where password is null
      */
     public native void QV_PasswdChange(String password) throws DiskArrayException;
 
     /**
      * Checks the password of the library. A copy of the text stays in memory for good.
      *
-     * @param password the password, of any length; null is code 258
-     * @return the library's 0 or -1; 2817 where Java has no memory for the text
-     * @throws DiskArrayException 258 or the library's code
+     * @param password the password, of any length
+     * @return the library's 0, -1 or 256; 2817 where Java has no memory for the text
+     * @throws DiskArrayException with the library's code; 258 where password is null
      */
     public native int QV_PasswdCheck(String password) throws DiskArrayException;
 
@@ -263,8 +279,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param number user number, the library's own
-     * @param user the user
-     * @throws DiskArrayException 258 or the library's code
+     * @param user the user; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_RegistUser(String unit, int number, ArrayUser user)
             throws DiskArrayException;
@@ -274,9 +291,10 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param number user number, the library's own
-     * @param oldUser the user until now
-     * @param newUser the user from now on
-     * @throws DiskArrayException 258 or the library's code
+     * @param oldUser the user until now; not null
+     * @param newUser the user from now on; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_ChangeUser(
             String unit, int number, ArrayUser oldUser, ArrayUser newUser)
@@ -287,8 +305,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param number user number, the library's own
-     * @param user the user
-     * @throws DiskArrayException 258 or the library's code
+     * @param user the user; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_DeleteUser(String unit, int number, ArrayUser user)
             throws DiskArrayException;
@@ -298,7 +317,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param number user number, the library's own
-     * @throws DiskArrayException 258 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null
      */
     public native void QV_DeleteAllUser(String unit, int number) throws DiskArrayException;
 
@@ -308,18 +327,22 @@ public class DiskArrayUtilityJNI {
      * @param unit the unit's registered name
      * @param number user number, the library's own
      * @return the state of the list
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native QVUserRegist QV_GetUserInformation(String unit, int number)
             throws DiskArrayException;
 
     /**
-     * Returns what kind of array a unit is, and how much of everything it can hold.
+     * Returns what kind of array a unit is, and its numbers of logical objects and parts.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
      * @return the unit
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native UnitInformation QV_GetUnitInformation(String unit, QVSessionInfo session)
             throws DiskArrayException;
@@ -330,43 +353,46 @@ public class DiskArrayUtilityJNI {
      * @param unit the unit's registered name
      * @param session the session from a login
      * @return the kinds
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native CTLPortKind QV_GetUnitCTLPortKind(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
     /**
-     * Returns the time of a unit's clock. A null name is an empty one. Each call keeps 32 bytes of
-     * native memory for good.
+     * Returns the time of a unit's clock. Each call keeps 32 bytes of native memory for good.
      *
-     * @param unit the unit's registered name
+     * @param unit the unit's registered name; null is an empty one
      * @param session the session from a login
      * @return the time; null where it cannot be built, without code 2817
-     * @throws DiskArrayException the library's code
+     * @throws DiskArrayException with the library's code
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native QVTime QV_GetUnitTime(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
     /**
-     * Sets a unit's clock. A null name is an empty one. Each call keeps 32 bytes of native memory
-     * for good.
+     * Sets a unit's clock. Each call keeps 32 bytes of native memory for good.
      *
-     * @param unit the unit's registered name
+     * @param unit the unit's registered name; null is an empty one
      * @param session the session from a login
      * @param time the time
-     * @throws DiskArrayException -1 for a null time, 2817 for a time or a session that cannot be
-     *     read, both without a call of the library, or the library's code
+     * @throws DiskArrayException with the library's code; -1 where time is null and 2817 where time
+     *     or session cannot be read, both without a call of the library
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_SetUnitTime(String unit, QVSessionInfo session, QVTime time)
             throws DiskArrayException;
 
     /**
-     * Sets a unit's clock to the host's time. A null name is an empty one. Each call keeps 32 bytes
-     * of native memory for good.
+     * Sets a unit's clock to the time that it is now. Each call keeps 32 bytes of native memory for
+     * good.
      *
-     * @param unit the unit's registered name
+     * @param unit the unit's registered name; null is an empty one
      * @param session the session from a login
-     * @throws DiskArrayException the library's code
+     * @throws DiskArrayException with the library's code
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_SetUnitTimeNow(String unit, QVSessionInfo session)
             throws DiskArrayException;
@@ -377,7 +403,9 @@ public class DiskArrayUtilityJNI {
      * @param unit the unit's registered name
      * @param session the session from a login
      * @return its identifier
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native UnitIdentifier QV_GetUnitIdentifier(String unit, QVSessionInfo session)
             throws DiskArrayException;
@@ -388,8 +416,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param identifier its identifier
-     * @throws DiskArrayException 258 or the library's code
+     * @param identifier its identifier; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_SetUnitIdentifier(
             String unit, QVSessionInfo session, UnitIdentifier identifier)
@@ -401,7 +430,9 @@ public class DiskArrayUtilityJNI {
      * @param unit the unit's registered name
      * @param session the session from a login
      * @return the settings
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native TimeInfo QV_GetTimeInfo(String unit, QVSessionInfo session)
             throws DiskArrayException;
@@ -413,8 +444,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param info the settings
-     * @throws DiskArrayException 258 or the library's code
+     * @param info the settings; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_SetTimeInfo(String unit, QVSessionInfo session, TimeInfo info)
             throws DiskArrayException;
