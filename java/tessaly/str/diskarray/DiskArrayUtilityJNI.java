@@ -472,7 +472,7 @@ public class DiskArrayUtilityJNI {
      * before.
      *
      * @param unit the unit's registered name
-     * @param request who asks; null hands over a request as it lay in memory
+     * @param request who asks; not null
      * @return the summary; over the simulator also where the caller is refused
      * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
      *     result could not be built
@@ -515,7 +515,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the controllers that are asked; null hands over a request as it lay in memory
+     * @param request the controllers that are asked; not null
      * @return the slice
      * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
      *     result could not be built
@@ -529,7 +529,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the controllers that are asked; null hands over a request as it lay in memory
+     * @param request the controllers that are asked; not null
      * @return the slice
      * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
      *     result could not be built
@@ -543,7 +543,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the controllers that are asked; null hands over a request as it lay in memory
+     * @param request the controllers that are asked; not null
      * @return the slice
      * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
      *     result could not be built
@@ -557,7 +557,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the controllers that are asked; null hands over a request as it lay in memory
+     * @param request the controllers that are asked; not null
      * @return the slice
      * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
      *     result could not be built
@@ -571,7 +571,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the controllers that are asked; null hands over a request as it lay in memory
+     * @param request the controllers that are asked; not null
      * @return the slice
      * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
      *     result could not be built
@@ -585,7 +585,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the controllers that are asked; null hands over a request as it lay in memory
+     * @param request the controllers that are asked; not null
      * @return the slice
      * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
      *     result could not be built
@@ -599,7 +599,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the controllers that are asked; null hands over a request as it lay in memory
+     * @param request the controllers that are asked; not null
      * @return the slice
      * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
      *     result could not be built
@@ -613,7 +613,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the controllers that are asked; null hands over a request as it lay in memory
+     * @param request the controllers that are asked; not null
      * @return the slice
      * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
      *     result could not be built
@@ -627,7 +627,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the controllers that are asked; null hands over a request as it lay in memory
+     * @param request the controllers that are asked; not null
      * @return the slice
      * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
      *     result could not be built
@@ -641,7 +641,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the controllers that are asked; null hands over a request as it lay in memory
+     * @param request the controllers that are asked; not null
      * @return the slice
      * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
      *     result could not be built
@@ -708,11 +708,11 @@ public class DiskArrayUtilityJNI {
 
     /**
      * Returns the state of the drives in the flat form, 450 elements. An element that could not be
-     * built is null.
+     * built is null. Each call keeps 32 bytes of native memory for good.
      *
      * @param unit the unit's registered name; null is an empty one
      * @param session the session from a login
-     * @return the states
+     * @return the states; null where there is no array for them
      * @throws DiskArrayException with the library's code
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -752,7 +752,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param restoration the settings; null hands them over as they lay in memory
+     * @param restoration the settings; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -778,7 +778,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param information the settings; null hands them over as they lay in memory
+     * @param information the settings; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -804,7 +804,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param restoration the settings; null hands them over as they lay in memory
+     * @param restoration the settings; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -830,7 +830,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param diagnosis the settings; null hands them over as they lay in memory
+     * @param diagnosis the settings; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -908,7 +908,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param path path of the file, at most 1023 bytes
+     * @param path path of the file, at most 1,023 bytes
      * @throws DiskArrayException with the library's code; 258 where unit or path is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -960,7 +960,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param config the batteries; null hands them over as they lay in memory
+     * @param config the batteries; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -981,12 +981,11 @@ public class DiskArrayUtilityJNI {
             String unit, QVSessionInfo session) throws DiskArrayException;
 
     /**
-     * Lights locate LEDs, and puts out the others: change those of
-     * {@link #QV_GetLocateLEDInformation}.
+     * Sets which locate LEDs are lit: change those of {@link #QV_GetLocateLEDInformation}.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param information the LEDs; null hands them over as they lay in memory
+     * @param information the LEDs; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -995,7 +994,7 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Returns the data that is pinned in the cache.
+     * Returns the pinned data.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
@@ -1008,11 +1007,11 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Returns the data that is pinned in the cache in the short form.
+     * Returns the pinned data in the short form.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @return a value for each logical unit, 8192 elements: the library's own
+     * @return a value for each logical unit, 8,192 elements: the library's own
      * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
      *     result could not be built
      * @throws OutOfMemoryError where there is no native memory
@@ -1021,7 +1020,7 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Lets go of the data that is pinned in the cache.
+     * Flushes the pinned data.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
@@ -1032,7 +1031,7 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Returns the library's number on the data that is pinned in the cache.
+     * Returns the library's number on pinned data.
      *
      * @param unit the unit's registered name
      * @param option the library's own value
@@ -1042,7 +1041,7 @@ public class DiskArrayUtilityJNI {
     public native int QV_GetPinInfo(String unit, int option) throws DiskArrayException;
 
     /**
-     * Returns the library's number on the time that asking for pinned data takes.
+     * Returns the library's number on the time of getting pinned data.
      *
      * @param unit the unit's registered name
      * @param option the library's own value

@@ -10,6 +10,6 @@ public class SpinDownUpInformation {
     public SpinDownUpRGInfo[] rg;
     /** Number of logical units listed. */
     public int lu_count;
-    /** The logical units, 8192 elements, whatever the count says. */
+    /** The logical units, 8,192 elements, whatever the count says. */
     public SpinDownUpLuInfo[] lu;
 }
