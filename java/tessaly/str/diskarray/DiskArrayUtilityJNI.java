@@ -1054,7 +1054,7 @@ public class DiskArrayUtilityJNI {
 
     /**
      * Returns the command counts of the LUs up to 4,095: a light snapshot. The elements from one
-     * that could not be built on are null.
+     * that could not be built on are null. Each call keeps 32 bytes of native memory for good.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
@@ -1067,7 +1067,7 @@ public class DiskArrayUtilityJNI {
 
     /**
      * Returns all counters: a snapshot of 7 MB. The elements from one that could not be built on
-     * are null.
+     * are null. Each call keeps 32 bytes of native memory for good.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
@@ -1086,7 +1086,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param path path of the file, at most 1023 bytes
+     * @param path path of the file, at most 1,023 bytes
      * @param preinfo0 snapshot of controller 0 before the interval
      * @param afterinfo0 snapshot of controller 0 after the interval
      * @param preinfo1 snapshot of controller 1 before the interval
@@ -1100,17 +1100,17 @@ public class DiskArrayUtilityJNI {
             StatisticalCommand afterinfo1) throws DiskArrayException;
 
     /**
-     * Writes the command counts of an interval to a file, for the LUs whose byte is not zero. A
-     * snapshot that is null reaches the library as it lay in memory.
+     * Writes the command counts of an interval to a file, for the LUs that are selected. A snapshot
+     * that is null reaches the library as it lay in memory.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param path path of the file, at most 1023 bytes
+     * @param path path of the file, at most 1,023 bytes
      * @param preinfo0 snapshot of controller 0 before the interval
      * @param afterinfo0 snapshot of controller 0 after the interval
      * @param preinfo1 snapshot of controller 1 before the interval
      * @param afterinfo1 snapshot of controller 1 after the interval
-     * @param lu a byte for each LU, 4096 bytes; null selects none
+     * @param lu selects LUs, 4,096 bytes, the library's own values; null is all zeros
      * @param option0 the library's own value
      * @param option1 the library's own value
      * @throws DiskArrayException with the library's code; 258 where unit or path is null
@@ -1131,8 +1131,7 @@ public class DiskArrayUtilityJNI {
      * Confirm the layout before the first call on an array in use.
      *
      * @param unit the unit's registered name
-     * @param request the snapshots, and what to write of them; null hands it over as it lay in
-     *     memory
+     * @param request the snapshots, and what to write of them; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1147,8 +1146,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the snapshots, and what to write of them; null hands it over as it lay in
-     *     memory
+     * @param request the snapshots, and what to write of them; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1157,11 +1155,11 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Writes to a file that an interval was left out.
+     * Writes to a performance file that a time is skipped, as the method's name says.
      *
      * @param unit the unit's registered name
-     * @param path path of the file, at most 1023 bytes
-     * @param time the time of the interval; null hands it over as it lay in memory
+     * @param path path of the file, at most 1,023 bytes
+     * @param time the time; not null
      * @param option the library's own value
      * @throws DiskArrayException with the library's code; 258 where unit or path is null
      * @throws OutOfMemoryError where there is no native memory
@@ -1175,8 +1173,8 @@ public class DiskArrayUtilityJNI {
      * <p>Layout assumed: 256 bytes have no field, and reach the library as they lay in memory.
      * Confirm the layout before the first call on an array in use.
      *
-     * @param path path of the collection, at most 1023 bytes
-     * @param request the part, and where to write it; null hands it over as it lay in memory
+     * @param path path of the collection, at most 1,023 bytes
+     * @param request the part, and where to write it; not null
      * @throws DiskArrayException with the library's code; 258 where path is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1184,13 +1182,13 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Returns how many CSV files a part of a collection makes.
+     * Returns the number of CSV files of a part of a collection.
      *
      * <p>Layout assumed: 256 bytes have no field, and reach the library as they lay in memory.
      * Confirm the layout before the first call on an array in use.
      *
-     * @param path path of the collection, at most 1023 bytes
-     * @param request the part, and where to write it; null hands it over as it lay in memory
+     * @param path path of the collection, at most 1,023 bytes
+     * @param request the part, and where to write it; not null
      * @return the number of files
      * @throws DiskArrayException with the library's code; 258 where path is null
      * @throws OutOfMemoryError where there is no native memory
@@ -1203,7 +1201,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the snapshots; null hands them over as they lay in memory
+     * @param request the snapshots; not null
      * @return the graph
      * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
      *     result could not be built
@@ -1217,7 +1215,7 @@ public class DiskArrayUtilityJNI {
      * Begins a collection.
      *
      * @param session the session from a login
-     * @param path path of the collection, at most 1023 bytes
+     * @param path path of the collection, at most 1,023 bytes
      * @param option0 the library's own value; over the simulator the interval
      * @param option1 the library's own value
      * @throws DiskArrayException with the library's code; 258 where path is null
@@ -1233,8 +1231,8 @@ public class DiskArrayUtilityJNI {
      * <p>Layout assumed: 864,488 bytes have no field, and reach the library as they lay in memory.
      * Confirm the layout before the first call on an array in use.
      *
-     * @param path path of the collection, at most 1023 bytes
-     * @param graph the graph; null hands it over as it lay in memory
+     * @param path path of the collection, at most 1,023 bytes
+     * @param graph the graph; not null
      * @throws DiskArrayException with the library's code; 258 where path is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1244,7 +1242,7 @@ public class DiskArrayUtilityJNI {
     /**
      * Returns the content of a collection's management file.
      *
-     * @param path path of the file, at most 1023 bytes
+     * @param path path of the file, at most 1,023 bytes
      * @return its content
      * @throws DiskArrayException with the library's code; 258 where path is null; 2817 where the
      *     result could not be built
@@ -1254,7 +1252,7 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Returns how many files a collection may have.
+     * Returns the largest number of performance files.
      *
      * @return the number of files
      * @throws DiskArrayException with the library's code
@@ -1262,11 +1260,11 @@ public class DiskArrayUtilityJNI {
     public native int QV_GetPfmFileMaxCount() throws DiskArrayException;
 
     /**
-     * Returns whether a unit counts.
+     * Returns the statistics switch of a unit.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @return 0 where it does not count, over the simulator; else the library's own value
+     * @return the switch, the library's own value; over the simulator 0 for off
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1274,11 +1272,11 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Switches counting on or off.
+     * Sets the statistics switch of a unit.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param enabled 0 switches off, over the simulator; else the library's own value
+     * @param enabled the switch, the library's own value; over the simulator 0 for off
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1286,11 +1284,11 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Returns the numbers of errors at which a drive is reported.
+     * Returns the drive error thresholds.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @return the numbers
+     * @return the thresholds
      * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
      *     result could not be built
      * @throws OutOfMemoryError where there is no native memory
@@ -1299,11 +1297,11 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Sets the numbers of errors at which a drive is reported.
+     * Sets the drive error thresholds.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param threshold the numbers; null hands them over as they lay in memory
+     * @param threshold the thresholds; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
