@@ -38,7 +38,7 @@ public class ArrayAllInformation {
     public IntegrationLUInfo integration_lu;
     /** The integrated LUs, second form: {@link DiskArrayUtilityJNI#QV_IntegrationLUInfo2}. */
     public IntegrationLUInfo2 integration_lu2;
-    /** The Turbo LUs: {@link DiskArrayUtilityJNI#QV_GetTurboLU}. */
+    /** The Turbo LU parameters: {@link DiskArrayUtilityJNI#QV_GetTurboLU}. */
     public TurboLu turbo_lu;
     /** The data-management LUs: {@link DiskArrayUtilityJNI#QV_GetDMLU}. */
     public DMLUInformation dm_lu;

@@ -1331,7 +1331,7 @@ public class DiskArrayUtilityJNI {
      * could not be built on are null.
      *
      * @param unit the unit's registered name
-     * @return the RAID groups, 90 elements
+     * @return the RAID groups, 90 elements; null where there is no array for them
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1351,7 +1351,7 @@ public class DiskArrayUtilityJNI {
      * Expands a RAID group.
      *
      * @param unit the unit's registered name
-     * @param group the RAID group as it is to be; not null
+     * @param group the RAID group; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1441,7 +1441,8 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @return the LUs, 8,192 elements; those in use have a <code>lu_valid</code> other than 0
+     * @return the LUs, 8,192 elements; those in use have a <code>lu_valid</code> other than 0. Null
+     *     where there is no array for them
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1499,7 +1500,7 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Deletes an LU; the library chooses which.
+     * Deletes an LU; which one is the library's own.
      *
      * @param unit the unit's registered name
      * @throws DiskArrayException with the library's code; 258 where unit is null
@@ -1572,7 +1573,7 @@ public class DiskArrayUtilityJNI {
     public native void QV_LogicalUnitInvalid(String unit, int lun) throws DiskArrayException;
 
     /**
-     * Restores an LU that was invalidated.
+     * Restores an LU.
      *
      * @param unit the unit's registered name
      * @param lun the LU number
@@ -1581,10 +1582,10 @@ public class DiskArrayUtilityJNI {
     public native void QV_LogicalUnitRestore(String unit, int lun) throws DiskArrayException;
 
     /**
-     * Moves and resizes an LU.
+     * Reallocates an LU.
      *
      * @param unit the unit's registered name
-     * @param request the LU and its new place and size; not null
+     * @param request the LU, its size and its new number; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1592,7 +1593,7 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Starts to format an LU.
+     * Formats an LU.
      *
      * @param unit the unit's registered name
      * @param first the library's own value
@@ -2022,11 +2023,11 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Returns the cache-resident LUs.
+     * Returns the Turbo LU parameters.
      *
      * @param unit the unit's registered name; null is taken as an empty one
      * @param session the session from a login
-     * @return the cache-resident LUs
+     * @return the parameters
      * @throws DiskArrayException with the library's code; 2817 where the result could not be built
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -2034,14 +2035,14 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Sets the cache-resident LUs.
+     * Sets the Turbo LU parameters.
      *
      * <p>Layout assumed: 44 bytes have no field, and reach the library as they lay in memory.
      * Confirm the layout before the first call on an array in use.
      *
      * @param unit the unit's registered name; null is taken as an empty one
      * @param session the session from a login
-     * @param turbo the cache-resident LUs, of which nothing is read; may be null
+     * @param turbo the parameters, of which nothing is read; may be null
      * @throws DiskArrayException with the library's code
      * @throws OutOfMemoryError where there is no native memory
      */
