@@ -1629,7 +1629,7 @@ public class DiskArrayUtilityJNI {
      * Returns how far the formatting of each LU is. A list that cannot be built is null, with the
      * error that the JVM has for it and no 2817.
      *
-     * @param unit the unit's registered name; null is taken as an empty one
+     * @param unit the unit's registered name; null is an empty one
      * @return the list, 2,048 LUs
      * @throws DiskArrayException with the library's code
      * @throws OutOfMemoryError where there is no native memory
@@ -2025,7 +2025,7 @@ public class DiskArrayUtilityJNI {
     /**
      * Returns the Turbo LU parameters.
      *
-     * @param unit the unit's registered name; null is taken as an empty one
+     * @param unit the unit's registered name; null is an empty one
      * @param session the session from a login
      * @return the parameters
      * @throws DiskArrayException with the library's code; 2817 where the result could not be built
@@ -2040,7 +2040,7 @@ public class DiskArrayUtilityJNI {
      * <p>Layout assumed: 44 bytes have no field, and reach the library as they lay in memory.
      * Confirm the layout before the first call on an array in use.
      *
-     * @param unit the unit's registered name; null is taken as an empty one
+     * @param unit the unit's registered name; null is an empty one
      * @param session the session from a login
      * @param turbo the parameters, of which nothing is read; may be null
      * @throws DiskArrayException with the library's code
@@ -2112,7 +2112,7 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Sets host groups of all ports back to their first state.
+     * Initialises host groups of all ports.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
@@ -2143,7 +2143,7 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Sets host groups of one port back to their first state.
+     * Initialises host groups of one port.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
@@ -2544,7 +2544,7 @@ public class DiskArrayUtilityJNI {
      * Returns the target IDs that a file holds.
      *
      * @param unit the unit's registered name
-     * @param file the path of the file, at most 1,023 bytes
+     * @param file path of the file, at most 1,023 bytes
      * @return the target IDs, 2 elements
      * @throws DiskArrayException with the library's code; 258 where unit or file is null; 2817
      *     where the result could not be built
@@ -2556,8 +2556,8 @@ public class DiskArrayUtilityJNI {
      * Returns the target IDs that two files hold, in the WZ form.
      *
      * @param unit the unit's registered name
-     * @param first the path of the first file, at most 1,023 bytes
-     * @param second the path of the second file, at most 1,023 bytes
+     * @param first path of the first file, at most 1,023 bytes
+     * @param second path of the second file, at most 1,023 bytes
      * @return the target IDs, 2 elements
      * @throws DiskArrayException with the library's code; 258 where unit, first or second is null;
      *     2817 where the result could not be built
@@ -2657,7 +2657,7 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Takes all iSCSI targets of a port back to their first state.
+     * Initialises all iSCSI targets of a port.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
@@ -2791,7 +2791,7 @@ public class DiskArrayUtilityJNI {
      * Imports CHAP users from a file.
      *
      * @param unit the unit's registered name
-     * @param path the path of the file, at most 1,023 bytes
+     * @param path path of the file, at most 1,023 bytes
      * @param session the session from a login
      * @throws DiskArrayException with the library's code; 258 where unit or path is null
      * @throws OutOfMemoryError where there is no native memory
@@ -3000,7 +3000,7 @@ public class DiskArrayUtilityJNI {
      * Reads the user LAN from a file.
      *
      * @param unit the unit's registered name
-     * @param path the path of the file, at most 1,023 bytes
+     * @param path path of the file, at most 1,023 bytes
      * @param session the session from a login
      * @return the user LAN that the file holds
      * @throws DiskArrayException with the library's code; 258 where unit or path is null; 2817
@@ -3079,11 +3079,11 @@ public class DiskArrayUtilityJNI {
             String unit, QVSessionInfo session) throws DiskArrayException;
 
     /**
-     * Returns the LAN of the network controllers.
+     * Returns the LAN of the network node controllers.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @return the LAN of the network controllers
+     * @return the LAN of the network node controllers
      * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
      *     result could not be built
      * @throws OutOfMemoryError where there is no native memory
@@ -3092,11 +3092,11 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Sets the LAN of the network controllers.
+     * Sets the LAN of the network node controllers.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param information the LAN of the network controllers; not null
+     * @param information the LAN of the network node controllers; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -3140,8 +3140,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Reads the permitted hosts of a Fibre Channel port from a file.
      *
-     * @param unit the unit's registered name; null is taken as an empty one
-     * @param path the path of the file, at most 1,023 bytes; null is taken as an empty one
+     * @param unit the unit's registered name; null is an empty one
+     * @param path path of the file, at most 1,023 bytes; null is an empty one
      * @param port the port, the library's own number
      * @return the hosts, 128 elements
      * @throws DiskArrayException with the library's code; 2817 where the result could not be built

@@ -2,7 +2,7 @@ package tessaly.str.diskarray;
 
 /** A ping from one iSCSI port, and how far it came. No text may be null where it is handed over. */
 public class QViSCSIPingPort {
-    /** Not 0 where the port is an iSCSI port that is there. */
+    /** Not 0 where the port is there. */
     public int port_valid;
     /** Not 0 where the port is to ping. */
     public int request_valid;
