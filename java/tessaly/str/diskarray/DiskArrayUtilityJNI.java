@@ -3177,11 +3177,12 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Dissolves Gemlyn pairs.
+     * Carries out the operation that is called simple on Gemlyn pairs; over the simulator it
+     * dissolves them.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the pairs to dissolve; not null
+     * @param request the pairs; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -3201,7 +3202,7 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Copies the secondary side of Gemlyn pairs back.
+     * Restores Gemlyn pairs.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
@@ -3237,11 +3238,12 @@ public class DiskArrayUtilityJNI {
             String unit, QVSessionInfo session, SplitSnapShotPair request) throws DiskArrayException;
 
     /**
-     * Dissolves SnapShot pairs.
+     * Carries out the operation that is called simple on SnapShot pairs; over the simulator it
+     * dissolves them.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the pairs to dissolve; not null
+     * @param request the pairs; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -3261,7 +3263,7 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Copies the secondary side of SnapShot pairs back.
+     * Restores SnapShot pairs.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
@@ -3297,11 +3299,11 @@ public class DiskArrayUtilityJNI {
             String unit, QVSessionInfo session, SplitFarlinkPair request) throws DiskArrayException;
 
     /**
-     * Dissolves Farlink pairs.
+     * Carries out the operation that is called simple on Farlink pairs.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the pairs to dissolve; not null
+     * @param request the pairs; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -3321,7 +3323,7 @@ public class DiskArrayUtilityJNI {
             String unit, QVSessionInfo session, RemotePairOperation request) throws DiskArrayException;
 
     /**
-     * Swaps the sides of Farlink pairs.
+     * Swaps Farlink pairs.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
@@ -3357,11 +3359,11 @@ public class DiskArrayUtilityJNI {
             String unit, QVSessionInfo session, SplitLonglinkPair request) throws DiskArrayException;
 
     /**
-     * Dissolves Longlink pairs.
+     * Carries out the operation that is called simple on Longlink pairs.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the pairs to dissolve; not null
+     * @param request the pairs; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -3381,7 +3383,7 @@ public class DiskArrayUtilityJNI {
             String unit, QVSessionInfo session, RemotePairOperation request) throws DiskArrayException;
 
     /**
-     * Swaps the sides of Longlink pairs.
+     * Swaps Longlink pairs.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
@@ -3499,11 +3501,11 @@ public class DiskArrayUtilityJNI {
             String unit, QVSessionInfo session) throws DiskArrayException;
 
     /**
-     * Returns the asynchronous pairs and their consistency groups.
+     * Returns the asynchronous Farlink pairs and their consistency groups.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @return the asynchronous pairs and their groups
+     * @return the asynchronous Farlink pairs and their groups
      * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
      *     result could not be built
      * @throws OutOfMemoryError where there is no native memory
@@ -3512,7 +3514,7 @@ public class DiskArrayUtilityJNI {
             String unit, QVSessionInfo session) throws DiskArrayException;
 
     /**
-     * Returns the settings of asynchronous pairs.
+     * Returns the settings of asynchronous Farlink pairs.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
@@ -3525,7 +3527,7 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Sets the settings of asynchronous pairs.
+     * Sets the settings of asynchronous Farlink pairs.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
@@ -3652,7 +3654,7 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Sets up a remote path anew.
+     * Rebuilds a remote path.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
@@ -3665,7 +3667,7 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Returns the paths to other arrays, as the source of remote verify.
+     * Returns the remote-verify source paths.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
@@ -3678,7 +3680,7 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Sets the paths to another array, as the source of remote verify.
+     * Sets the remote-verify source paths to another array.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
@@ -3690,7 +3692,7 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Deletes the paths to other arrays, as the source of remote verify.
+     * Deletes the remote-verify source paths.
      *
      * @param unit the unit's registered name
      * @param session the session from a login

@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** An asynchronous pair. */
+/** An asynchronous Farlink pair. */
 public class FarlinkAsyncLuInfo {
     /** Number of the logical unit in this array. */
     public int lun;
