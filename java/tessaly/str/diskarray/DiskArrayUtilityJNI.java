@@ -3979,10 +3979,11 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param path of a file of this host, at most 1,023 bytes
-     * @param option the library's own
-     * @return the library's number for it
-     * @throws DiskArrayException 258 or the library's code
+     * @param path path of the file, at most 1,023 bytes
+     * @param option the library's own value
+     * @return the int that the library writes, its own value
+     * @throws DiskArrayException with the library's code; 258 where unit or path is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native int QV_MicroFileConcat(
             String unit, QVSessionInfo session, String path, int option) throws DiskArrayException;
@@ -3992,8 +3993,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param path of a file of this host, at most 1,023 bytes
-     * @throws DiskArrayException 258 or the library's code
+     * @param path path of the file, at most 1,023 bytes
+     * @throws DiskArrayException with the library's code; 258 where unit or path is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_MicroFileConcat2(String unit, QVSessionInfo session, String path)
             throws DiskArrayException;
@@ -4003,8 +4005,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param path of a file of this host, at most 1,023 bytes
-     * @throws DiskArrayException 258 or the library's code
+     * @param path path of the file, at most 1,023 bytes
+     * @throws DiskArrayException with the library's code; 258 where unit or path is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_MicroFileConcatEx(String unit, QVSessionInfo session, String path)
             throws DiskArrayException;
@@ -4014,9 +4017,10 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param first path of the first file of this host, at most 1,023 bytes
-     * @param second path of the second, likewise
-     * @throws DiskArrayException 258 or the library's code
+     * @param first path of the first file, at most 1,023 bytes
+     * @param second path of the second file, at most 1,023 bytes
+     * @throws DiskArrayException with the library's code; 258 where unit, first or second is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_MicroFileConcatEx2(
             String unit, QVSessionInfo session, String first, String second)
@@ -4025,15 +4029,15 @@ public class DiskArrayUtilityJNI {
     /**
      * Gives up what is staged of the array's firmware.
      *
-     * @throws DiskArrayException the library's code
+     * @throws DiskArrayException with the library's code
      */
     public native void QV_CancelMicroFileConcat() throws DiskArrayException;
 
     /**
      * Gives up a staged firmware file.
      *
-     * @param path of a file of this host, at most 1,023 bytes
-     * @throws DiskArrayException 258 or the library's code
+     * @param path path of the file, at most 1,023 bytes
+     * @throws DiskArrayException with the library's code; 258 where path is null
      */
     public native void QV_CancelMicroFileConcat2(String path) throws DiskArrayException;
 
@@ -4042,7 +4046,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @return the library's own count
-     * @throws DiskArrayException 258 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null
      */
     public native int QV_GetMicroDownloadCount(String unit) throws DiskArrayException;
 
@@ -4050,9 +4054,9 @@ public class DiskArrayUtilityJNI {
      * Returns how far the download came, in the extended form.
      *
      * @param unit the unit's registered name
-     * @param option the library's own
+     * @param option the library's own value
      * @return the library's own count
-     * @throws DiskArrayException 258 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null
      */
     public native int QV_GetMicroDownloadCountEx(String unit, int option) throws DiskArrayException;
 
@@ -4060,10 +4064,10 @@ public class DiskArrayUtilityJNI {
      * Returns how far the download of a file came.
      *
      * @param unit the unit's registered name
-     * @param option the library's own
-     * @param path of a file of this host, at most 1,023 bytes
+     * @param option the library's own value
+     * @param path path of the file, at most 1,023 bytes
      * @return the library's own count
-     * @throws DiskArrayException 258 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit or path is null
      */
     public native int QV_GetMicroDownloadCountEx2(String unit, int option, String path)
             throws DiskArrayException;
@@ -4073,10 +4077,11 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param option1 the library's own
-     * @param option2 the library's own
-     * @param option3 the library's own
-     * @throws DiskArrayException 258 or the library's code
+     * @param option1 the library's own value
+     * @param option2 the library's own value
+     * @param option3 the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_MicroDownload(
             String unit, QVSessionInfo session, int option1, int option2, int option3)
@@ -4087,11 +4092,12 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param option1 the library's own
-     * @param option2 the library's own
-     * @param option3 the library's own
-     * @param option4 the library's own
-     * @throws DiskArrayException 258 or the library's code
+     * @param option1 the library's own value
+     * @param option2 the library's own value
+     * @param option3 the library's own value
+     * @param option4 the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_MicroDownloadEx(
             String unit, QVSessionInfo session, int option1, int option2, int option3, int option4)
@@ -4102,12 +4108,13 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param option1 the library's own
-     * @param option2 the library's own
-     * @param option3 the library's own
-     * @param option4 the library's own
-     * @param path of a file of this host, at most 1,023 bytes
-     * @throws DiskArrayException 258 or the library's code
+     * @param option1 the library's own value
+     * @param option2 the library's own value
+     * @param option3 the library's own value
+     * @param option4 the library's own value
+     * @param path path of the file, at most 1,023 bytes
+     * @throws DiskArrayException with the library's code; 258 where unit or path is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_MicroDownloadEx2(
             String unit, QVSessionInfo session, int option1, int option2, int option3,
@@ -4118,8 +4125,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param option the library's own
-     * @throws DiskArrayException 258 or the library's code
+     * @param option the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_MicroReplace(String unit, QVSessionInfo session, int option)
             throws DiskArrayException;
@@ -4129,21 +4137,25 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param option the library's own
-     * @return how far that came
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @param option the library's own value
+     * @return the replacement's information
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native MicroReplaceInformation QV_MicroReplaceEx(
             String unit, QVSessionInfo session, int option) throws DiskArrayException;
 
     /**
-     * Replaces the running firmware by way of the other controller.
+     * Replaces the running firmware by a cross-call.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the controller and how
-     * @return how far that came
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @param request the controller and how; not null
+     * @return the replacement's information
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native MicroReplaceInformation QV_MicroReplaceCrosscall(
             String unit, QVSessionInfo session, MicroReplaceCrosscallRequest request)
@@ -4154,8 +4166,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param option the library's own
-     * @throws DiskArrayException 258 or the library's code
+     * @param option the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_CompleteMicroReplace(String unit, QVSessionInfo session, int option)
             throws DiskArrayException;
@@ -4164,7 +4177,8 @@ public class DiskArrayUtilityJNI {
      * Returns what is staged of the array's firmware.
      *
      * @return what is staged
-     * @throws DiskArrayException 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 2817 where the result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native MicroFileInformation QV_GetMicroFileInformation() throws DiskArrayException;
 
@@ -4172,16 +4186,17 @@ public class DiskArrayUtilityJNI {
      * Returns the revision of the staged firmware.
      *
      * @return the revision, at most 64 bytes
-     * @throws DiskArrayException 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 2817 where the result could not be built
      */
     public native String QV_GetNewMicroRevision() throws DiskArrayException;
 
     /**
      * Returns the revision of a firmware file.
      *
-     * @param path of a file of this host, at most 1,023 bytes
+     * @param path path of the file, at most 1,023 bytes
      * @return the revision, at most 64 bytes
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where path is null; 2817 where the
+     *     result could not be built
      */
     public native String QV_GetNewMicroRevision2(String path) throws DiskArrayException;
 
@@ -4190,8 +4205,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param path of a file of this host, at most 1,023 bytes
-     * @throws DiskArrayException 258 or the library's code
+     * @param path path of the file, at most 1,023 bytes
+     * @throws DiskArrayException with the library's code; 258 where unit or path is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_ENCMicroFileConcat(String unit, QVSessionInfo session, String path)
             throws DiskArrayException;
@@ -4201,9 +4217,10 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param path of a file of this host, at most 1,023 bytes
-     * @param option the library's own
-     * @throws DiskArrayException 258 or the library's code
+     * @param path path of the file, at most 1,023 bytes
+     * @param option the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit or path is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_ENCMicroFileConcatEx(
             String unit, QVSessionInfo session, String path, int option) throws DiskArrayException;
@@ -4211,7 +4228,7 @@ public class DiskArrayUtilityJNI {
     /**
      * Gives up what is staged of the enclosure firmware.
      *
-     * @throws DiskArrayException the library's code
+     * @throws DiskArrayException with the library's code
      */
     public native void QV_CancelENCMicroFileConcat() throws DiskArrayException;
 
@@ -4220,10 +4237,11 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param option1 the library's own
-     * @param option2 the library's own
-     * @return the number that the library writes
-     * @throws DiskArrayException 258 or the library's code
+     * @param option1 the library's own value
+     * @param option2 the library's own value
+     * @return the int that the library writes, its own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native int QV_ENCMicroDownload(
             String unit, QVSessionInfo session, int option1, int option2) throws DiskArrayException;
@@ -4234,7 +4252,8 @@ public class DiskArrayUtilityJNI {
      * @param unit the unit's registered name
      * @param session the session from a login
      * @return the library's own count
-     * @throws DiskArrayException 258 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native int QV_GetENCMicroDownloadCount(String unit, QVSessionInfo session)
             throws DiskArrayException;
@@ -4244,8 +4263,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param option the library's own
-     * @throws DiskArrayException 258 or the library's code
+     * @param option the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_ENCMicroReplace(String unit, QVSessionInfo session, int option)
             throws DiskArrayException;
@@ -4255,9 +4275,10 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param option the library's own
-     * @param record the library's own
-     * @throws DiskArrayException 258 or the library's code
+     * @param option the library's own value
+     * @param record the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_ENCMicroReplaceEx(
             String unit, QVSessionInfo session, int option, int record) throws DiskArrayException;
@@ -4266,7 +4287,8 @@ public class DiskArrayUtilityJNI {
      * Returns what is staged of the enclosure firmware.
      *
      * @return what is staged
-     * @throws DiskArrayException 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 2817 where the result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native ENCMicroInformation QV_GetENCMicroInformation() throws DiskArrayException;
 
@@ -4276,37 +4298,43 @@ public class DiskArrayUtilityJNI {
      * @param unit the unit's registered name
      * @param session the session from a login
      * @return the firmware
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native ENCMicroInformation QV_GetENCMicroInformationEx(
             String unit, QVSessionInfo session) throws DiskArrayException;
 
     /**
-     * Returns the revision of the staged BIOS.
+     * Returns the BIOS revision that the method's name calls local.
      *
      * @return the revision
-     * @throws DiskArrayException 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 2817 where the result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native NNCBiosRevision QV_GetLocalNNCBiosRevision() throws DiskArrayException;
 
     /**
-     * Returns the BIOS revisions of the NAS nodes.
+     * Returns the BIOS revisions of the network node controllers.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
      * @return the revisions
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native NNCBiosRevisionList QV_GetNNCBiosRevisionList(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
     /**
-     * Prepares the NAS nodes for the download of a BIOS.
+     * Prepares the network node controllers for the download of a BIOS.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param option the library's own
-     * @throws DiskArrayException 258 or the library's code
+     * @param option the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_PreparesNNCBiosDownload(String unit, QVSessionInfo session, int option)
             throws DiskArrayException;
@@ -4316,8 +4344,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param path of a file of this host, at most 1,023 bytes
-     * @throws DiskArrayException 258 or the library's code
+     * @param path path of the file, at most 1,023 bytes
+     * @throws DiskArrayException with the library's code; 258 where unit or path is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_NNCBiosFileConcat(String unit, QVSessionInfo session, String path)
             throws DiskArrayException;
@@ -4325,7 +4354,7 @@ public class DiskArrayUtilityJNI {
     /**
      * Gives up what is staged of the BIOS.
      *
-     * @throws DiskArrayException the library's code
+     * @throws DiskArrayException with the library's code
      */
     public native void QV_CancelNNCBiosFileConcat() throws DiskArrayException;
 
@@ -4334,9 +4363,10 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param option1 the library's own
-     * @param option2 the library's own
-     * @throws DiskArrayException 258 or the library's code
+     * @param option1 the library's own value
+     * @param option2 the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_NNCBiosDownload(
             String unit, QVSessionInfo session, int option1, int option2) throws DiskArrayException;
@@ -4345,29 +4375,33 @@ public class DiskArrayUtilityJNI {
      * Returns how far the download of the BIOS came.
      *
      * @return the library's own count
-     * @throws DiskArrayException the library's code
+     * @throws DiskArrayException with the library's code
      */
     public native int QV_GetNNCBiosDownloadCount() throws DiskArrayException;
 
     /**
-     * Returns the state of the BIOS download of a NAS node.
+     * Returns the status of the BIOS download of a network node controller.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param option the library's own
-     * @return the state
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @param option the library's own value
+     * @return the status
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native NNCBiosDownloadStatus QV_GetNNCBiosDownloadStatus(
             String unit, QVSessionInfo session, int option) throws DiskArrayException;
 
     /**
-     * Returns which NAS nodes are being upgraded.
+     * Returns the upgrade status of the network node controllers.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @return the state of each node
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @return the status of each
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native NNCUpgradeStatusList QV_GetNNCUpgradeStatusList(
             String unit, QVSessionInfo session) throws DiskArrayException;
