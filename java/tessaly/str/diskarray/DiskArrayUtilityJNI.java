@@ -4412,9 +4412,11 @@ public class DiskArrayUtilityJNI {
      * Logs in with an account of the array.
      *
      * @param unit the unit's registered name
-     * @param request the account and its password
+     * @param request the account and its password; not null
      * @return the session, for every other call on this unit
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native QVSessionInfo QV_LoginQVAccount(String unit, LoginRequest request)
             throws DiskArrayException;
@@ -4423,9 +4425,11 @@ public class DiskArrayUtilityJNI {
      * Logs in for the alert check.
      *
      * @param unit the unit's registered name
-     * @param option the library's own
+     * @param option the library's own value
      * @return the session
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native QVSessionInfo QV_LoginQVAccountAlertCheck(String unit, int option)
             throws DiskArrayException;
@@ -4435,8 +4439,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param option how to end it
-     * @throws DiskArrayException 258 or the library's code
+     * @param option the log option; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_LogoutQVAccount(String unit, QVSessionInfo session, LogoutOption option)
             throws DiskArrayException;
@@ -4446,19 +4451,21 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param option how to end it
-     * @throws DiskArrayException 258 or the library's code
+     * @param option the log option; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_LogoutQVAccountAlertCheck(
             String unit, QVSessionInfo session, LogoutOption option) throws DiskArrayException;
 
     /**
-     * Ends all sessions of an account.
+     * Logs an account out by force.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param account the account
-     * @throws DiskArrayException 258 or the library's code
+     * @param account the account; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_ForcedLogoutQVAccount(
             String unit, QVSessionInfo session, AccountIdentifier account)
@@ -4469,8 +4476,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param account the account
-     * @throws DiskArrayException 258 or the library's code
+     * @param account the account; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_DeleteAccount(
             String unit, QVSessionInfo session, AccountIdentifier account)
@@ -4481,8 +4489,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param account the account
-     * @throws DiskArrayException 258 or the library's code
+     * @param account the account; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_CreateAccount(String unit, QVSessionInfo session, Account account)
             throws DiskArrayException;
@@ -4492,8 +4501,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param account the account as it is to be
-     * @throws DiskArrayException 258 or the library's code
+     * @param account the account as it is to be; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_ChangeAccount(String unit, QVSessionInfo session, Account account)
             throws DiskArrayException;
@@ -4503,8 +4513,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param change the user and both passwords
-     * @throws DiskArrayException 258 or the library's code
+     * @param change the user and both passwords; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_ChangeOwnUserPassword(
             String unit, QVSessionInfo session, OwnPasswordChange change)
@@ -4516,7 +4527,9 @@ public class DiskArrayUtilityJNI {
      * @param unit the unit's registered name
      * @param session the session from a login
      * @return the settings
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native AccountOption QV_GetAccountOption(String unit, QVSessionInfo session)
             throws DiskArrayException;
@@ -4526,8 +4539,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param option the settings
-     * @throws DiskArrayException 258 or the library's code
+     * @param option the settings; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_SetAccountOption(
             String unit, QVSessionInfo session, AccountOption option) throws DiskArrayException;
@@ -4538,7 +4552,9 @@ public class DiskArrayUtilityJNI {
      * @param unit the unit's registered name
      * @param session the session from a login
      * @return the roles
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native QVAccountRoleInformation QV_GetQVAccountRoleInformation(
             String unit, QVSessionInfo session) throws DiskArrayException;
@@ -4549,7 +4565,9 @@ public class DiskArrayUtilityJNI {
      * @param unit the unit's registered name
      * @param session the session from a login
      * @return the accounts
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native QVAccountInfoList QV_GetAccountInformation(String unit, QVSessionInfo session)
             throws DiskArrayException;
@@ -4560,7 +4578,9 @@ public class DiskArrayUtilityJNI {
      * @param unit the unit's registered name
      * @param session the session from a login
      * @return what the user may do
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native OwnUserPermission QV_GetOwnUserPermission(String unit, QVSessionInfo session)
             throws DiskArrayException;
@@ -4570,7 +4590,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @return the warning
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native AccountBanner QV_GetAccountBanner(String unit) throws DiskArrayException;
 
@@ -4580,7 +4602,9 @@ public class DiskArrayUtilityJNI {
      * @param unit the unit's registered name
      * @param session the session from a login
      * @return the warning
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native AccountBanner QV_GetAccountBannerAuth(String unit, QVSessionInfo session)
             throws DiskArrayException;
@@ -4590,8 +4614,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param banner the warning
-     * @throws DiskArrayException 258 or the library's code
+     * @param banner the warning; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_SetAccountBannerAuth(
             String unit, QVSessionInfo session, AccountBanner banner) throws DiskArrayException;
@@ -4604,7 +4629,9 @@ public class DiskArrayUtilityJNI {
      * @param unit the unit's registered name
      * @param session the session from a login
      * @return the settings
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native QVAuditLogInformation QV_GetQVAuditLogInformation(
             String unit, QVSessionInfo session) throws DiskArrayException;
@@ -4614,8 +4641,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param information the settings
-     * @throws DiskArrayException 258 or the library's code
+     * @param information the settings; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_SetQVAuditLogInformation(
             String unit, QVSessionInfo session, QVAuditLogInformation information)
@@ -4626,8 +4654,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param path of a file of this host, at most 1,023 bytes
-     * @throws DiskArrayException 258 or the library's code
+     * @param path path of the file, at most 1,023 bytes
+     * @throws DiskArrayException with the library's code; 258 where unit or path is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_QVAuditLogExport(String unit, QVSessionInfo session, String path)
             throws DiskArrayException;
@@ -4637,8 +4666,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the request
-     * @throws DiskArrayException 258 or the library's code
+     * @param request the request; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_InitQVAuditLog(
             String unit, QVSessionInfo session, AuditLogInitRequest request)
