@@ -4680,15 +4680,16 @@ public class DiskArrayUtilityJNI {
      * Returns the mail settings of this host.
      *
      * @return the settings; null where they cannot be built, without code 2817
-     * @throws DiskArrayException the library's code
+     * @throws DiskArrayException with the library's code
      */
     public native EmailInfo QV_GetEmailInfo() throws DiskArrayException;
 
     /**
      * Sets the mail settings of this host.
      *
-     * @param info the settings
-     * @throws DiskArrayException the library's code
+     * @param info the settings; not null
+     * @throws DiskArrayException with the library's code
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_SetEmailInfo(EmailInfo info) throws DiskArrayException;
 
@@ -4697,9 +4698,10 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param option the library's own
+     * @param option the library's own value
      * @return the library's own value
-     * @throws DiskArrayException 258 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native int QV_AlertCheck(String unit, QVSessionInfo session, int option)
             throws DiskArrayException;
@@ -4709,9 +4711,11 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param option the library's own
+     * @param option the library's own value
      * @return the alert
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native AlertCheckEx QV_AlertCheckEx(String unit, QVSessionInfo session, int option)
             throws DiskArrayException;
@@ -4720,7 +4724,7 @@ public class DiskArrayUtilityJNI {
      * Returns how often alerts are checked for.
      *
      * @return the time between two checks, in the library's own unit
-     * @throws DiskArrayException the library's code
+     * @throws DiskArrayException with the library's code
      */
     public native int QV_GetAlertInterval() throws DiskArrayException;
 
@@ -4728,7 +4732,7 @@ public class DiskArrayUtilityJNI {
      * Sets how often alerts are checked for.
      *
      * @param interval the time between two checks, in the library's own unit
-     * @throws DiskArrayException the library's code
+     * @throws DiskArrayException with the library's code
      */
     public native void QV_SetAlertInterval(int interval) throws DiskArrayException;
 
@@ -4736,15 +4740,17 @@ public class DiskArrayUtilityJNI {
      * Returns who checks for alerts.
      *
      * @return the account
-     * @throws DiskArrayException 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 2817 where the result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native AlertCheckUser QV_GetAlertCheckUser() throws DiskArrayException;
 
     /**
      * Sets who checks for alerts.
      *
-     * @param user the account
-     * @throws DiskArrayException the library's code
+     * @param user the account; not null
+     * @throws DiskArrayException with the library's code
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_SetAlertCheckUser(AlertCheckUser user) throws DiskArrayException;
 
@@ -4754,7 +4760,9 @@ public class DiskArrayUtilityJNI {
      * @param unit the unit's registered name
      * @param session the session from a login
      * @return the state, with the mail
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native EmailAlertInformation QV_GetEmailAlertInformation(
             String unit, QVSessionInfo session) throws DiskArrayException;
@@ -4764,8 +4772,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param info the mail
-     * @throws DiskArrayException 258 or the library's code
+     * @param info the mail; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_SetEmailAlertInfo(String unit, QVSessionInfo session, EmailAlertInfo info)
             throws DiskArrayException;
@@ -4775,7 +4784,8 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @throws DiskArrayException 258 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_ClearEmailAlertInfo(String unit, QVSessionInfo session)
             throws DiskArrayException;
@@ -4785,8 +4795,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param mode the library's own
-     * @throws DiskArrayException 258 or the library's code
+     * @param mode the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_ChangeEmailAlertMode(String unit, QVSessionInfo session, int mode)
             throws DiskArrayException;
@@ -4796,8 +4807,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param test the controller
-     * @throws DiskArrayException 258 or the library's code
+     * @param test the controller; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_TestEmailAlert(String unit, QVSessionInfo session, EmailAlertTest test)
             throws DiskArrayException;
@@ -4807,10 +4819,12 @@ public class DiskArrayUtilityJNI {
     /**
      * Reads a configuration from files of this host.
      *
-     * @param pathA path of the first file of this host, at most 1,023 bytes
-     * @param pathB path of the second, likewise
+     * @param pathA path of the first file, at most 1,023 bytes
+     * @param pathB path of the second file, at most 1,023 bytes
      * @return the configuration
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where pathA or pathB is null; 2817
+     *     where the result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native SnmpConfigInformation QV_LoadSnmpConfig(String pathA, String pathB)
             throws DiskArrayException;
@@ -4818,10 +4832,11 @@ public class DiskArrayUtilityJNI {
     /**
      * Writes a configuration to files of this host.
      *
-     * @param pathA path of the first file of this host, at most 1,023 bytes
-     * @param pathB path of the second, likewise
-     * @param config the configuration
-     * @throws DiskArrayException 258 or the library's code
+     * @param pathA path of the first file, at most 1,023 bytes
+     * @param pathB path of the second file, at most 1,023 bytes
+     * @param config the configuration; not null
+     * @throws DiskArrayException with the library's code; 258 where pathA or pathB is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_SaveSnmpConfig(String pathA, String pathB, SnmpConfigInformation config)
             throws DiskArrayException;
@@ -4831,8 +4846,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param config the configuration
-     * @throws DiskArrayException 258 or the library's code
+     * @param config the configuration; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_SetSnmpConfigonMemory(
             String unit, QVSessionInfo session, SnmpConfigInformation config)
@@ -4844,9 +4860,10 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param first path of the first file of this host, at most 1,023 bytes
-     * @param second path of the second, likewise
-     * @throws DiskArrayException 258 or the library's code
+     * @param first path of the first file, at most 1,023 bytes
+     * @param second path of the second file, at most 1,023 bytes
+     * @throws DiskArrayException with the library's code; 258 where unit, first or second is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_SetSnmpConfig(
             String unit, QVSessionInfo session, String first, String second)
@@ -4858,9 +4875,10 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param first path of the first file of this host, at most 1,023 bytes
-     * @param second path of the second, likewise
-     * @throws DiskArrayException 258 or the library's code
+     * @param first path of the first file, at most 1,023 bytes
+     * @param second path of the second file, at most 1,023 bytes
+     * @throws DiskArrayException with the library's code; 258 where unit, first or second is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_SnmpConfigOutput(
             String unit, QVSessionInfo session, String first, String second)

@@ -4,11 +4,11 @@ package tessaly.str.diskarray;
 public class EmailAlertInformation {
     /** Mode of sending. */
     public int send_mode;
-    /** 2 elements, one a controller. */
+    /** Controller flags, 2 elements. */
     public int[] ctl_flag;
-    /** State of the sending. */
+    /** Execution flag. */
     public int exec_flag;
-    /** Result of the sending. */
+    /** Execution result. */
     public int exec_result;
     /** The mail. */
     public EmailAlertInfo mail;
