@@ -452,7 +452,7 @@ QUORVEL_RECORD(IntegrationLUInfo2, 262152);
 QUORVEL_OFFSET(IntegrationLUInfo2, parent_lu, 8);
 QUORVEL_OFFSET(IntegrationLUInfo2, unite_info, 32776);
 
-/// LUs to integrate or to separate.
+/// An operation on integrated LUs.
 struct IntegrationRequest {
   std::int32_t operation;
   std::int32_t parent_lun;
@@ -478,7 +478,7 @@ struct DMLUInformation {
 };
 QUORVEL_RECORD(DMLUInformation, 32);
 
-/// How an LU is guarded against changes.
+/// The guard of an LU.
 struct LuGuard {
   std::int32_t lu_valid;
   std::int32_t capacity;

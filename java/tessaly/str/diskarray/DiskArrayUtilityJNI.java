@@ -11,7 +11,7 @@ package tessaly.str.diskarray;
  *     has at most 64 bytes.
  * <li>An object is read field by field. One that is null reaches the library as it lay in memory, and
  *     so does the rest of an object from a text, an array or an object in it on that is null. Nothing
- *     is thrown. New objects hold no null but where a field's comment says so.
+ *     is thrown. New objects hold no null but where the comment of a field or of its class says so.
  * <li>An array of ints or bytes in a request has at least the elements that its comment gives. A
  *     shorter one is an {@link ArrayIndexOutOfBoundsException}. The library is called nevertheless;
  *     its refusal takes the exception's place, or 2817 where an object is returned.
@@ -1919,11 +1919,11 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Integrates or separates LUs.
+     * Carries out an operation on integrated LUs.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request what to do with which LUs; not null
+     * @param request the operation and its LUs; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      * @throws ArrayIndexOutOfBoundsException where <code>child_lu</code> is too short; the library
@@ -4755,11 +4755,11 @@ public class DiskArrayUtilityJNI {
     public native void QV_SetAlertCheckUser(AlertCheckUser user) throws DiskArrayException;
 
     /**
-     * Returns the state of the array's e-mail alert.
+     * Returns the array's e-mail alert settings.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @return the state, with the mail
+     * @return the settings, with the mail
      * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
      *     result could not be built
      * @throws OutOfMemoryError where there is no native memory

@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** The state of an array's e-mail alert. The values are the library's own. */
+/** The e-mail alert settings of an array. The values are the library's own. */
 public class EmailAlertInformation {
     /** Mode of sending. */
     public int send_mode;

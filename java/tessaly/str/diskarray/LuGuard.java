@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** How an LU is guarded against changes. */
+/** The guard of an LU. */
 public class LuGuard {
     /** Not 0 where the entry is in use. */
     public int lu_valid;

@@ -4,7 +4,7 @@ package tessaly.str.diskarray;
 public class QViSCSIPingPort {
     /** Not 0 where the port is there. */
     public int port_valid;
-    /** Not 0 where the port is to ping. */
+    /** Whether the port is to ping, the library's own value. */
     public int request_valid;
     /** IP address to ping, at most 39 bytes. */
     public String ip_address = "";
