@@ -42,7 +42,7 @@ public class ArrayAllInfo_Base {
     public ParityCorrectionStatusList correctstatus;
     /** The integrated LUs. */
     public IntegrationLUInfo2 integration_lu2;
-    /** The mode of the LU mapping, the library's own code. */
+    /** Mapping mode, the library's own value. */
     public int mapping_mode;
     /** The batteries. */
     public BatteryConfig battery_config;

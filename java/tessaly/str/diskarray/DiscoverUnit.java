@@ -14,7 +14,7 @@ public class DiscoverUnit {
     public int unit_conf;
     /** Controller number, 0 to 255. */
     public int ctlno;
-    /** Serial number, 10 bytes at most. */
+    /** Serial number, at most 10 bytes. */
     public String serial;
     /** Port of the communication with the unit, the library's own number. */
     public int communication_port;

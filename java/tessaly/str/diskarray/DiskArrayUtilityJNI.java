@@ -278,7 +278,7 @@ public class DiskArrayUtilityJNI {
      * Adds a user to the array's own list.
      *
      * @param unit the unit's registered name
-     * @param number user number, the library's own
+     * @param number user number, the library's own value
      * @param user the user; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
@@ -290,7 +290,7 @@ public class DiskArrayUtilityJNI {
      * Changes a user of the array's own list.
      *
      * @param unit the unit's registered name
-     * @param number user number, the library's own
+     * @param number user number, the library's own value
      * @param oldUser the user until now; not null
      * @param newUser the user from now on; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
@@ -304,7 +304,7 @@ public class DiskArrayUtilityJNI {
      * Takes a user from the array's own list.
      *
      * @param unit the unit's registered name
-     * @param number user number, the library's own
+     * @param number user number, the library's own value
      * @param user the user; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
@@ -316,7 +316,7 @@ public class DiskArrayUtilityJNI {
      * Empties the array's own list of users.
      *
      * @param unit the unit's registered name
-     * @param number user number, the library's own
+     * @param number user number, the library's own value
      * @throws DiskArrayException with the library's code; 258 where unit is null
      */
     public native void QV_DeleteAllUser(String unit, int number) throws DiskArrayException;
@@ -325,7 +325,7 @@ public class DiskArrayUtilityJNI {
      * Returns the state of the array's own list of users.
      *
      * @param unit the unit's registered name
-     * @param number user number, the library's own
+     * @param number user number, the library's own value
      * @return the state of the list
      * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
      *     result could not be built

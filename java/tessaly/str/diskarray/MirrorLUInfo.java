@@ -14,7 +14,7 @@ public class MirrorLUInfo {
     public int lun;
     /** Number of the controller. */
     public int ctl_no;
-    /** Number of the pool. */
+    /** Pool number. */
     public int pool_no;
     /** State of the pair, the library's own value. */
     public int pair_status;

@@ -2,7 +2,7 @@ package tessaly.str.diskarray;
 
 /** The settings of the audit log. To change them, change what the query returned. */
 public class QVAuditLogInformation {
-    /** The library's own value. */
+    /** Option, the library's own value. */
     public int option;
     /** What of the settings is valid, the library's own value. */
     public int set_valid;

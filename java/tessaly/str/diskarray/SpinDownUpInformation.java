@@ -2,7 +2,7 @@ package tessaly.str.diskarray;
 
 /** Power saving by RAID group and by logical unit. */
 public class SpinDownUpInformation {
-    /** The library's own value. */
+    /** Option, the library's own value. */
     public int option;
     /** Number of RAID groups listed. */
     public int rg_count;
