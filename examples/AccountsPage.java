@@ -34,7 +34,8 @@ final class AccountsPage {
     }
 
     private static void accounts(Visit visit) throws DiskArrayException {
-        QVAccountRoleInformation roles = Visit.ARRAY.QV_GetQVAccountRoleInformation(visit.unit, visit.session);
+        QVAccountRoleInformation roles =
+                Visit.ARRAY.QV_GetQVAccountRoleInformation(visit.unit, visit.session);
         Table table = new Table("Account", "Role", "Enabled");
         for (QVAccountBaseInfo account :
                 Visit.ARRAY.QV_GetAccountInformation(visit.unit, visit.session).account_info) {

@@ -99,7 +99,7 @@ public final class ArrayTour {
         } catch (IOException | IllegalArgumentException failure) {
             return refuse(failure.toString());
         } catch (LinkageError failure) {
-            System.err.println("ArrayTour: the native library is not there: " + failure);
+            System.err.println("ArrayTour: a library or class is not there: " + failure);
             return 1;
         }
     }
@@ -249,8 +249,7 @@ public final class ArrayTour {
         AccountsPage.show(visit);
         UnitPage.show(visit);
         StatusPage.show(visit);
-        StoragePage.show(visit);
-        HostsPage.show(visit);
+        HostsPage.show(visit, StoragePage.show(visit));
         PortsPage.show(visit);
         MaintenancePage.show(visit);
         ReplicationPage.show(visit);

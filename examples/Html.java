@@ -142,7 +142,7 @@ final class Html {
                     .append(String.format(Locale.ROOT, " <small>%.0f ms</small></p>\n", step.milliseconds));
             for (Object content : step.content) {
                 if (content instanceof Table) {
-                    table(page, ((Table) content).rows());
+                    table(page, step.heading, ((Table) content).rows());
                 } else {
                     page.append("<p>").append(text(content.toString())).append("</p>\n");
                 }
@@ -152,8 +152,9 @@ final class Html {
         page.append("</details>\n");
     }
 
-    private static void table(StringBuilder page, List<String[]> rows) {
-        page.append("<div class=\"table\" tabindex=\"0\"><table>\n");
+    private static void table(StringBuilder page, String name, List<String[]> rows) {
+        page.append("<div class=\"table\" role=\"region\" tabindex=\"0\" aria-label=\"")
+                .append(text(name)).append("\"><table>\n");
         for (String[] row : rows) {
             boolean heading = row == rows.get(0);
             page.append("<tr>");

@@ -13,55 +13,68 @@ final class Rack {
     private final StringBuilder parts = new StringBuilder();
     private final StringBuilder enclosures = new StringBuilder();
 
-    private static String cell(int number, boolean normal, String details) {
-        return "<li class=\"" + (normal ? "good" : "bad") + "\" title=\"" + Html.text(details) + "\">"
-                + number + (normal ? "" : "<b>!</b>") + "</li>";
+    /** The places of one kind of part. */
+    private static final class Places {
+        private final StringBuilder cells = new StringBuilder();
+        private final StringBuilder notes = new StringBuilder();
+        private int occupied;
+
+        void add(int place, boolean normal, String details) {
+            occupied++;
+            cells.append("<li class=\"").append(normal ? "good" : "bad").append("\" title=\"")
+                    .append(Html.text(details)).append("\">").append(place).append(normal ? "" : "!")
+                    .append("</li>");
+            if (!normal) {
+                notes.append("<p class=\"note\">! ").append(Html.text(details)).append("</p>");
+            }
+        }
+
+        void addEmpty(int place) {
+            cells.append("<li class=\"empty\">").append(place).append("</li>");
+        }
+
+        /** Nothing where all places are empty. */
+        void addTo(StringBuilder units, String kind, String name, int count) {
+            if (occupied > 0) {
+                units.append("<div class=\"").append(kind).append("\"><p><b>").append(name)
+                        .append("</b> <span>").append(occupied).append(" of ").append(count)
+                        .append("</span></p><ul>").append(cells).append("</ul>").append(notes)
+                        .append("</div>\n");
+            }
+        }
     }
 
     /** The parts of a kind; places without a part are 0. */
     void parts(String kind, int[] conditions) {
-        StringBuilder cells = new StringBuilder();
-        int occupied = 0;
+        Places places = new Places();
         for (int place = 0; place < conditions.length; place++) {
             if (conditions[place] != 0) {
-                occupied++;
-                cells.append(cell(place, conditions[place] == NORMAL_PART,
-                        kind + " " + place + ", condition " + conditions[place]));
+                places.add(place, conditions[place] == NORMAL_PART,
+                        kind + " " + place + ", condition " + conditions[place]);
             }
         }
-        if (occupied > 0) {
-            parts.append("<div class=\"unit small\"><p><b>").append(Html.text(kind)).append("</b> <span>")
-                    .append(occupied).append(" of ").append(conditions.length)
-                    .append("</span></p><ul>").append(cells).append("</ul></div>\n");
-        }
+        places.addTo(parts, "unit small", kind, conditions.length);
     }
 
     /** An enclosure, unless it is empty. */
     void enclosure(int number, DiskDrive[] drives, DiskDriveInformation[] information) {
-        StringBuilder cells = new StringBuilder();
-        int mounted = 0;
+        Places places = new Places();
         for (int slot = 0; slot < drives.length; slot++) {
             if (drives[slot].mount == 0) {
-                cells.append("<li class=\"empty\" title=\"slot ").append(slot).append(", empty\">")
-                        .append(slot).append("</li>");
-                continue;
+                places.addEmpty(slot);
+            } else {
+                DiskDriveInformation drive = information[slot];
+                places.add(slot, drives[slot].drv_state == NORMAL_DRIVE,
+                        "slot " + slot + ", " + drive.drive_type_name + " " + drive.drive_capacity
+                                + ", serial " + drive.serial + ", state " + drives[slot].drv_state);
             }
-            mounted++;
-            DiskDriveInformation drive = information[slot];
-            cells.append(cell(slot, drives[slot].drv_state == NORMAL_DRIVE,
-                    "slot " + slot + ", " + drive.drive_type_name + " " + drive.drive_capacity
-                            + ", serial " + drive.serial + ", state " + drives[slot].drv_state));
         }
-        if (mounted > 0) {
-            enclosures.append("<div class=\"unit\"><p><b>drives of unit ").append(number)
-                    .append("</b> <span>").append(mounted).append(" of ").append(drives.length)
-                    .append("</span></p><ul>").append(cells).append("</ul></div>\n");
-        }
+        places.addTo(enclosures, "unit", "drives of unit " + number, drives.length);
     }
 
     String markup() {
-        return "<p class=\"legend\">Number of the place<span><i class=\"key good\"></i>normal</span>"
-                + "<span><i class=\"key bad\">!</i>another condition</span>"
+        return "<p class=\"legend\">Places by number<span><i class=\"key good\"></i>normal: condition 1, of a"
+                + " drive state 0</span><span><i class=\"key bad\">!</i>another</span>"
                 + "<span><i class=\"key empty\"></i>empty</span></p>"
                 + "<div class=\"rack\">\n<div class=\"parts\">" + parts + "</div>" + enclosures
                 + "</div>\n";

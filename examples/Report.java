@@ -64,9 +64,11 @@ final class Report {
 
     void page(String title) {
         pages.add(new Page(title));
-        System.out.println(title);
-        System.out.println(title.replaceAll(".", "="));
-        System.out.println();
+        printTitle(title);
+    }
+
+    private static void printTitle(String title) {
+        System.out.println(title + "\n" + title.replaceAll(".", "=") + "\n");
     }
 
     void begin(String heading) {
@@ -111,10 +113,10 @@ final class Report {
 
     /** Prints how many steps became what, and each that is unexpected once more. */
     void summarise() {
-        page("Summary");
+        printTitle("Summary");
         Table counts = new Table("Page", "OK", "As expected", "Unexpected", "Left out");
         Table unexpected = new Table("Page", "Step", "What happened");
-        for (Page page : pages.subList(0, pages.size() - 1)) {
+        for (Page page : pages) {
             counts.row(page.title, page.count(Outcome.OK), page.count(Outcome.EXPECTED),
                     page.count(Outcome.UNEXPECTED), page.count(Outcome.LEFT_OUT));
             for (Step each : page.steps) {
@@ -123,7 +125,6 @@ final class Report {
                 }
             }
         }
-        pages.remove(pages.size() - 1);
         counts.print();
         if (!isAsExpected()) {
             unexpected.print();

@@ -35,7 +35,8 @@ final class StoragePage {
         this.visit = visit;
     }
 
-    static void show(Visit visit) {
+    /** Returns the new logical units. */
+    static List<Integer> show(Visit visit) {
         StoragePage page = new StoragePage(visit);
         visit.page("Storage");
         visit.change("A new RAID group", page::createGroup);
@@ -51,6 +52,7 @@ final class StoragePage {
         visit.change("A new virtual volume", page::createVolume);
         visit.step("Virtual volumes", page::volumes);
         visit.step("LU guard", page::guard);
+        return page.made;
     }
 
     private void createGroup() throws DiskArrayException {

@@ -178,8 +178,7 @@ final class Visit {
         report.show(table);
         int left = report.left.size() - before;
         report.end(left == 0 ? Report.Outcome.OK : Report.Outcome.UNEXPECTED,
-                left == 0 ? "" : "not removed: " + String.join(", ",
-                        report.left.subList(before, report.left.size())));
+                left == 0 ? "" : left + " not removed");
     }
 
     void page(String title) {

@@ -23,7 +23,10 @@ import tessaly.str.diskarray.QVSessionInfo;
 import tessaly.str.diskarray.QVUnitParam;
 import tessaly.str.diskarray.RgDetail;
 
-/** What the array tour does where something goes wrong, and what it leaves alone. Usage: TourTest DIRECTORY. */
+/**
+ * What the array tour does where something goes wrong, and what it leaves alone. Usage: TourTest
+ * DIRECTORY.
+ */
 public final class TourTest {
     private static final DiskArrayUtilityJNI ARRAY = new DiskArrayUtilityJNI();
     private static final String[] ACCOUNT = {"admin", "quorvel", "192.0.2.10", "192.0.2.20"};
@@ -34,6 +37,8 @@ public final class TourTest {
     private static final String READING = "QV_(Get|Discover|Check).*|QV_(Login|Logout)QVAccount"
             + "|QV_KeepSession|QV_TestUnitReady|QV_AlertCheck(Ex)?|QV_IntegrationLUInfo2?";
     private static final int REFUSED = 1234;
+    /** The result of a library function by which the method returns null. */
+    private static final int NULL = 256;
 
     private final Path page;
     private final List<String> failures = new ArrayList<>();
@@ -223,16 +228,22 @@ public final class TourTest {
 
     /** A refusal, an Error amidst what was made, and three things that cannot be removed. */
     private void testFailures() throws Exception {
+        Simulator.force("QV_UnitAdd", REFUSED, 1);
         Simulator.force("QV_GetPartsList", REFUSED, 1);
+        Simulator.force("QV_RaidGroupDelete", 0, 1);
+        Simulator.force("QV_GetSpinDownUpInformation", NULL, 1);
         Simulator.force("QV_DeleteiSCSITarget", REFUSED, 1);
         Simulator.force("QV_UnitDelete", REFUSED, 2);
         tour("iqn.2004-01.example.tour:disk", with("--html", page.toString()));
         expect(status == 1, "something is unexpected");
-        expectPrinted("QV_GetPartsList with code 1234 (the array library's own), at StatusPage.java:",
+        expectPrinted("Refused as expected: QV_UnitAdd with code 1234",
+                "UNEXPECTED: QV_RaidGroupDelete was carried out, although it holds logical units",
+                "Drive settings\n  UNEXPECTED: java.lang.NullPointerException",
+                "QV_GetPartsList with code 1234 (the array library's own), at StatusPage.java:",
                 "UNEXPECTED: java.lang.StackOverflowError: planted",
                 "iSCSI hosts\n  Left out: the tour ended before",
                 "Still there: iSCSI target tour", "Still there: unit tour-north in the library's list",
-                ", 4 unexpected, ");
+                ", 6 unexpected, ");
         expectMarkup(new String(Files.readAllBytes(page), "UTF-8"), "<b>Ports: iSCSI targets</b>",
                 "<b>Still there</b> iSCSI target tour");
         expectNothingLeft("tour-north");
