@@ -105,10 +105,10 @@ final class Visit {
 
     /** A step that is left out where <code>why</code> says so, and refused where a call is named. */
     private void run(String heading, String leftOut, String call, int code, String why, Step step) {
-        report.begin(heading);
         Report.Outcome outcome = Report.Outcome.UNEXPECTED;
         String words;
         try {
+            report.begin(heading);
             need(leftOut == null, leftOut);
             step.run();
             outcome = call == null ? Report.Outcome.OK : outcome;

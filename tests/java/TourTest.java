@@ -15,6 +15,8 @@ import tessaly.str.diskarray.Account;
 import tessaly.str.diskarray.CreateRaidGroup;
 import tessaly.str.diskarray.CreateRgDrive;
 import tessaly.str.diskarray.DiskArrayUtilityJNI;
+import tessaly.str.diskarray.DiskDrive;
+import tessaly.str.diskarray.DiskDriveInformation;
 import tessaly.str.diskarray.LoginRequest;
 import tessaly.str.diskarray.LogicalUnit;
 import tessaly.str.diskarray.LogicalUnitCreationRequest;
@@ -53,9 +55,12 @@ public final class TourTest {
         TourTest test = new TourTest(Paths.get(arguments[0]));
         test.testArguments();
         test.testWrongPassword();
+        test.testWrongCode();
+        test.testWrongAddress();
         test.testTakenName();
         test.testReadOnly();
         test.testFailures();
+        test.testRack();
         test.failures.forEach(failure -> System.out.println("FAILED: " + failure));
         System.exit(test.failures.isEmpty() ? 0 : 1);
     }
@@ -72,16 +77,19 @@ public final class TourTest {
         }
     }
 
-    /** Runs the tour; where it prints the text, there is an Error. */
+    /** Runs the tour; where it first prints the text, there is an Error. */
     private void tour(String fatal, String... arguments) throws Exception {
         PrintStream out = System.out;
         PrintStream err = System.err;
         ByteArrayOutputStream bytes = new ByteArrayOutputStream();
         PrintStream caught = new PrintStream(bytes, true, "UTF-8") {
+            private boolean thrown;
+
             @Override
             public void println(String line) {
                 super.println(line);
-                if (fatal != null && line.contains(fatal)) {
+                if (fatal != null && !thrown && line.contains(fatal)) {
+                    thrown = true;
                     throw new StackOverflowError("planted");
                 }
             }
@@ -117,14 +125,21 @@ public final class TourTest {
 
     private void testWrongPassword() throws Exception {
         int before = Simulator.calls("QV_LoginQVAccount");
-        InputStream in = System.in;
-        System.setIn(new ByteArrayInputStream("wrong\nquorvel\n".getBytes("UTF-8")));
-        tour(null, "--html", page.toString(), "admin", "-", ACCOUNT[2], ACCOUNT[3]);
-        System.setIn(in);
+        tour(null, "admin", "wrong", ACCOUNT[2], ACCOUNT[3]);
         expect(Simulator.calls("QV_LoginQVAccount") == before + 1, "a wrong password is tried once");
         expect(status == 1 && ARRAY.QV_GetUnitCount() == 0, "a wrong password ends the tour");
         expectPrinted("UNEXPECTED: QV_LoginQVAccount with code 20102", ", 1 unexpected, 0 left out");
         expect(!printed.contains("Accounts\n"), "no page without a session");
+    }
+
+    /** The simulator's codes are known: an expected refusal has them. */
+    private void testWrongCode() throws Exception {
+        Simulator.force("QV_UnitAdd", REFUSED, 1);
+        tour("Registered units");
+        expectPrinted("Registering a unit twice\n  UNEXPECTED: QV_UnitAdd with code 1234",
+                "Registered units\n  UNEXPECTED: java.lang.StackOverflowError",
+                "Login\n  Left out: the tour ended before");
+        expect(status == 1 && ARRAY.QV_GetUnitCount() == 0, "the units are removed");
     }
 
     private static void register(String name) throws Exception {
@@ -135,6 +150,12 @@ public final class TourTest {
         param.ctl1 = "";
         param.serial = "";
         ARRAY.QV_UnitAddByIP(param);
+    }
+
+    private void testWrongAddress() throws Exception {
+        tour(null, "admin", "quorvel", "192.0.2.99", ACCOUNT[3]);
+        expectPrinted("UNEXPECTED: QV_UnitAddByIP with code 20004", "Left out: no unit was registered");
+        expect(status == 1 && ARRAY.QV_GetUnitCount() == 0, "nothing is registered");
     }
 
     /** A unit of that name is another's: it is neither visited nor taken from the list. */
@@ -190,7 +211,10 @@ public final class TourTest {
         register("<mine>");
         prepare("<mine>");
         Map<String, Integer> before = calls();
-        tour(null, with("--read-only", "--html", page.toString()));
+        InputStream in = System.in;
+        System.setIn(new ByteArrayInputStream("quorvel\n".getBytes("UTF-8")));
+        tour(null, "--read-only", "--html", page.toString(), "admin", "-", ACCOUNT[2], ACCOUNT[3]);
+        System.setIn(in);
         expect(status == 0, "read-only: nothing is unexpected");
         int all = 0;
         for (Map.Entry<String, Integer> call : calls().entrySet()) {
@@ -247,6 +271,23 @@ public final class TourTest {
         expectMarkup(new String(Files.readAllBytes(page), "UTF-8"), "<b>Ports: iSCSI targets</b>",
                 "<b>Still there</b> iSCSI target tour");
         expectNothingLeft("tour-north");
+    }
+
+    private void testRack() throws Exception {
+        Rack rack = new Rack();
+        rack.parts("fan", new int[] {1, 0, 4});
+        rack.parts("loop", new int[] {0, 0});
+        DiskDrive[] drives = {new DiskDrive(), new DiskDrive()};
+        drives[1].mount = 1;
+        drives[1].drv_state = 7;
+        DiskDriveInformation[] information = {new DiskDriveInformation(), new DiskDriveInformation()};
+        information[1].serial = "<7>";
+        rack.enclosure(0, drives, information);
+        rack.enclosure(1, new DiskDrive[] {new DiskDrive()}, information);
+        printed = rack.markup();
+        expectMarkup("<div>" + printed + "</div>", "2 of 3</span>", ">2!</li>",
+                "<p class=\"note\">! fan 2, condition 4</p>", "<li class=\"empty\">0</li>", "serial &lt;7&gt;, state 7</p>");
+        expect(!printed.contains("loop") && !printed.contains("unit 1"), "what is empty is not shown");
     }
 
     private void expectNothingLeft(String unit) throws Exception {
