@@ -286,7 +286,8 @@ public final class TourTest {
         rack.enclosure(1, new DiskDrive[] {new DiskDrive()}, information);
         printed = rack.markup();
         expectMarkup("<div>" + printed + "</div>", "2 of 3</span>", ">2!</li>",
-                "<p class=\"note\">! fan 2, condition 4</p>", "<li class=\"empty\">0</li>", "serial &lt;7&gt;, state 7</p>");
+                "<p class=\"note\">! fan 2, condition 4</p>", "<li class=\"empty\">0</li>",
+                "serial &lt;7&gt;, state 7</p>");
         expect(!printed.contains("loop") && !printed.contains("unit 1"), "what is empty is not shown");
     }
 
