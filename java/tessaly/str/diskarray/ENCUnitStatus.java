@@ -1,7 +1,7 @@
 package tessaly.str.diskarray;
 
-/** The enclosure controllers of a drive unit. */
+/** The enclosure controllers of a unit. */
 public class ENCUnitStatus {
-    /** 2 elements. */
+    /** The enclosure controllers, 2 elements. */
     public ENCStatus[] enc;
 }

@@ -1,8 +1,11 @@
 package tessaly.str.diskarray;
 
-/** A logical unit to move and resize. */
+/** A logical unit to reallocate. */
 public class LogicalUnitReallocationRequest {
+    /** LU number. */
     public int lun;
+    /** Size, in the library's own unit. */
     public int lusize;
+    /** New LU number. */
     public int newlun;
 }

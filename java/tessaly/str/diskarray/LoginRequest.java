@@ -2,11 +2,12 @@ package tessaly.str.diskarray;
 
 /** Who logs in to an array. */
 public class LoginRequest {
-    /** At most 256 bytes. */
+    /** Name of the account, at most 256 bytes. */
     public String user_id = "";
-    /** At most 256 bytes. */
+    /** Its password, at most 256 bytes. */
     public String passwd = "";
+    /** Log option, the library's own value. */
     public int log_option;
-    /** Text for the array's log, at most 127 bytes. */
+    /** Log text, at most 127 bytes. */
     public String log_string = "";
 }

@@ -1,7 +1,9 @@
 package tessaly.str.diskarray;
 
-/** A replacement by way of the other controller. */
+/** A cross-call replacement. */
 public class MicroReplaceCrosscallRequest {
+    /** Controller, the library's own number. */
     public int ctl;
+    /** Whether it is forced, the library's own value. */
     public int forced_mode;
 }

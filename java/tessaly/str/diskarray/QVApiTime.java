@@ -1,8 +1,11 @@
 package tessaly.str.diskarray;
 
-/** A span of time. */
+/** Hours, minutes and seconds. Every value is as the library gives it. */
 public class QVApiTime {
+    /** Hours. */
     public int hour;
+    /** Minutes. */
     public int minute;
+    /** Seconds. */
     public int second;
 }

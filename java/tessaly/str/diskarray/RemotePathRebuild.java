@@ -1,8 +1,9 @@
 package tessaly.str.diskarray;
 
-/** A remote path to set up anew. */
+/** A remote path to rebuild. */
 public class RemotePathRebuild {
-    /** At most 16 bytes. */
+    /** Serial number of the other array, at most 16 bytes; not null. */
     public String remote_serial = "";
+    /** Which path, the library's own value. */
     public int path;
 }

@@ -1,8 +1,11 @@
 package tessaly.str.diskarray;
 
-/** Errors of the units. */
+/** Counters of the units. */
 public class StatisticalUnit {
+    /** Counter of the battery. */
     public int battery;
+    /** Counter of the kind "upst". */
     public int upst;
+    /** Counter of the backup power. */
     public int backup_power;
 }
