@@ -6,8 +6,8 @@ SOAK_JAVA := MALLOC_MMAP_THRESHOLD_=131072 $(JAVA) -cp $(BUILD)/lib/quorvelj.jar
   -Xms512m -Xmx512m -XX:+AlwaysPreTouch
 SOAK_SECONDS := 1800
 
-.PHONY: tour test check mutants benchmark coverage soak dist reference probe clean
-.PHONY: packages-build packages-test packages-check packages-coverage packages-dist
+.PHONY: tour test check mutants benchmark chart coverage soak dist reference probe clean
+.PHONY: packages-build packages-test packages-check packages-benchmark packages-coverage packages-dist
 
 tour: packages-build
 	cmake --preset linux -DQUORVELJ_TESTS=OFF -DQUORVELJ_BENCHMARKS=OFF
@@ -23,10 +23,15 @@ check: packages-check
 mutants: packages-test
 	scripts/mutants.sh
 
-benchmark: packages-test
-	cmake --preset linux -DQUORVELJ_TESTS=ON -DQUORVELJ_BENCHMARKS=ON
+# What a call costs, then the ways side by side. `make chart` draws docs/ways.svg from the second.
+benchmark: packages-benchmark
+	cmake --preset linux -DQUORVELJ_TESTS=ON -DQUORVELJ_BENCHMARKS=ON -DQUORVELJ_CACHE_IDS=ON
 	cmake --build --preset linux
 	$(BUILD)/lib/benchmarks --benchmark_min_time=3
+	$(BUILD)/lib/ways $(BUILD)/ways.tsv
+
+chart: packages-benchmark
+	scripts/chart.py $(BUILD)/ways.tsv docs/ways.svg
 
 coverage: packages-coverage
 	scripts/coverage.sh
@@ -49,7 +54,7 @@ probe: packages-build
 dist: packages-dist
 	scripts/dist.sh
 
-packages-build packages-test packages-check packages-coverage packages-dist:
+packages-build packages-test packages-check packages-benchmark packages-coverage packages-dist:
 	scripts/install-packages.sh $(@:packages-%=%)
 
 clean:

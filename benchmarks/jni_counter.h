@@ -2,6 +2,7 @@
 
 #include <jni.h>
 
+#include <numeric>
 #include <type_traits>
 #include <vector>
 
@@ -10,19 +11,29 @@
 
 /// What one piece of native code asked of the machine.
 struct JniCounts {
-  /// How often each function was called, in the order of `JniCounter`'s list.
+  /// How often each function was called that looks nothing up.
   std::vector<long> calls;
+  /// How often each of the others was.
+  std::vector<long> lookUps;
+  /// Local references to classes that were made, and local references that were deleted.
+  long classes = 0;
+  long deleted = 0;
   /// Objects, arrays and texts that were made, without those of Java's own constructors.
   long objects = 0;
   /// Local references that were held at the same time, at most.
   long references = 0;
 
   [[nodiscard]] long total() const {
-    long sum = 0;
-    for (const long count : calls) {
-      sum += count;
-    }
-    return sum;
+    return std::accumulate(calls.begin(), calls.end(), deleted) +
+           std::accumulate(lookUps.begin(), lookUps.end(), 0L);
+  }
+
+  [[nodiscard]] bool isSame(const JniCounts& other) const {
+    return calls == other.calls && lookUps == other.lookUps && deleted == other.deleted;
+  }
+  /// The same but for the look-ups, and the letting go of the classes that they made.
+  [[nodiscard]] bool isSameButForLookUps(const JniCounts& other) const {
+    return calls == other.calls && deleted - other.deleted == classes - other.classes;
   }
 };
 
@@ -67,14 +78,26 @@ struct Entries {
 using Interface = JNINativeInterface_;
 using Makers = Entries<&Interface::NewObjectV, &Interface::NewObjectArray, &Interface::NewIntArray,
                        &Interface::NewByteArray, &Interface::NewStringUTF>;
-using Others = Entries<&Interface::FindClass, &Interface::GetMethodID, &Interface::GetObjectClass,
-                       &Interface::GetFieldID, &Interface::SetIntField, &Interface::SetObjectField,
-                       &Interface::GetObjectField, &Interface::SetObjectArrayElement,
-                       &Interface::SetIntArrayRegion, &Interface::SetByteArrayRegion,
-                       &Interface::GetIntArrayElements, &Interface::ReleaseIntArrayElements,
-                       &Interface::GetStringUTFLength, &Interface::GetStringUTFChars,
-                       &Interface::ReleaseStringUTFChars, &Interface::ExceptionOccurred,
-                       &Interface::DeleteLocalRef>;
+using Classes = Entries<&Interface::FindClass, &Interface::GetObjectClass>;
+using LookUps =
+    Entries<&Interface::GetMethodID, &Interface::GetFieldID, &Interface::IsSameObject>;
+using Deletions = Entries<&Interface::DeleteLocalRef>;
+using Others =
+    Entries<&Interface::SetIntField, &Interface::GetIntField, &Interface::SetObjectField,
+            &Interface::GetObjectField, &Interface::SetObjectArrayElement,
+            &Interface::GetObjectArrayElement, &Interface::GetArrayLength,
+            &Interface::SetIntArrayRegion, &Interface::GetIntArrayRegion,
+            &Interface::SetByteArrayRegion, &Interface::GetByteArrayRegion,
+            &Interface::GetIntArrayElements, &Interface::ReleaseIntArrayElements,
+            &Interface::GetStringUTFLength, &Interface::GetStringUTFChars,
+            &Interface::ReleaseStringUTFChars, &Interface::ExceptionOccurred>;
+
+template <class... List>
+struct Lists {
+  static void install(JNINativeInterface_& table) { (List::install(table), ...); }
+  static void reset() { (List::reset(), ...); }
+};
+using All = Lists<Makers, Classes, LookUps, Deletions, Others>;
 
 }  // namespace jni_counter
 
@@ -83,17 +106,19 @@ template <class Work>
 JniCounts countJni(JNIEnv* env, Work work) {
   using namespace jni_counter;
   original = env->functions;
-  Makers::reset();
-  Others::reset();
+  All::reset();
   held = mostHeld = 0;
   JNINativeInterface_ counting = *original;
-  Makers::install(counting);
-  Others::install(counting);
+  All::install(counting);
   env->functions = &counting;
   work();
   env->functions = original;
-  JniCounts counts{Makers::counts(), Makers::sum(), mostHeld};
-  const std::vector<long> others = Others::counts();
-  counts.calls.insert(counts.calls.end(), others.begin(), others.end());
+  JniCounts counts{Others::counts(),  Classes::counts(), Classes::sum(),
+                   Deletions::sum(), Makers::sum(),     mostHeld};
+  const auto append = [](std::vector<long>& to, const std::vector<long>& from) {
+    to.insert(to.end(), from.begin(), from.end());
+  };
+  append(counts.calls, Makers::counts());
+  append(counts.lookUps, LookUps::counts());
   return counts;
 }

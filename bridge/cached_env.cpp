@@ -34,7 +34,7 @@ KnownClass* NativeCall::find(Wanted wanted) {
   return nullptr;
 }
 
-KnownClass* NativeCall::named(const char* name) {
+KnownClass* NativeCall::seek(const char* name) {
   // As a rule a name is one constant.
   KnownClass* const known = find([name](const KnownClass& other) { return other.name == name; });
   return known != nullptr ? known : find([name](const KnownClass& other) {

@@ -68,7 +68,9 @@ class NativeCall {
   Env env() { return {jni_, *this}; }
 
   /// The class of this name, or null where it is not known.
-  KnownClass* named(const char* name);
+  KnownClass* named(const char* name) {
+    return classes_ != nullptr && classes_->name == name ? classes_ : seek(name);
+  }
   /// Takes over the local reference `type`, and deletes it where the class is known already. `name`
   /// is the class's, or null where an object has shown the class. Returns null where there is no
   /// memory; the caller keeps its reference then.
@@ -81,6 +83,7 @@ class NativeCall {
  private:
   template <class Wanted>
   KnownClass* find(Wanted wanted);
+  KnownClass* seek(const char* name);
 
   JNIEnv* jni_;
   /// The one that was asked for last comes first.

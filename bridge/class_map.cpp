@@ -150,14 +150,15 @@ int setFields(Env env, jobject object, const ClassLookup& lookup, const ClassMap
 int setField(Env env, jobject object, const ClassLookup& lookup, const Field& field,
              const std::byte* at) {
   const FieldName name = lookup[field];
+  // Most fields are ints.
+  if (field.kind == FieldKind::kInt32 && field.rank == 0) {
+    return setIntField(env, object, name, valueAt<std::int32_t>(at));
+  }
   const auto storeArray = [&] {
     return storeNew(env, object, field, name, newArray(env, field, 0, at));
   };
   switch (field.kind) {  // GCOV_EXCL_BR_LINE: a case for every kind.
     case FieldKind::kInt32:
-      if (field.rank == 0) {
-        return setIntField(env, object, name, valueAt<std::int32_t>(at));
-      }
       return field.rank == 1 ? setIntArrayField(env, object, name, intsAt(at), lengthOf(field, 0))
                              : storeArray();
     case FieldKind::kInt8:

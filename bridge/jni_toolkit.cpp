@@ -20,39 +20,6 @@ const jint* asJava(const std::int32_t* values) { return reinterpret_cast<const j
 jbyte* asJava(std::byte* bytes) { return reinterpret_cast<jbyte*>(bytes); }
 const jbyte* asJava(const std::byte* bytes) { return reinterpret_cast<const jbyte*>(bytes); }
 
-/// A field of an object, found by name at this moment where it is not known.
-struct FoundField {
-  /// Finds its class.
-  FoundField(Env env, jobject object, FieldName fieldName)
-      : name(fieldName),
-        id(knownField(name)),
-        owner(id != nullptr ? nullptr : knownOwner(env, name)),
-        reference(id != nullptr || owner != nullptr || object == nullptr
-                      ? nullptr
-                      : env->GetObjectClass(object)) {}
-  FoundField(Env env, jobject object, FieldName fieldName, const char* signature)
-      : FoundField(env, object, fieldName) {
-    find(env, signature);
-  }
-  void find(Env env, const char* signature) {
-    const jclass type = owner != nullptr ? owner : reference;
-    if (id == nullptr && type != nullptr) {
-      id = env->GetFieldID(type, textOf(name), signature);
-      keepField(name, id);
-    }
-  }
-  [[nodiscard]] bool hasClass() const {
-    return id != nullptr || owner != nullptr || reference != nullptr;
-  }
-  explicit operator bool() const { return id != nullptr; }
-
-  FieldName name;
-  jfieldID id;
-  jclass owner;
-  /// To the class, where it was not known.
-  jclass reference;
-};
-
 /// A class, found by name at this moment where it is not known; null with the exception.
 struct FoundClass {
   FoundClass(Env env, const char* name)
@@ -69,15 +36,6 @@ struct FoundClass {
   /// To the class, where it is not kept.
   jclass reference;
 };
-
-/// Ends a store or a copy: the exception that it may have raised, then the reference behind it.
-int finish(Env env, jobject reference) {
-  if (exceptionPending(env)) {
-    return kFailed;
-  }
-  deleteLocalRef(env, reference);
-  return kOk;
-}
 
 /// Copies a terminated text; a buffer of no bytes is left alone.
 void copyText(const char* text, char* buffer, std::size_t length) {
@@ -168,14 +126,6 @@ void throwArrayException(Env env, int code) {
   }
 }
 
-bool exceptionPending(Env env) { return env->ExceptionOccurred() != nullptr; }
-
-void deleteLocalRef(Env env, jobject reference) {
-  if (env && reference != nullptr) {
-    env->DeleteLocalRef(reference);
-  }
-}
-
 jclass findClassOrThrow(Env env, const char* className) {
   const jclass type = env->FindClass(className);
   if (type == nullptr) {
@@ -258,50 +208,6 @@ jbyteArray newByteArray(Env env, const std::byte* bytes, jsize count) {
   }
   env->SetByteArrayRegion(array, 0, count, asJava(bytes));
   return exceptionPending(env) ? nullptr : array;
-}
-
-int storeArrayElement(Env env, jobjectArray array, jsize index, jobject element) {
-  env->SetObjectArrayElement(array, index, element);
-  return finish(env, element);
-}
-
-jint getIntField(Env env, jobject object, FieldName name) {
-  const FoundField field(env, object, name, "I");
-  if (!field) {
-    return -1;
-  }
-  const jint value = env->GetIntField(object, field.id);
-  deleteLocalRef(env, field.reference);
-  return value;
-}
-
-int setIntField(Env env, jobject object, FieldName name, jint value) {
-  const FoundField field(env, object, name, "I");
-  if (!field) {
-    return kFailed;
-  }
-  env->SetIntField(object, field.id, value);
-  return finish(env, field.reference);
-}
-
-jobject getObjectField(Env env, jobject object, FieldName name, const char* signature) {
-  const FoundField field(env, object, name, signature);
-  if (!field) {
-    return nullptr;
-  }
-  const jobject value = env->GetObjectField(object, field.id);
-  deleteLocalRef(env, field.reference);
-  return value;
-}
-
-int setObjectFieldByName(Env env, jobject object, FieldName name, const char* signature,
-                         jobject value) {
-  const FoundField field(env, object, name, signature);
-  if (!field) {
-    return kFailed;
-  }
-  env->SetObjectField(object, field.id, value);
-  return finish(env, field.reference);
 }
 
 int getStringField(Env env, jobject object, FieldName name, char* buffer, std::size_t length) {

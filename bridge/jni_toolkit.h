@@ -51,12 +51,12 @@ void throwClassNotFound(Env env, const char* className);
 void throwArrayException(Env env, int code);
 
 /// Whether an exception is pending.
-bool exceptionPending(Env env);
+inline bool exceptionPending(Env env);
 
 // Classes and objects
 
 /// Deletes `reference` where both it and `env` are given.
-void deleteLocalRef(Env env, jobject reference);
+inline void deleteLocalRef(Env env, jobject reference);
 
 /// Returns the class, or null with `java.lang.ClassNotFoundException` pending.
 jclass findClassOrThrow(Env env, const char* className);
@@ -80,19 +80,19 @@ jintArray newIntArray(Env env, const std::int32_t* values, jsize count);
 jbyteArray newByteArray(Env env, const std::byte* bytes, jsize count);
 
 /// Stores `element` at `index` and deletes its local reference.
-int storeArrayElement(Env env, jobjectArray array, jsize index, jobject element);
+inline int storeArrayElement(Env env, jobjectArray array, jsize index, jobject element);
 
 // Single values
 
 /// Returns the value of an `I` field, or -1 where the class or the field is missing. Does not test
 /// for a pending exception.
-jint getIntField(Env env, jobject object, FieldName name);
-int setIntField(Env env, jobject object, FieldName name, jint value);
+inline jint getIntField(Env env, jobject object, FieldName name);
+inline int setIntField(Env env, jobject object, FieldName name, jint value);
 
 /// Returns a local reference to the field's value, or null.
-jobject getObjectField(Env env, jobject object, FieldName name, const char* signature);
-int setObjectFieldByName(Env env, jobject object, FieldName name, const char* signature,
-                         jobject value);
+inline jobject getObjectField(Env env, jobject object, FieldName name, const char* signature);
+inline int setObjectFieldByName(Env env, jobject object, FieldName name, const char* signature,
+                                jobject value);
 
 /// Copies a `String` field as modified UTF-8 into `buffer` of `length` bytes: cut to `length` - 1
 /// bytes, terminated, and zero-filled behind the text.
@@ -153,5 +153,101 @@ int setStringArrayField(Env env, jobject object, FieldName name, const char* tab
 /// `getStringField`. An empty text gives an empty buffer and `kFailed`, and so does a null one,
 /// with which JNI must not be called. Where the characters cannot be had the buffer is left alone.
 int copyJavaStringToBuffer(Env env, jstring text, char* buffer, std::size_t length);
+
+// What each field takes is inline: walking the maps costs what the JNI calls cost.
+
+inline bool exceptionPending(Env env) { return env->ExceptionOccurred() != nullptr; }
+
+inline void deleteLocalRef(Env env, jobject reference) {
+  if (env && reference != nullptr) {
+    env->DeleteLocalRef(reference);
+  }
+}
+
+/// A field of an object, found by name at this moment where it is not known.
+struct FoundField {
+  /// Finds its class.
+  FoundField(Env env, jobject object, FieldName fieldName)
+      : name(fieldName),
+        id(knownField(name)),
+        owner(id != nullptr ? nullptr : knownOwner(env, name)),
+        reference(id != nullptr || owner != nullptr || object == nullptr
+                      ? nullptr
+                      : env->GetObjectClass(object)) {}
+  FoundField(Env env, jobject object, FieldName fieldName, const char* signature)
+      : FoundField(env, object, fieldName) {
+    find(env, signature);
+  }
+  void find(Env env, const char* signature) {
+    const jclass type = owner != nullptr ? owner : reference;
+    if (id == nullptr && type != nullptr) {
+      id = env->GetFieldID(type, textOf(name), signature);
+      keepField(name, id);
+    }
+  }
+  [[nodiscard]] bool hasClass() const {
+    return id != nullptr || owner != nullptr || reference != nullptr;
+  }
+  explicit operator bool() const { return id != nullptr; }
+
+  FieldName name;
+  jfieldID id;
+  jclass owner;
+  /// To the class, where it was not known.
+  jclass reference;
+};
+
+/// Ends a store or a copy: the exception that it may have raised, then the reference behind it.
+inline int finish(Env env, jobject reference) {
+  if (exceptionPending(env)) {
+    return kFailed;
+  }
+  deleteLocalRef(env, reference);
+  return kOk;
+}
+
+inline int storeArrayElement(Env env, jobjectArray array, jsize index, jobject element) {
+  env->SetObjectArrayElement(array, index, element);
+  return finish(env, element);
+}
+
+inline jint getIntField(Env env, jobject object, FieldName name) {
+  const FoundField field(env, object, name, "I");
+  if (!field) {
+    return -1;
+  }
+  const jint value = env->GetIntField(object, field.id);
+  deleteLocalRef(env, field.reference);
+  return value;
+}
+
+inline int setIntField(Env env, jobject object, FieldName name, jint value) {
+  const FoundField field(env, object, name, "I");
+  if (!field) {
+    return kFailed;
+  }
+  env->SetIntField(object, field.id, value);
+  return finish(env, field.reference);
+}
+
+inline jobject getObjectField(Env env, jobject object, FieldName name, const char* signature) {
+  const FoundField field(env, object, name, signature);
+  if (!field) {
+    return nullptr;
+  }
+  const jobject value = env->GetObjectField(object, field.id);
+  deleteLocalRef(env, field.reference);
+  return value;
+}
+
+inline int setObjectFieldByName(Env env, jobject object, FieldName name, const char* signature,
+                                jobject value) {
+  const FoundField field(env, object, name, signature);
+  if (!field) {
+    return kFailed;
+  }
+  env->SetObjectField(object, field.id, value);
+  return finish(env, field.reference);
+}
 
 }  // namespace quorvelj

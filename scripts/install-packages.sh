@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that a purpose needs and the machine lacks.
-# Usage: install-packages.sh build|test|check|wine|i386|dist|coverage
+# Usage: install-packages.sh build|test|check|benchmark|wine|i386|dist|coverage
 # Exit code 3: the package source failed to deliver; 1: any other reason.
 set -euo pipefail
 
@@ -10,11 +10,12 @@ case "${1:-}" in
   build) wanted=("${build[@]}") ;;
   test) wanted=("${build[@]}" "${tests[@]}") ;;
   check) wanted=("${build[@]}" "${tests[@]}" clang clang-format clang-tidy git) ;;
+  benchmark) wanted=("${build[@]}" "${tests[@]}" libjna-java libjna-jni python3) ;;
   wine) wanted=(wine wine32:i386) ;;
   i386) wanted=(g++-multilib openjdk-17-jre-headless:i386) ;;
   coverage) wanted=("${build[@]}" "${tests[@]}" gcovr) ;;
   dist) wanted=("${build[@]}" "${tests[@]}" g++-multilib zip) ;;
-  *) echo "usage: $0 build|test|check|wine|i386|dist|coverage" >&2; exit 2 ;;
+  *) echo "usage: $0 build|test|check|benchmark|wine|i386|dist|coverage" >&2; exit 2 ;;
 esac
 
 missing=()
