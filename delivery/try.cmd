@@ -11,11 +11,11 @@ if not exist "%JAVA%" goto wrong_home
 :ask
 set "ANSWER=%TEMP%\quorvelj-try-%RANDOM%.txt"
 "%JAVA%" -XshowSettings:properties -version >"%ANSWER%" 2>&1
-if not "%ERRORLEVEL%"=="0" goto no_java
-set ARCH=unknown
-set VERSION=unknown
+set ARCH=
+set VERSION=
 for /f "usebackq tokens=1,3" %%a in ("%ANSWER%") do if "%%a"=="os.arch" set "ARCH=%%b"
 for /f "usebackq tokens=1,3" %%a in ("%ANSWER%") do if "%%a"=="java.version" set "VERSION=%%b"
+if not defined ARCH goto no_java
 del "%ANSWER%"
 if not "%ARCH%"=="x86" goto wrong_width
 

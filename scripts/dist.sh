@@ -50,8 +50,8 @@ cp -r delivery/README.md delivery/try.sh CHANGELOG.md docs examples arraylib "$r
 sed 's/$/\r/' delivery/try.cmd >"$root/try.cmd"
 java -classpath "$lib/quorvelj-tools.jar" quorvelj.tools.LayoutProbe \
   "$lib/catalogue.txt" "$root/layout-probe" >/dev/null
-(cd "$root" && find . -type f ! -name SHA256SUMS -printf '%P\n' | LC_ALL=C sort |
-  xargs sha256sum >SHA256SUMS)
+(cd "$root" && find . -type f -printf '%P\n' | LC_ALL=C sort | xargs sha256sum >../SHA256SUMS)
+mv dist/SHA256SUMS "$root/"
 
 # One time, one owner and one order for all entries, and no more of the file system than that.
 find "$root" "$symbols" -exec touch --no-dereference --date=2024-01-01T00:00:00Z {} +
