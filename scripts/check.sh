@@ -1,10 +1,14 @@
 #!/usr/bin/env bash
-# Format, static analysis and the second compiler: what no test shows.
+# Format, the Javadoc, static analysis and the second compiler: what no test shows.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 echo "== format"
 git ls-files '*.cpp' '*.h' | xargs clang-format --dry-run --Werror
+
+echo "== javadoc"
+javadoc -quiet -encoding UTF-8 -Xdoclint:all -Werror -Xmaxwarns 5000 -Xmaxerrs 5000 \
+  -d build/javadoc -sourcepath java tessaly.str.diskarray
 
 echo "== clang"
 cmake --preset linux-clang -DCMAKE_COMPILE_WARNING_AS_ERROR=ON >/dev/null

@@ -61,7 +61,7 @@ cat build/windows-x86.log
 
 echo "== summary"
 for preset in windows-x86 "${presets[@]}"; do
-  grep -hE '^(sweep|fields|stack|fuzz|stacks|threads|dll|doctor|show):' "build/$preset/Testing/Temporary/LastTest.log" 2>/dev/null |
+  grep -hE '^(sweep|fields|stack|fuzz|stacks|threads|dll|doctor|show|guide):' "build/$preset/Testing/Temporary/LastTest.log" 2>/dev/null |
     sed "s/^/$preset /" || true
 done
 if [ "${#not_run[@]}" -eq 0 ]; then

@@ -2,13 +2,15 @@ package tessaly.str.diskarray;
 
 /** An account to create or to change. */
 public class Account {
-    /** At most 256 bytes. */
+    /** Name of the account, at most 256 bytes. */
     public String user_id = "";
     /** Whether <code>passwd</code> is to be set. */
     public int set_passwd;
-    /** At most 256 bytes. */
+    /** New password, at most 256 bytes. */
     public String passwd = "";
+    /** Type of the account, the library's own value. */
     public int account_type;
+    /** Role of the account, the library's own number. */
     public int role;
     /** Whether the account may log in. */
     public int account_enable;

@@ -4,6 +4,6 @@ package tessaly.str.diskarray;
 public class AccountBanner {
     /** Whether it is shown. */
     public int warning_banner_display;
-    /** At most 5,999 bytes. */
+    /** Text of the warning, at most 5,999 bytes. */
     public String warning_banner = "";
 }

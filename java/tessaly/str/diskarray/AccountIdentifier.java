@@ -2,6 +2,6 @@ package tessaly.str.diskarray;
 
 /** Names an account. */
 public class AccountIdentifier {
-    /** At most 256 bytes. */
+    /** Name of the account, at most 256 bytes. */
     public String user_id = "";
 }

@@ -2,9 +2,10 @@ package tessaly.str.diskarray;
 
 /** Who checks for alerts. */
 public class AlertCheckUser {
-    /** At most 256 bytes. */
+    /** Name of the account, at most 256 bytes. */
     public String user_id = "";
-    /** At most 256 bytes. */
+    /** Its password, at most 256 bytes. */
     public String passwd = "";
+    /** Whether the account is used, the library's own switch. */
     public int account_enable;
 }

@@ -7,10 +7,16 @@ package tessaly.str.diskarray;
  * <p>Layout assumed.
  */
 public class ArrayAllInfo_BaseAdditional {
+    /** Which members are valid, the library's own value. */
     public int valid_index;
+    /** Identifiers of host groups' parameters by controller, 2 elements. */
     public HGParameterID[] hgparamid;
+    /** Parameters of host groups, second form. */
     public HGParameterList2 hgparamlist2;
+    /** Cache partitions. */
     public CachePartition cache_prt;
+    /** Kinds of the ports. */
     public CTLPortKind ctlportkind;
+    /** The ports that LUs are assigned to. */
     public LuMappingPortAssignInfo lumap_lun;
 }

@@ -2,12 +2,14 @@ package tessaly.str.diskarray;
 
 /** The network of a controller. */
 public class AutoMigrationAccessPathNetwork {
+    /** DHCP mode, the library's own value. */
     public int dhcp_mode;
-    /** At most 15 bytes. */
+    /** IP address in dotted form, at most 15 bytes; not null. */
     public String ip_address = "";
-    /** At most 15 bytes. */
+    /** Subnet in dotted form, at most 15 bytes; not null. */
     public String subnet = "";
-    /** At most 15 bytes. */
+    /** Address of the gateway in dotted form, at most 15 bytes; not null. */
     public String gateway = "";
+    /** Speed and duplex of the link, the library's own value. */
     public int linkspeed_duplex;
 }

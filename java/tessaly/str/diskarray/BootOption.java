@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** Boot options. Layout assumed. */
+/** Boot options. No field is known. Layout assumed. */
 public class BootOption {}

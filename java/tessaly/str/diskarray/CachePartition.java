@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** Cache partitions. Layout assumed. */
+/** Cache partitions. No field is known. Layout assumed. */
 public class CachePartition {}

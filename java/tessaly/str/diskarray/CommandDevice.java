@@ -1,18 +1,21 @@
 package tessaly.str.diskarray;
 
-/** The logical units through which hosts give commands. */
+/** The command devices of an array. */
 public class CommandDevice {
+    /** The library's own value. */
     public int mrcf_lite;
+    /** Mode, the library's own value. */
     public int mode;
-    /** 2 elements. */
+    /** 2 elements, no fewer, the library's own values. Null in a new object. */
     public int[] valid;
-    /** 2 elements. */
+    /** 2 elements, no fewer, numbers of logical units. Null in a new object. */
     public int[] lu;
-    /** 2 elements. */
+    /** 2 elements, no fewer, the library's own values. Null in a new object. */
     public int[] security;
-    /** At most 4 bytes. */
+    /** Sequence number, at most 4 bytes; not null. */
     public String sequence_no = "";
+    /** How many elements of <code>cmddev</code> are in use. */
     public int cmd_count;
-    /** At most 128; those behind are left out. */
+    /** 128 elements, used or not. Handed over: at most 128 elements. Null in a new object. */
     public CmdDevInfo[] cmddev;
 }

@@ -2,8 +2,8 @@ package tessaly.str.diskarray;
 
 /** A drive chosen for a new RAID group. */
 public class CreateRgDrive {
-    /** Unit number. */
+    /** Enclosure. */
     public int unit_no;
-    /** Drive number. */
+    /** Slot in the enclosure. */
     public int hdu_no;
 }

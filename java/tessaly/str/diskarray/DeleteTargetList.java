@@ -2,6 +2,9 @@ package tessaly.str.diskarray;
 
 /** Which iSCSI targets of a port to delete. Layout assumed. */
 public class DeleteTargetList {
-    /** 255 elements, one for each target. */
+    /**
+     * At least 255 elements, of which the first 255 count, one for each target of the port: not 0
+     * to delete it. Not null.
+     */
     public int[] target = new int[255];
 }

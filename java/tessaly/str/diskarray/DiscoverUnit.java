@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** A unit that was found. */
+/** A unit that was found. Its codes are the library's own. */
 public class DiscoverUnit {
     /** Kind of connection, 0 to 255. */
     public int connect_type;
@@ -12,9 +12,10 @@ public class DiscoverUnit {
     public int device_type;
     /** Unit configuration code, 0 to 255. */
     public int unit_conf;
-    /** Number of the controller that answered. */
+    /** Number of the controller that answered, 0 to 255. */
     public int ctlno;
-    /** Serial number. */
+    /** Serial number, 10 bytes at most. */
     public String serial;
+    /** Port of the communication with the unit, the library's own number. */
     public int communication_port;
 }

@@ -4,9 +4,14 @@ package tessaly.str.diskarray;
 public class DiskArrayException extends Exception {
     private static final long serialVersionUID = 1L;
 
+    /** As {@link #getCode} returns it. */
     private final int code;
 
-    /** Made by the native library. */
+    /**
+     * Made by the native library.
+     *
+     * @param code the code
+     */
     public DiskArrayException(int code) {
         super("disk array error " + code + words(code));
         this.code = code;
@@ -28,7 +33,10 @@ public class DiskArrayException extends Exception {
 
     /**
      * Returns the code: 258 where a required text was null, 2817 where the result could not be
-     * built, -1 where the time to set was null, any other as the array library returned it.
+     * built, -1 where the time to set was null or the array of units could not be made, any other
+     * as the array library returned it. These three may be the library's own as well.
+     *
+     * @return the code
      */
     public int getCode() {
         return code;

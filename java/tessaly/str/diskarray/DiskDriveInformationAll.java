@@ -2,6 +2,6 @@ package tessaly.str.diskarray;
 
 /** What the drives of an array are, by enclosure. */
 public class DiskDriveInformationAll {
-    /** 60 elements. */
+    /** The enclosures, 60 elements, mounted or not. */
     public DiskDriveUnitInfo[] unit;
 }

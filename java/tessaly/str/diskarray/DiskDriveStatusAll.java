@@ -2,6 +2,6 @@ package tessaly.str.diskarray;
 
 /** The state of the drives of an array, by enclosure. */
 public class DiskDriveStatusAll {
-    /** 60 elements. */
+    /** The enclosures, 60 elements, mounted or not. */
     public DiskDriveStatusUnit[] unit;
 }

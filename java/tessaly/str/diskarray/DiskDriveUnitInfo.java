@@ -2,7 +2,8 @@ package tessaly.str.diskarray;
 
 /** What the drives of an enclosure are. */
 public class DiskDriveUnitInfo {
+    /** Number of drives mounted. */
     public int drive_mount_count;
-    /** 30 elements, mounted or not. */
+    /** The slots, 30 elements, whatever the count says. */
     public DiskDriveInformation[] drives;
 }

@@ -2,6 +2,6 @@ package tessaly.str.diskarray;
 
 /** The enclosure controllers of the controller unit. */
 public class ENCCTUStatus {
-    /** 2 elements. */
+    /** The enclosure controllers, 2 elements. */
     public ENCStatus[] enc;
 }

@@ -1,9 +1,13 @@
 package tessaly.str.diskarray;
 
-/** An enclosure firmware. */
+/** An enclosure firmware. The codes are the library's own. */
 public class ENCMicroInformation {
+    /** Product type code. */
     public int qv_type;
+    /** Device type code. */
     public int device_type;
+    /** Type of the firmware. */
     public int micro_type;
+    /** Its revisions. */
     public ENCMicroRevision read_rev;
 }

@@ -2,18 +2,18 @@ package tessaly.str.diskarray;
 
 /** The mail that an array sends on an alert. */
 public class EmailAlertInfo {
-    /** The mail server, at most 63 bytes. */
+    /** Mail server, at most 63 bytes. */
     public String smtp = "";
-    /** At most 255 bytes. */
+    /** Domain of the array, at most 255 bytes. */
     public String domain = "";
-    /** At most 63 bytes. */
+    /** Sender, at most 63 bytes. */
     public String from_address = "";
-    /** 4 elements of at most 63 bytes. */
+    /** Recipients, at most 4 elements of at most 63 bytes. Null in a new object. */
     public String[] to_address;
-    /** At most 63 bytes. */
+    /** Address for answers, at most 63 bytes. */
     public String reply_address = "";
-    /** At most 63 bytes. */
+    /** Text that the mail has in addition, at most 63 bytes. */
     public String additional_info = "";
-    /** 4 elements. */
+    /** Kinds of mail, the library's own values. 4 elements, no fewer. Null in a new object. */
     public int[] send_type;
 }

@@ -1,16 +1,23 @@
 package tessaly.str.diskarray;
 
-/** The mail settings of this host. */
+/**
+ * The mail settings of this host. The ints are read first, then the texts in the order in which
+ * they stand here.
+ */
 public class EmailInfo {
+    /** Whether mails are sent. */
     public int on_off;
-    /** At most 39 bytes. */
+    /** Domain of the host, at most 39 bytes. */
     public String domain = "";
-    /** The mail server, at most 99 bytes. */
+    /** Mail server, at most 99 bytes. */
     public String smtp = "";
-    /** The sender, at most 99 bytes. */
+    /** Sender, at most 99 bytes. */
     public String from = "";
-    /** The number of recipients. */
+    /** Number of recipients; passes as it is, whatever <code>to</code> holds. */
     public int tonum;
-    /** At most 20 elements of at most 99 bytes; as a result, <code>tonum</code> elements. */
+    /**
+     * Recipients, at most 20 elements of at most 99 bytes. Null in a new object. In a result it has
+     * <code>tonum</code> elements, but no fewer than 0 and no more than 20.
+     */
     public String[] to;
 }

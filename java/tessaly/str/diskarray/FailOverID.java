@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** The identifier of a failover. Layout assumed. */
+/** The identifier of a failover: 84 bytes of which no field is known. Layout assumed. */
 public class FailOverID {}

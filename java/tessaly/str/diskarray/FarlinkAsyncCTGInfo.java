@@ -2,5 +2,6 @@ package tessaly.str.diskarray;
 
 /** A consistency group of asynchronous pairs. */
 public class FarlinkAsyncCTGInfo {
+    /** 2 elements, one for each controller. */
     public FarlinkAsyncCTGCTLInfo[] ctl;
 }

@@ -2,7 +2,10 @@ package tessaly.str.diskarray;
 
 /** The Farlink pairs of an array. */
 public class FarlinkPairInformation {
+    /** Option word, the library's own value. */
     public int option;
+    /** How many elements of <code>lu</code> are in use. */
     public int pair_count;
+    /** 8,192 elements, used or not. */
     public FarlinkLuInfo[] lu;
 }

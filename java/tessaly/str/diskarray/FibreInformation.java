@@ -1,19 +1,32 @@
 package tessaly.str.diskarray;
 
-/** The Fibre Channel ports of a controller. Layout assumed. */
+/**
+ * The Fibre Channel ports of a controller. Layout assumed. No text may be null where it is handed
+ * over.
+ */
 public class FibreInformation {
+    /** LUN security, the library's own value. */
     public int lun_security;
+    /** Which ports are there, the library's own value. */
     public int port_valid;
-    /** 8 elements, one for each port. */
+    /**
+     * Topology of each port, the library's own value: always 8 elements. Hand over at least as
+     * many.
+     */
     public int[] topology;
-    /** 8 elements, one for each port. */
+    /**
+     * Reference topology of each port, the library's own value: always 8 elements. Hand over at
+     * least as many.
+     */
     public int[] topology_ref;
-    /** 8 elements. */
+    /** Always 8 elements, one for each port. Hand over as many, none of them null. */
     public FibreInformationPort[] port;
-    /** 8 elements, one for each port. */
+    /** Always 8 elements, the adapter of each port. Hand over as many, none of them null. */
     public FibreInformationSfc[] sfc;
-    /** 8 elements, one for each port. */
+    /**
+     * Always 8 elements, the permitted hosts of each port. Hand over as many, none of them null.
+     */
     public FibreInformationSecurity[] security;
-    /** At most 7 bytes. */
+    /** Product number, at most 7 bytes. */
     public String product_number = "";
 }

@@ -1,21 +1,27 @@
 package tessaly.str.diskarray;
 
-/** A Fibre Channel port. Layout assumed. */
+/** A Fibre Channel port. Layout assumed. No text may be null where it is handed over. */
 public class FibreInformationPort {
-    /** At most 16 bytes. */
+    /** Node name, at most 16 bytes. */
     public String node_name = "";
-    /** At most 16 bytes. */
+    /** Port name, at most 16 bytes. */
     public String port_name = "";
-    /** At most 6 bytes. */
+    /** N-port ID, at most 6 bytes. */
     public String n_port_id = "";
-    /** At most 6 bytes. */
+    /** Address that the port has got, at most 6 bytes. */
     public String get_address = "";
+    /** Frame size, in the library's own unit. */
     public int frame_size;
+    /** Interface board, the library's own value. */
     public int if_board;
+    /** Speeds that the port supports, the library's own value. */
     public int support_speed;
+    /** Speed that is set, the library's own value. */
     public int set_speed;
+    /** Reference speed, the library's own value. */
     public int refer_speed;
+    /** Which connectors are valid, the library's own value. */
     public int connect_valid;
-    /** 2 elements. */
+    /** Always 2 elements, one for each connector. Hand over as many, none of them null. */
     public FibreInformationConnector[] connector;
 }

@@ -2,9 +2,14 @@ package tessaly.str.diskarray;
 
 /** How far an LU that was entered for formatting is. */
 public class FormatStatus {
+    /** Whether the LU is entered for formatting, the library's own value. */
     public int entry;
+    /** Status of the formatting, the library's own value. */
     public int status;
+    /** How much is done, in percent. */
     public int percent;
+    /** Sense key of an error, the library's own value. */
     public int err_code_sense_key;
+    /** Sense code of an error, the library's own value. */
     public int err_code_sense_code;
 }

@@ -2,6 +2,6 @@ package tessaly.str.diskarray;
 
 /** The host groups of a controller. */
 public class HGCtlInfo {
-    /** Always 8 elements. */
+    /** Always 8 elements, one for each port. */
     public HGPortInfo[] port;
 }

@@ -2,9 +2,12 @@ package tessaly.str.diskarray;
 
 /** The options of all host groups. Layout assumed. */
 public class HGOption {
+    /** Options that the array supports; not null where it is handed over. */
     public HGOptionValidIndex support_index;
+    /** Options that are valid; not null where it is handed over. */
     public HGOptionValidIndex valid_index;
+    /** Whether host groups are valid, the library's own value. */
     public int HostGroupValid;
-    /** 2 elements. */
+    /** Always 2 elements, one for each controller. Hand over as many, none of them null. */
     public HGOptionCtlInfo[] ctl;
 }

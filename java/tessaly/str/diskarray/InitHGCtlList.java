@@ -4,7 +4,7 @@ import java.util.Arrays;
 
 /** The host groups of a controller to set back. Layout assumed. */
 public class InitHGCtlList {
-    /** 8 elements. */
+    /** 8 elements, one for each port; neither null nor with a null. */
     public InitHGPortList[] port = new InitHGPortList[8];
 
     {

@@ -4,7 +4,7 @@ import java.util.Arrays;
 
 /** The host groups to set back. Layout assumed. */
 public class InitHGList {
-    /** 2 elements. */
+    /** 2 elements, one for each controller; neither null nor with a null. */
     public InitHGCtlList[] ctl = new InitHGCtlList[2];
 
     {

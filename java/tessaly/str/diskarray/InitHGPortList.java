@@ -2,6 +2,9 @@ package tessaly.str.diskarray;
 
 /** The host groups of a port to set back. Layout assumed. */
 public class InitHGPortList {
-    /** 64 bytes. */
+    /**
+     * At least 64 bytes, of which the first 64 count; how they name the groups is the library's
+     * own. Not null.
+     */
     public byte[] hg = new byte[64];
 }

@@ -2,11 +2,16 @@ package tessaly.str.diskarray;
 
 /** LUs to integrate or to separate. */
 public class IntegrationRequest {
+    /** What to do, the library's own value. */
     public int operation;
+    /** LU that the others are integrated into. */
     public int parent_lun;
+    /** LU number of a child, as the operation wants it. */
     public int child_lun;
-    /** How many elements of <code>child_lu</code> are used. */
+    /** How many elements of <code>child_lu</code> are used; not compared with its length. */
     public int child_count;
-    /** LU numbers; at least 127 elements, of which the first 127 count. */
+    /**
+     * LU numbers of the children; at least 127 elements, of which the first 127 count. Not null.
+     */
     public int[] child_lu = new int[127];
 }

@@ -1,20 +1,23 @@
 package tessaly.str.diskarray;
 
-/** The LAN address of a controller. */
+/** The LAN address of a controller. No text may be null where it is handed over. */
 public class LANInformation {
-    /** 0 to 255. */
+    /** Whether the address is by DHCP, 0 to 255, the library's own value. */
     public int dhcp;
-    /** At most 15 bytes. */
+    /** IP address, at most 15 bytes. */
     public String ip_address = "";
-    /** At most 15 bytes. */
+    /** Subnet mask, at most 15 bytes. */
     public String subnet = "";
-    /** At most 15 bytes. */
+    /** Gateway, at most 15 bytes. */
     public String gateway = "";
-    /** At most 17 bytes. */
+    /** Ethernet address, at most 17 bytes. */
     public String ether = "";
-    /** 0 to 255. */
+    /** Whether the LAN is connected, 0 to 255, the library's own value. */
     public int lan_connect;
+    /** How the maintenance address changes, the library's own value. */
     public int mainte_ip_change_mode;
+    /** How it is to change from now on, the library's own value. */
     public int mainte_ip_change_mode_new;
+    /** Negotiation of the link, the library's own value. */
     public int negotiation;
 }

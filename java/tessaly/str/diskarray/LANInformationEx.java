@@ -2,6 +2,6 @@ package tessaly.str.diskarray;
 
 /** The LAN addresses and links of both controllers. */
 public class LANInformationEx {
-    /** 2 elements. */
+    /** Always 2 elements, one for each controller. Hand over as many, none of them null. */
     public LanDetail[] ctl;
 }

@@ -2,8 +2,10 @@ package tessaly.str.diskarray;
 
 /** The management port numbers of an array. Layout assumed. */
 public class LANPortNumber {
-    /** 2 elements. */
+    /** Always 2 elements, one for each controller. Hand over as many, none of them null. */
     public LANPortNumberCtl[] ctl;
+    /** Logout instruction, the library's own value. */
     public int logout_instruction;
+    /** Mode, the library's own value. */
     public int mode;
 }

@@ -1,18 +1,19 @@
 package tessaly.str.diskarray;
 
-/** The LAN address and link of a controller. */
+/** The LAN address and link of a controller. No text may be null where it is handed over. */
 public class LanDetail {
+    /** Whether the address is by DHCP, the library's own value. */
     public int dhcp;
-    /** At most 15 bytes. */
+    /** IP address, at most 15 bytes. */
     public String ip_address = "";
-    /** At most 15 bytes. */
+    /** Subnet mask, at most 15 bytes. */
     public String subnet = "";
-    /** At most 15 bytes. */
+    /** Gateway, at most 15 bytes. */
     public String gateway = "";
-    /** At most 17 bytes. */
+    /** Ethernet address, at most 17 bytes. */
     public String ether = "";
-    /** 0 to 255. */
+    /** Duplex type of the link, 0 to 255, the library's own value. */
     public int duplex_type;
-    /** 0 to 255. */
+    /** Speed of the link, 0 to 255, the library's own value. */
     public int link_speed;
 }

@@ -6,47 +6,51 @@ public class LogicalUnit {
     public int luNumber;
     /** RAID group that holds the LU. */
     public int rgNumber;
-    /** RAID level of that group. */
+    /** RAID level of that group, the library's own value. */
     public int raid_level;
-    /** Staging setting. */
+    /** Staging setting, the library's own value. */
     public int staging;
+    /** Capacity in one word, in the library's own unit; the two words have all of it. */
     public int capacity;
-    /** Capacity, high word. */
+    /** Capacity in blocks of 512 bytes, high word. */
     public int capacity_h;
     /** Capacity, low word. */
     public int capacity_l;
-    /** LU that precedes this one in the RAID group. */
+    /**
+     * LU that precedes this one in the RAID group; what it is for the first one is the library's
+     * own.
+     */
     public int befor_lun;
-    /** Cache partition. */
+    /** Cache partition number. */
     public int cachepart_no;
-    /** Whether <code>pair_cachepart_no</code> is valid. */
+    /** Not 0 where <code>pair_cachepart_no</code> is valid. */
     public int pair_cachepart_valid;
     /** Cache partition when paired. */
     public int pair_cachepart_no;
     /** Cache partition now in use. */
     public int current_cachepart_no;
-    /** Stripe size. */
+    /** Stripe size, in the library's own unit. */
     public int stripe;
-    /** Use of the LU. */
+    /** Use of the LU, the library's own value. */
     public int lu_use_type;
-    /** Controller that owns the LU by default. */
+    /** Controller that owns the LU by default, the library's own number. */
     public int defaultCTL;
-    /** Controller that owns it now. */
+    /** Controller that owns it now, the library's own number. */
     public int currentCTL;
-    /** LU status. */
+    /** LU status, the library's own value. */
     public int status;
-    /** Host block size. */
+    /** Host block size, in the library's own unit. */
     public int hostblock;
-    /** Whether the entry is in use. */
+    /** Not 0 where the entry is in use. */
     public int lu_valid;
-    /** Quick-format status. */
+    /** Quick-format status, the library's own value. */
     public int qf_status;
-    /** Parity-correction status. */
+    /** Parity-correction status, the library's own value. */
     public int correction_status;
-    /** Whether this is the last LU of its RAID group. */
+    /** Whether this is the last LU of its RAID group: not 0. */
     public int rg_last_lu;
-    /** Array model type. */
+    /** Array model type, the library's own value. */
     public int unit_type;
-    /** Array model sub-code. */
+    /** Array model sub-code, the library's own value. */
     public int unit_type_sub_code;
 }

@@ -2,6 +2,6 @@ package tessaly.str.diskarray;
 
 /** The mapping of a controller's ports. */
 public class LuMappingCtlInfo {
-    /** 8 elements. */
+    /** Always 8 elements, one for each port. Hand over as many, none of them null. */
     public LuMappingPortInfo[] port;
 }

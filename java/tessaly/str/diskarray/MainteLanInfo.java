@@ -2,8 +2,8 @@ package tessaly.str.diskarray;
 
 /** The maintenance LAN of an array. Layout assumed. */
 public class MainteLanInfo {
-    /** 2 elements, the controllers. */
+    /** Always 2 elements, one for each controller. */
     public MainteLanInfoDetail[] ctl;
-    /** 4 elements, the network controllers. */
+    /** Always 4 elements, one for each network controller. */
     public MainteLanInfoDetail[] nnc;
 }

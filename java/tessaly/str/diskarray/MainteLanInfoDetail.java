@@ -2,13 +2,20 @@ package tessaly.str.diskarray;
 
 /** The maintenance LAN of a controller. */
 public class MainteLanInfoDetail {
+    /** Not 0 where the entry is in use. */
     public int valid_index;
-    /** At most 39 bytes, like all addresses here. */
+    /** IP address, at most 39 bytes. */
     public String ip_address;
+    /** Subnet mask, at most 39 bytes. */
     public String subnet;
+    /** IPv4 gateway, at most 39 bytes. */
     public String gateway_ipv4;
+    /** IPv6 address, at most 39 bytes. */
     public String ip_address_ipv6;
+    /** Length of the IPv6 subnet prefix. */
     public int subnet_prefix;
+    /** IPv6 gateway, at most 39 bytes. */
     public String gateway_ipv6;
+    /** Status of the connection, the library's own value. */
     public int connect_status;
 }

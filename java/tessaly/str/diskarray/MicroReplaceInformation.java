@@ -1,8 +1,11 @@
 package tessaly.str.diskarray;
 
-/** How far a replacement of the firmware came. */
+/** How far a replacement of the firmware came. The values are the library's own. */
 public class MicroReplaceInformation {
+    /** Whether the others are valid. */
     public int valid;
+    /** By its name, whether a wait may be cancelled. */
     public int WaitCancelreq;
+    /** By its name, the controller that is replaced. */
     public int ReplaceCTL;
 }

@@ -2,9 +2,10 @@ package tessaly.str.diskarray;
 
 /** The identifier of a middleware. Layout assumed. */
 public class MiddlewareID {
+    /** Middleware, the library's own value. */
     public int middleware_id;
-    /** At most 39 bytes. */
+    /** Name, at most 39 bytes. */
     public String middleware_name;
-    /** At most 39 bytes. */
+    /** Name as a text, at most 39 bytes. */
     public String middleware_name_str;
 }

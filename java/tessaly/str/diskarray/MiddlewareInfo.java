@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** A middleware of hosts. Layout assumed. */
+/** A middleware of hosts: 40 bytes of which no field is known. Layout assumed. */
 public class MiddlewareInfo {}

@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** States of the NAS operating system. Layout assumed. */
+/** States of the NAS operating system. No field is known. Layout assumed. */
 public class NASOSStatusList {}

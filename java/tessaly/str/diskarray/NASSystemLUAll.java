@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** System LUs of the NAS. Layout assumed. */
+/** System LUs of the NAS. No field is known. Layout assumed. */
 public class NASSystemLUAll {}

@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** User LUs of the NAS. Layout assumed. */
+/** User LUs of the NAS. No field is known. Layout assumed. */
 public class NASUserLUAll {}

@@ -2,5 +2,6 @@ package tessaly.str.diskarray;
 
 /** The revision of a NAS node's BIOS. */
 public class NNCBiosRevision {
+    /** Revision, at most 8 bytes. */
     public String nncbiosrevision;
 }

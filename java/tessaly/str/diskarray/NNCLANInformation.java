@@ -2,11 +2,21 @@ package tessaly.str.diskarray;
 
 /** The LAN of the network controllers. Layout assumed. */
 public class NNCLANInformation {
-    /** 4 elements, -128 to 127. */
+    /**
+     * Whether each network controller is there, -128 to 127, the library's own value: always 4
+     * elements. Hand over as many.
+     */
     public int[] nnclaninfo_valid;
+    /** Whether the LAN is to be set, the library's own value. */
     public int set_valid;
-    /** 4 elements. */
+    /**
+     * The LAN as it is: always 4 elements, one for each network controller. Hand over as many, none
+     * of them null.
+     */
     public NNCLANInformationDetail[] nnclaninfo;
-    /** 4 elements. */
+    /**
+     * The LAN to set: always 4 elements, one for each network controller. Hand over as many, none
+     * of them null.
+     */
     public NNCLANInformationDetail[] set_nnclaninfo;
 }

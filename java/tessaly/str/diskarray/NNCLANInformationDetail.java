@@ -1,13 +1,17 @@
 package tessaly.str.diskarray;
 
-/** The LAN address of a network controller. */
+/** The LAN address of a network controller. No text may be null where it is handed over. */
 public class NNCLANInformationDetail {
+    /** Not 0 where the entry is in use. */
     public int valid_index;
-    /** At most 39 bytes. */
+    /** IP address, at most 39 bytes. */
     public String ip_address = "";
-    /** At most 39 bytes. */
+    /** Subnet mask, at most 39 bytes. */
     public String subnet = "";
+    /** Maximum transmission unit, the library's own value. */
     public int mtu;
+    /** Negotiation of the link, the library's own value. */
     public int negotiation;
+    /** Status of the setting, the library's own value. */
     public int set_status;
 }

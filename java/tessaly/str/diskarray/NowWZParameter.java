@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** Online options. Layout assumed. */
+/** Online options. No field is known. Layout assumed. */
 public class NowWZParameter {}

@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** System parameters. Layout assumed. */
+/** System parameters. No field is known. Layout assumed. */
 public class OnlineSystemParam {}

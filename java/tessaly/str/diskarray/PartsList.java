@@ -1,19 +1,23 @@
 package tessaly.str.diskarray;
 
-/** The parts of an array. */
+/** The parts of an array. The arrays have an element for every place, with a part or without. */
 public class PartsList {
+    /** Which fields the array supports, the library's own bits. */
     public int support_index;
+    /** Which fields are valid, the library's own bits. */
     public int valid_index;
+    /** Serial number of the array. */
     public String array_serial;
+    /** The library's own identifier of the array. */
     public String array_id;
-    /** 60 rows of 30. */
+    /** The drives by enclosure and slot, 60 rows of 30. */
     public VendorInfo[][] drive;
-    /** 2 x 8 x 2. */
+    /** The connectors, 2 x 8 x 2. */
     public VendorInfo[][][] connector;
-    /** 2 elements. */
+    /** The controllers, 2 elements. */
     public VendorInfo[] controller;
-    /** 61 elements. */
+    /** The enclosures, 61 elements. */
     public VendorInfo[] unit;
-    /** 61 rows of 2. */
+    /** The enclosure controllers by enclosure, 61 rows of 2. */
     public VendorInfo[][] enc;
 }

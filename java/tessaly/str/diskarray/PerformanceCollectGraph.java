@@ -1,25 +1,39 @@
 package tessaly.str.diskarray;
 
-/** Counter differences, computed for a graph. Layout assumed. */
+/**
+ * Counter differences, computed for a graph. Layout assumed.
+ *
+ * <p>As an argument hand over what {@link DiskArrayUtilityJNI#QV_PerformanceOutputGraphInfo}
+ * returned. A member that is null ends the reading: it and the members behind it reach the library
+ * as they lay in memory.
+ */
 public class PerformanceCollectGraph {
+    /** When the interval began and ended, 2 elements. */
     public QVTime[] mtime;
+    /** The ports, 8 elements. */
     public PerformanceCollectGraphPort[] port;
+    /** The LUs, 8192 elements. */
     public PerformanceCollectGraphLU[] lu;
+    /** The cache. */
     public PerformanceCollectGraphCache cache;
+    /** The paths to the drives, 8 elements. */
     public PerformanceCollectGraphBackend[] backend;
-
-    /** 60 rows of 30. */
+    /** The drives by enclosure and slot, 60 rows of 30. */
     public PerformanceCollectGraphDrive[][] drive;
-
+    /** The processor. */
     public PerformanceCollectGraphProcessor processor;
-
-    /** 60 rows of 30. */
+    /** The drives' operation by enclosure and slot, 60 rows of 30. */
     public PerformanceCollectGraphDriveOpr[][] driveopr;
-
+    /** The RAID groups, 200 elements. */
     public PerformanceCollectGraphRG[] rg;
+    /** The cache, further values. */
     public PerformanceCollectGraphCache2 cache2;
+    /** The LUs, further values, 8192 elements. */
     public PerformanceCollectGraphLUEx[] luex;
+    /** The cache partitions, 64 elements. */
     public PerformanceCollectGraphCachePartition[] cachepartition;
+    /** The paths to virtual units, 8 elements. */
     public PerformanceCollectGraphVUPort[] vu_port;
+    /** The LUs of virtual units, 8192 elements. */
     public PerformanceCollectGraphVULU[] vu_lu;
 }

@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** The graph of the cache. Layout assumed. */
+/** The graph of the cache. No field is known. Layout assumed. */
 public class PerformanceCollectGraphCache {}

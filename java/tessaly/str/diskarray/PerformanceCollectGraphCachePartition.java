@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** The graph of a cache partition. Layout assumed. */
+/** The graph of a cache partition. No field is known. Layout assumed. */
 public class PerformanceCollectGraphCachePartition {}

@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** The graph of a drive. Layout assumed. */
+/** The graph of a drive. No field is known. Layout assumed. */
 public class PerformanceCollectGraphDrive {}

@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** The graph of a drive's operation. Layout assumed. */
+/** The graph of a drive's operation. No field is known. Layout assumed. */
 public class PerformanceCollectGraphDriveOpr {}

@@ -1,6 +1,7 @@
 package tessaly.str.diskarray;
 
-/** A graph. */
+/** A graph, as a collection takes it. */
 public class PerformanceCollectGraphInfo {
+    /** The differences. As an argument null reaches the library as it lay in memory. */
     public PerformanceCollectGraph graphinfo;
 }

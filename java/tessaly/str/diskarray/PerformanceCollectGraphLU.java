@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** The graph of an LU. Layout assumed. */
+/** The graph of an LU. No field is known. Layout assumed. */
 public class PerformanceCollectGraphLU {}

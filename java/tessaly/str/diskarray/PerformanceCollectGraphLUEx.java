@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** The graph of an LU, further values. Layout assumed. */
+/** The graph of an LU, further values. No field is known. Layout assumed. */
 public class PerformanceCollectGraphLUEx {}

@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** The graph of a port. Layout assumed. */
+/** The graph of a port. No field is known. Layout assumed. */
 public class PerformanceCollectGraphPort {}

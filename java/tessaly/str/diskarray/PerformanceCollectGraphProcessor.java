@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** The graph of the processor. Layout assumed. */
+/** The graph of the processor. No field is known. Layout assumed. */
 public class PerformanceCollectGraphProcessor {}

@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** The graph of a RAID group. Layout assumed. */
+/** The graph of a RAID group. No field is known. Layout assumed. */
 public class PerformanceCollectGraphRG {}

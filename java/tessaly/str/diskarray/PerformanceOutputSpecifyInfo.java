@@ -1,22 +1,28 @@
 package tessaly.str.diskarray;
 
-/** What an output of all counters writes of one controller. Layout assumed. */
+/**
+ * What an output of all counters writes of one controller. What a byte or an int selects is the
+ * library's own.
+ *
+ * <p>A selection that is null ends the reading: it and those behind it reach the library as they
+ * lay in memory. One that is shorter than that of a new object throws
+ * ArrayIndexOutOfBoundsException, and the library is called nevertheless.
+ *
+ * <p>Layout assumed.
+ */
 public class PerformanceOutputSpecifyInfo {
-    /** 8 bytes. */
+    /** Selects ports: 8 bytes. */
     public byte[] port = new byte[8];
-
-    /** 8 bytes. */
+    /** Selects paths to the drives: 8 bytes. */
     public byte[] backend = new byte[8];
-
-    /** 8192 bytes. */
+    /** Selects LUs: 8192 bytes, the index is the LU's number. */
     public byte[] lu = new byte[8192];
-
+    /** Selects the cache. */
     public int cache;
+    /** Selects the processor. */
     public int processor;
-
-    /** 60 rows of 30 bytes. */
+    /** Selects drives by enclosure and slot: 60 rows of 30 bytes. */
     public byte[][] drive = new byte[60][30];
-
-    /** 60 rows of 30 bytes. */
+    /** Selects the operating rates of drives: 60 rows of 30 bytes. */
     public byte[][] drive_opr_rate = new byte[60][30];
 }

@@ -1,8 +1,11 @@
 package tessaly.str.diskarray;
 
-/** The capacity of a pool, as two halves. */
+/** The capacity of a pool, an unsigned number of two words. */
 public class PoolDetailCapa {
+    /** Number of the pool. */
     public int pool_no;
+    /** Capacity in blocks of 512 bytes, high word. */
     public int poolcapa_h;
+    /** Capacity in blocks of 512 bytes, low word. */
     public int poolcapa_l;
 }

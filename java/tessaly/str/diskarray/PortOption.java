@@ -2,8 +2,10 @@ package tessaly.str.diskarray;
 
 /** The options of all ports. Layout assumed. */
 public class PortOption {
+    /** Options that the array supports; not null where it is handed over. */
     public PortOptionValidIndex support_index;
+    /** Options that are valid; not null where it is handed over. */
     public PortOptionValidIndex valid_index;
-    /** 2 elements. */
+    /** Always 2 elements, one for each controller. Hand over as many, none of them null. */
     public PortOptionCtlInfo[] ctl;
 }

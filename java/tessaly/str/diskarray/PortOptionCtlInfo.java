@@ -2,8 +2,14 @@ package tessaly.str.diskarray;
 
 /** The options of a controller's ports. Layout assumed. */
 public class PortOptionCtlInfo {
-    /** 8 elements. */
+    /**
+     * LIP mode of each port, the library's own value: always 8 elements. Hand over at least as
+     * many.
+     */
     public int[] lip_mode;
-    /** 8 elements. */
+    /**
+     * Common option of each port, the library's own value: always 8 elements. Hand over at least as
+     * many.
+     */
     public int[] port_common_opt;
 }

@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** Which port options there are. Layout assumed. */
+/** Which port options there are: 8 bytes of which no field is known. Layout assumed. */
 public class PortOptionValidIndex {}

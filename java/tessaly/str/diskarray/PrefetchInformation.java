@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** Prefetching. Layout assumed. */
+/** Prefetching. No field is known. Layout assumed. */
 public class PrefetchInformation {}

@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** Tuning of prefetching. Layout assumed. */
+/** Tuning of prefetching. No field is known. Layout assumed. */
 public class PrefetchTuning {}

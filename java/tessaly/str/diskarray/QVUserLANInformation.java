@@ -2,11 +2,16 @@ package tessaly.str.diskarray;
 
 /** The user LAN of an array. Layout assumed. */
 public class QVUserLANInformation {
-    /** 2 elements. */
+    /** Always 2 elements, one for each controller. Hand over as many, none of them null. */
     public QVUserLANDetail[] ctl;
+    /** How the maintenance address changes, the library's own value. */
     public int mainte_ip_change_mode;
+    /** Mode of the last setting, the library's own value. */
     public int last_set_mode;
+    /** Logout instruction, the library's own value. */
     public int logout_instruction;
+    /** Whether IPv6 is used, the library's own value. */
     public int ipv6_used;
+    /** IP version to set, the library's own value. */
     public int set_ipversion;
 }

@@ -2,6 +2,6 @@ package tessaly.str.diskarray;
 
 /** The CHAP users of one controller. Layout assumed. */
 public class QViSCSICHAPUserCTLInfo {
-    /** 8 elements. */
+    /** Always 8 elements, one for each port. */
     public QViSCSICHAPUserPortInfo[] port;
 }

@@ -2,6 +2,6 @@ package tessaly.str.diskarray;
 
 /** The registered iSCSI initiators of one controller. Layout assumed. */
 public class QViSCSIInitiatorCTLInfo {
-    /** 8 elements. */
+    /** Always 8 elements, one for each port. */
     public QViSCSIInitiatorPortInfo[] port;
 }

@@ -2,6 +2,6 @@ package tessaly.str.diskarray;
 
 /** The iSCSI initiators that are logged in to an array. Layout assumed. */
 public class QViSCSILoginInitiatorInformationAll {
-    /** 2 elements. */
+    /** Always 2 elements, one for each controller. */
     public QViSCSILoginInitiatorCTLInfo[] ctl;
 }

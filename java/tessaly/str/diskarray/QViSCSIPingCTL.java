@@ -2,6 +2,6 @@ package tessaly.str.diskarray;
 
 /** The pings from the ports of one controller. Layout assumed. */
 public class QViSCSIPingCTL {
-    /** 8 elements. */
+    /** Always 8 elements, one for each port. Hand over as many, none of them null. */
     public QViSCSIPingPort[] port;
 }

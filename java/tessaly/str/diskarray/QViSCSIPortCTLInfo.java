@@ -2,6 +2,6 @@ package tessaly.str.diskarray;
 
 /** The iSCSI ports of one controller. */
 public class QViSCSIPortCTLInfo {
-    /** 8 elements. */
+    /** Always 8 elements, one for each port. Hand over as many, none of them null. */
     public QViSCSIPortPortInfo[] port;
 }

@@ -2,6 +2,6 @@ package tessaly.str.diskarray;
 
 /** The iSCSI ports of an array. Layout assumed. */
 public class QViSCSIPortInformation {
-    /** 2 elements. */
+    /** Always 2 elements, one for each controller. Hand over as many, none of them null. */
     public QViSCSIPortCTLInfo[] ctl;
 }

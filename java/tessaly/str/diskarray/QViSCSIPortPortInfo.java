@@ -1,20 +1,27 @@
 package tessaly.str.diskarray;
 
-/** The addresses of one iSCSI port. */
+/** The addresses of one iSCSI port. No text may be null where it is handed over. */
 public class QViSCSIPortPortInfo {
+    /** Not 0 where the port is an iSCSI port that is there. */
     public int port_valid;
+    /** Whether the port is to be set, the library's own value. */
     public int set_valid;
-    /** At most 39 bytes. */
+    /** IP address, at most 39 bytes. */
     public String ip_address = "";
-    /** At most 39 bytes. */
+    /** Subnet mask, at most 39 bytes. */
     public String subnet = "";
-    /** At most 39 bytes. */
+    /** Gateway, at most 39 bytes. */
     public String gateway = "";
+    /** TCP port number. */
     public int port_num;
-    /** At most 19 bytes. */
+    /** Ethernet address, at most 19 bytes. */
     public String ether = "";
+    /** Keep-alive timer, in the library's own unit. */
     public int keep_alive_timer;
+    /** Maximum transmission unit, the library's own value. */
     public int mtu;
+    /** Status of the setting, the library's own value. */
     public int set_status;
+    /** Number of hosts at the port. */
     public int host_count;
 }

@@ -2,6 +2,6 @@ package tessaly.str.diskarray;
 
 /** The iSCSI targets of one controller. */
 public class QViSCSITargetCTLInfo {
-    /** 8 elements. */
+    /** Always 8 elements, one for each port. */
     public QViSCSITargetPortInfo[] port;
 }

@@ -2,6 +2,6 @@ package tessaly.str.diskarray;
 
 /** The iSNS servers of one controller. Layout assumed. */
 public class QViSNSCTLInfo {
-    /** 8 elements. */
+    /** Always 8 elements, one for each port. Hand over as many, none of them null. */
     public QViSNSPortInfo[] port;
 }

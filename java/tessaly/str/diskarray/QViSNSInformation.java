@@ -2,6 +2,6 @@ package tessaly.str.diskarray;
 
 /** The iSNS servers of an array. Layout assumed. */
 public class QViSNSInformation {
-    /** 2 elements. */
+    /** Always 2 elements, one for each controller. Hand over as many, none of them null. */
     public QViSNSCTLInfo[] ctl;
 }

@@ -1,8 +1,9 @@
 package tessaly.str.diskarray;
 
-/** An array at the other end of remote pairs. */
+/** A remote array that this one knows. */
 public class RemoteDeviceInfo {
+    /** Whether the entry is set, the library's own value. */
     public int set_valid;
-    /** At most 8 bytes. */
+    /** Serial number of the array, at most 8 bytes; not null. */
     public String serial = "";
 }

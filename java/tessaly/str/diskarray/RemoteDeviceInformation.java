@@ -1,10 +1,11 @@
 package tessaly.str.diskarray;
 
-/** The array at the other end of remote pairs. */
+/** The remote array that this one knows. */
 public class RemoteDeviceInformation {
+    /** Whether an array is given, the library's own value. */
     public int valid;
-    /** At most 4 bytes. */
+    /** Equipment identifier of the array, at most 4 bytes; not null. */
     public String equipment_id = "";
-    /** At most 8 bytes. */
+    /** Serial number of the array, at most 8 bytes; not null. */
     public String serial = "";
 }

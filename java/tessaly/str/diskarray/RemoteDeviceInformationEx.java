@@ -1,7 +1,10 @@
 package tessaly.str.diskarray;
 
-/** The arrays at the other ends of remote pairs. */
+/** The remote arrays that this one knows. */
 public class RemoteDeviceInformationEx {
-    /** At most 8; those behind are left out. */
+    /**
+     * 8 elements, used or not: <code>set_valid</code> tells. Handed over: at most 8 elements. Null
+     * in a new object.
+     */
     public RemoteDeviceInfo[] dev;
 }

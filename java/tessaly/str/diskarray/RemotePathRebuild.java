@@ -2,7 +2,8 @@ package tessaly.str.diskarray;
 
 /** A remote path to set up anew. */
 public class RemotePathRebuild {
-    /** At most 16 bytes. */
+    /** Serial number of the other array, at most 16 bytes; not null. */
     public String remote_serial = "";
+    /** Which path, the library's own value. */
     public int path;
 }

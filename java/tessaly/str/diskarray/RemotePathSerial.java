@@ -2,6 +2,6 @@ package tessaly.str.diskarray;
 
 /** An array, by its serial number. */
 public class RemotePathSerial {
-    /** At most 16 bytes. */
+    /** Serial number of the other array, at most 16 bytes; not null. */
     public String remote_serial = "";
 }

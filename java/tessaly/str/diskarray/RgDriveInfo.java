@@ -2,11 +2,12 @@ package tessaly.str.diskarray;
 
 /** A drive of a RAID group, and where the group's next drive is. */
 public class RgDriveInfo {
-    /** Whether the entry is in use. */
+    /** Not 0 where the entry is in use. */
     public int valid_index;
-    /** Unit number of the next drive. */
+    /** Enclosure of the next drive; what it is behind the last one is the library's own. */
     public int next_unit_no;
-    /** Number of the next drive. */
+    /** Slot of the next drive; what it is behind the last one is the library's own. */
     public int next_hdu_no;
+    /** Number of the parity group that the drive belongs to. */
     public int paritygroup_no;
 }

@@ -2,7 +2,8 @@ package tessaly.str.diskarray;
 
 /** A Farlink or Longlink pair to dissolve. */
 public class SimpleRemotePair extends PairOperation {
-    /** At most 8 bytes. */
+    /** Serial number of the other array, at most 8 bytes; not null. */
     public String remote_serial = "";
+    /** Range of the operation, the library's own value. */
     public int simple_range;
 }

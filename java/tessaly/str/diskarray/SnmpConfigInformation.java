@@ -2,9 +2,10 @@ package tessaly.str.diskarray;
 
 /** The configuration of an array's SNMP agent. */
 public class SnmpConfigInformation {
+    /** What of the configuration is valid, the library's own. */
     public int set_valid;
-    /** The text, at most 4095 bytes. */
+    /** Text of the configuration, at most 4,095 bytes. */
     public String conf = "";
-    /** At most 254 bytes. */
+    /** Name of the configuration, at most 254 bytes. */
     public String name = "";
 }

@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** The identifier of a special mode. Layout assumed. */
+/** The identifier of a special mode: 84 bytes of which no field is known. Layout assumed. */
 public class SpecialModeID {}

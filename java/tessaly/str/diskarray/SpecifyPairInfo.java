@@ -2,12 +2,12 @@ package tessaly.str.diskarray;
 
 /** The pair that an operation names. */
 public class SpecifyPairInfo {
-    /** Whether a pair is given. */
+    /** Whether a pair is given; 0 is no. */
     public int pair_set_flag;
-    /** At most 31 bytes. */
+    /** Name of the pair, at most 31 bytes; not null. */
     public String pair_name = "";
-    /** The primary logical unit. */
+    /** Number of the primary logical unit. */
     public int pvol_lun;
-    /** The secondary logical unit. */
+    /** Number of the secondary logical unit. */
     public int pair_lun;
 }

@@ -2,11 +2,14 @@ package tessaly.str.diskarray;
 
 /** Power saving by RAID group and by logical unit. */
 public class SpinDownUpInformation {
+    /** The library's own value. */
     public int option;
+    /** Number of RAID groups listed. */
     public int rg_count;
-    /** 200 elements. */
+    /** The RAID groups, 200 elements, whatever the count says. */
     public SpinDownUpRGInfo[] rg;
+    /** Number of logical units listed. */
     public int lu_count;
-    /** 8192 elements. */
+    /** The logical units, 8192 elements, whatever the count says. */
     public SpinDownUpLuInfo[] lu;
 }

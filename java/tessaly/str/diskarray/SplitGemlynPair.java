@@ -2,7 +2,8 @@ package tessaly.str.diskarray;
 
 /** A Gemlyn pair to split. */
 public class SplitGemlynPair extends PairOperation {
+    /** Forced split, the library's own value. */
     public int forced_split;
-    /** At most 31 bytes. */
+    /** Message to keep with the pair, at most 31 bytes; not null. */
     public String add_message = "";
 }

@@ -2,6 +2,6 @@ package tessaly.str.diskarray;
 
 /** A SnapShot pair to split. */
 public class SplitSnapShotPair extends PairOperation {
-    /** At most 31 bytes. */
+    /** Message to keep with the pair, at most 31 bytes; not null. */
     public String add_message = "";
 }

@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** Counters of a cache partition. Layout assumed. */
+/** Counters of a cache partition. No field is known. Layout assumed. */
 public class StatisticalCachePartition {}

@@ -1,9 +1,16 @@
 package tessaly.str.diskarray;
 
-/** Command counts of all LUs of one controller at one time. */
+/**
+ * Command counts of the first LUs of one controller at one time. They go on from snapshot to
+ * snapshot: what happened between two is their difference.
+ */
 public class StatisticalCommand {
-    /** 4096 elements as a result; as an argument any number, of which 4096 are taken. */
+    /**
+     * 4096 elements as a result: the index is the LU's number. As an argument any number, of which
+     * 4096 are taken; an LU without an element reaches the library as it lay in memory, and where
+     * the array is null all of them and the time.
+     */
     public StatisticalCommand_Info[] lu;
-
+    /** When the snapshot was taken. */
     public QVTime mtime;
 }

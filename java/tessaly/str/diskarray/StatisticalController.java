@@ -2,12 +2,20 @@ package tessaly.str.diskarray;
 
 /** How often and how long a controller ran. */
 public class StatisticalController {
+    /** How often it was switched on. */
     public int power_on;
+    /** How often it was reset. */
     public int reset;
+    /** Time in total, in the library's own unit; seconds over the simulator. */
     public int total_time;
+    /** Time switched on, in the same unit. */
     public int on_time;
+    /** The library's own counter. */
     public int total_time_rap_cnt;
+    /** The library's own counter. */
     public int total_time_rap_cnt_work;
+    /** Changes of LUs, the library's own count. */
     public int lu_change;
+    /** The library's own times, 4 elements. */
     public int[] procnt_time;
 }

@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** A kind of error of the transfers. Layout assumed. */
+/** A kind of error of the transfers. No field is known. Layout assumed. */
 public class StatisticalDriveDma_Error {}

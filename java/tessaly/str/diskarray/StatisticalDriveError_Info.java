@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** Errors of a drive. Layout assumed. */
+/** Errors of a drive. No field is known. Layout assumed. */
 public class StatisticalDriveError_Info {}

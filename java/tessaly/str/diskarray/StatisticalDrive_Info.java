@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** Counters of a drive. Layout assumed. */
+/** Counters of a drive. No field is known. Layout assumed. */
 public class StatisticalDrive_Info {}

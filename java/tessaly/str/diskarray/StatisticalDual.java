@@ -1,8 +1,11 @@
 package tessaly.str.diskarray;
 
-/** What passed between two controllers. */
+/** What passed between two controllers. The kinds are the library's own. */
 public class StatisticalDual {
+    /** Events of the kind "other_correct". */
     public int other_correct;
+    /** Events of the kind "other_dual". */
     public int other_dual;
+    /** Events of the kind "self_dual". */
     public int self_dual;
 }

@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** Counters of a fibre port. Layout assumed. */
+/** Counters of a fibre port. No field is known. Layout assumed. */
 public class StatisticalFibre_Info {}

@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** Host commands of an LU. */
+/** Host commands of an LU. No field is known. */
 public class StatisticalHostCommand_Info {}

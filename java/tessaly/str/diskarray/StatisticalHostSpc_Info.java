@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** Errors of a host port. Layout assumed. */
+/** Errors of a host port. No field is known. Layout assumed. */
 public class StatisticalHostSpc_Info {}

@@ -2,6 +2,8 @@ package tessaly.str.diskarray;
 
 /** Errors of the peripherals. */
 public class StatisticalShuuhen {
+    /** Errors of the panel. */
     public int panel;
+    /** Errors of the serial port. */
     public int rs232c;
 }

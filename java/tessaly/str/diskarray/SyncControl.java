@@ -2,6 +2,6 @@ package tessaly.str.diskarray;
 
 /** The synchronisation of the ports of a controller. */
 public class SyncControl {
-    /** At most 4; those behind are left out. */
+    /** 4 elements, one for each port. Handed over: at most 4 elements. Null in a new object. */
     public SyncPort[] port_val;
 }

@@ -2,9 +2,12 @@ package tessaly.str.diskarray;
 
 /** How target IDs are configured. Layout assumed. */
 public class TargetConfig {
+    /** Single target ID, the library's own value. */
     public int single;
-    /** 16 elements. */
+    /**
+     * Several target IDs, the library's own values: always 16 elements. Hand over at least as many.
+     */
     public int[] multi;
-    /** 16 elements. */
+    /** Always 16 elements. Hand over as many, none of them null. */
     public TargetLunList[] mapping;
 }

@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** The LUs of a target ID. Layout assumed. */
+/** The LUs of a target ID: 512 bytes of which no field is known. Layout assumed. */
 public class TargetLunList {}

@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** Time zones. Layout assumed. */
+/** Time zones. No field is known. Layout assumed. */
 public class TimeZoneList {}

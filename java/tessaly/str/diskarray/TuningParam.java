@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** Tuning parameters. Layout assumed. */
+/** Tuning parameters. No field is known. Layout assumed. */
 public class TuningParam {}

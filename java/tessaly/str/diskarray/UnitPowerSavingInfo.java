@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** Power saving of the unit. Layout assumed. */
+/** Power saving of the unit. No field is known. Layout assumed. */
 public class UnitPowerSavingInfo {}

@@ -1,13 +1,24 @@
 package tessaly.str.diskarray;
 
-/** Commands of a virtual unit. */
+/**
+ * Commands of a virtual unit, times in the library's own unit. A time is in two words: high times
+ * 2^32 plus low, unsigned.
+ */
 public class VUCommandAll_Info {
+    /** Marks an entry in use: 0 where it is not. */
     public int valid;
+    /** Whether the array counts it, the library's own value. */
     public int support;
+    /** Commands. */
     public int command_count;
+    /** Blocks transferred. */
     public int command_transfer_block_count;
+    /** Time of all commands, high word. */
     public int command_total_time_h;
+    /** Time of all commands, low word. */
     public int command_total_time_l;
+    /** Time of the longest command, high word. */
     public int command_max_time_h;
+    /** Time of the longest command, low word. */
     public int command_max_time_l;
 }

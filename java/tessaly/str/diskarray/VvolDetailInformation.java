@@ -4,8 +4,9 @@ package tessaly.str.diskarray;
 public class VvolDetailInformation {
     /** LU number. */
     public int lun;
+    /** How the capacity is given, the library's own value. */
     public int capacity_specify;
-    /** Capacity, high word. */
+    /** Capacity in blocks of 512 bytes, high word. */
     public int capacity_h;
     /** Capacity, low word. */
     public int capacity_l;

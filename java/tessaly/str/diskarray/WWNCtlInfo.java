@@ -2,6 +2,6 @@ package tessaly.str.diskarray;
 
 /** The hosts known at the ports of a controller. Layout assumed. */
 public class WWNCtlInfo {
-    /** 8 elements. */
+    /** Always 8 elements, one for each port. Hand over as many, none of them null. */
     public WWNPortInfo[] port;
 }

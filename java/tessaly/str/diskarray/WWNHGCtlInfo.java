@@ -2,6 +2,6 @@ package tessaly.str.diskarray;
 
 /** The hosts of the host groups of a controller. Layout assumed. */
 public class WWNHGCtlInfo {
-    /** 8 elements. */
+    /** Always 8 elements, one for each port. Hand over as many, none of them null. */
     public WWNHGPortInfo[] port;
 }

@@ -2,7 +2,8 @@ package tessaly.str.diskarray;
 
 /** The hosts of the host groups. Layout assumed. */
 public class WWNHGInformation {
+    /** LUN management, the library's own value. */
     public int lun_manage;
-    /** 2 elements. */
+    /** Always 2 elements, one for each controller. Hand over as many, none of them null. */
     public WWNHGCtlInfo[] ctl;
 }

@@ -2,7 +2,8 @@ package tessaly.str.diskarray;
 
 /** The hosts known at the ports. Layout assumed. */
 public class WWNInformation {
+    /** LUN security option, the library's own value. */
     public int lun_security_opt;
-    /** 2 elements. */
+    /** Always 2 elements, one for each controller. Hand over as many, none of them null. */
     public WWNCtlInfo[] ctl;
 }

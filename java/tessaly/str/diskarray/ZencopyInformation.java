@@ -1,8 +1,11 @@
 package tessaly.str.diskarray;
 
-/** The pairs with arrays of another family. */
+/** The Zencopy pairs of an array. */
 public class ZencopyInformation {
+    /** Option word, the library's own value. */
     public int option;
+    /** How many elements of <code>lu</code> are in use. */
     public int pair_count;
+    /** 2,048 elements, used or not. */
     public ZencopyLuInfo[] lu;
 }
