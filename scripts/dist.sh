@@ -18,29 +18,27 @@ copy() {
   install -D -m 644 "$1.debug" "$symbols/$2/$(basename "$1").debug"
 }
 
-# A directory of the archive, the preset that builds it, and the options of a variant, whose name ends
-# that of the directory. Simulator and recorder serve the variants as well.
-while read -r -u 3 directory preset options; do
+# A target and a directory of the archive for each variant, with these endings: `quorvelj_x` is built
+# into lib/x, and delivered in a directory that ends with -x. The first is the product itself.
+variants=('')
+options=(-DQUORVELJ_TESTS=OFF -DQUORVELJ_BENCHMARKS=OFF)
+
+# The directory of the archive, and the preset that builds it.
+for target in windows-x86:windows-x86 linux-i386:linux-i386 linux-x86_64:linux; do
+  directory=${target%:*} preset=${target#*:}
   case $preset in
     windows-*) prefix='' suffix=dll ;;
     *) prefix=lib suffix=so ;;
   esac
-  build="build/$preset${options:+-${directory##*-}}"
-  # shellcheck disable=SC2086
-  cmake --preset "$preset" -B "$build" -DQUORVELJ_TESTS=OFF -DQUORVELJ_BENCHMARKS=OFF $options >/dev/null
-  if [ -z "$options" ]; then
-    cmake --build "$build" --target quorvelj recorder
-    copy "$build/lib/${prefix}quorvel.$suffix" "simulator/$directory"
-    copy "$build/lib/recorder/${prefix}quorvel.$suffix" "$directory/recorder"
-  else
-    cmake --build "$build" --target quorvelj
-  fi
-  copy "$build/lib/${prefix}quorvelj.$suffix" "$directory"
-done 3<<'TARGETS'
-windows-x86 windows-x86
-linux-i386 linux-i386
-linux-x86_64 linux
-TARGETS
+  cmake --preset "$preset" "${options[@]}" >/dev/null
+  cmake --build --preset "$preset" --target "${variants[@]/#/quorvelj}" recorder
+  lib="build/$preset/lib"
+  copy "$lib/${prefix}quorvel.$suffix" "simulator/$directory"
+  copy "$lib/recorder/${prefix}quorvel.$suffix" "$directory/recorder"
+  for variant in "${variants[@]}"; do
+    copy "$lib/${variant#_}/${prefix}quorvelj.$suffix" "$directory${variant/_/-}"
+  done
+done
 
 cmake --build build/linux --target java_half java_documents array_tour tools
 lib=build/linux/lib

@@ -69,20 +69,6 @@ directory=$work commands=0 answer='' batches=()
 follow "$tree/delivery/README.md"
 [ "$directory" = "$here" ] || fail "the README leads to $directory after $commands blocks of commands"
 
-# The program of the tree's own README, with what it leaves out around it.
-block_java() {
-  {
-    echo 'import tessaly.str.diskarray.*; class Shown { public static void main(String[] a) throws Exception {'
-    echo 'QVUnitParam unit = new QVUnitParam(); unit.unit_name = "north"; unit.ctl0 = "192.0.2.10";'
-    echo 'new DiskArrayUtilityJNI().QV_UnitAddByIP(unit);'
-    printf '%s}}' "$block"
-  } >"$work/Shown.java"
-}
-block_sh() { :; }
-follow "$tree/README.md"
-expect 0 1 java -cp "$here/quorvelj.jar" \
-  "-Djava.library.path=$here/linux-x86_64:$here/simulator/linux-x86_64" "$work/Shown.java"
-
 # Both archives have the same.
 (cd "$here" && sha256sum --quiet --check SHA256SUMS) || fail "SHA256SUMS"
 mkdir "$work/zip" "$work/tar"
