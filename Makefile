@@ -51,7 +51,7 @@ dist: packages-dist
 
 # make version VERSION=1.2.3; CONTRIBUTING.md says when.
 version:
-	scripts/version.sh "$(VERSION)"
+	scripts/version.sh "$$VERSION"
 
 packages-build packages-test packages-check packages-coverage packages-dist:
 	scripts/install-packages.sh $(@:packages-%=%)
