@@ -52,7 +52,7 @@ QUORVEL_RECORD(EmailAlertInfo, 784);
 QUORVEL_OFFSET(EmailAlertInfo, to_address, 384);
 QUORVEL_OFFSET(EmailAlertInfo, send_type, 768);
 
-/// The state of an array's e-mail alert.
+/// The e-mail alert settings of an array.
 struct EmailAlertInformation {
   std::int32_t send_mode;
   std::int32_t ctl_flag[2];

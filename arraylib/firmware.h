@@ -4,8 +4,8 @@
 #include "arraylib/record.h"
 #include "arraylib/status.h"
 
-// Firmware of the array, of its enclosures and of its NAS nodes. Each is updated in the same order:
-// files are staged on this host, downloaded to the array, and the running firmware is replaced.
+// Firmware of the array, of its enclosures and of its network node controllers. Each is updated in
+// the same order: files are staged on this host, downloaded, and take the place of what runs.
 
 /// What is staged of the array's firmware.
 struct MicroFileInformation {
@@ -15,7 +15,7 @@ struct MicroFileInformation {
 };
 QUORVEL_RECORD(MicroFileInformation, 20);
 
-/// How far a replacement came.
+/// Information on a replacement.
 struct MicroReplaceInformation {
   std::int32_t valid;
   std::int32_t WaitCancelreq;
@@ -23,7 +23,7 @@ struct MicroReplaceInformation {
 };
 QUORVEL_RECORD(MicroReplaceInformation, 12);
 
-/// A replacement by way of the other controller.
+/// A cross-call replacement.
 struct MicroReplaceCrosscallRequest {
   std::int32_t ctl;
   std::int32_t forced_mode;
@@ -39,7 +39,7 @@ struct ENCMicroInformation {
 };
 QUORVEL_RECORD(ENCMicroInformation, 132);
 
-/// The revision of a NAS node's BIOS.
+/// The revision of a network node controller's BIOS.
 struct NNCBiosRevision {
   char nncbiosrevision[9];
 };
@@ -136,7 +136,7 @@ QUORVEL_API int QV_GetENCMicroInformation(ENCMicroInformation* information);
 QUORVEL_API int QV_GetENCMicroInformationEx(const UnitName* unit, const QVSessionInfo* session,
                                             ENCMicroInformation* information);
 
-// BIOS of the NAS nodes
+// BIOS of the network node controllers
 
 QUORVEL_API int QV_GetLocalNNCBiosRevision(NNCBiosRevision* revision);
 QUORVEL_API int QV_GetNNCBiosRevisionList(const UnitName* unit, const QVSessionInfo* session,

@@ -64,7 +64,7 @@ struct DeleteHGList {
 QUORVEL_RECORD(DeleteHGList, 1024);
 QUORVEL_ASSUMED(DeleteHGList);
 
-/// The host groups of a port to set back.
+/// The host groups of a port to initialise.
 struct InitHGPortList {
   std::byte hg[64];
 };
@@ -77,7 +77,7 @@ struct InitHGCtlList {
 QUORVEL_RECORD(InitHGCtlList, 512);
 QUORVEL_ASSUMED(InitHGCtlList);
 
-/// The host groups to set back.
+/// The host groups to initialise.
 struct InitHGList {
   InitHGCtlList ctl[2];
 };
@@ -884,7 +884,7 @@ struct MainteLanInfoDetail {
 QUORVEL_RECORD(MainteLanInfoDetail, 212);
 QUORVEL_OFFSET(MainteLanInfoDetail, subnet_prefix, 164);
 
-/// The maintenance LAN of the controllers and of the network controllers.
+/// The maintenance LAN of the controllers and of the network node controllers.
 struct MainteLanInfo {
   MainteLanInfoDetail ctl[2];
   MainteLanInfoDetail nnc[4];
@@ -940,7 +940,7 @@ struct NNCLANInformationDetail {
 QUORVEL_RECORD(NNCLANInformationDetail, 96);
 QUORVEL_OFFSET(NNCLANInformationDetail, mtu, 84);
 
-/// The LAN of the network controllers.
+/// The LAN of the network node controllers.
 struct NNCLANInformation {
   std::int8_t nnclaninfo_valid[4];
   std::int32_t set_valid;

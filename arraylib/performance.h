@@ -9,7 +9,7 @@
 
 // Performance collection and output
 
-/// Commands of a port, a RAID group, an LU, a path or a drive.
+/// Commands of a port, a RAID group, an LU, a back-end path or a drive.
 struct CommandAll_Info {
   std::int32_t valid;
   std::int32_t support;
@@ -225,7 +225,7 @@ struct StatisticalCommand {
 QUORVEL_RECORD(StatisticalCommand, 65572);
 QUORVEL_OFFSET(StatisticalCommand, mtime, 65536);
 
-/// The numbers of errors at which a drive is reported.
+/// The drive error thresholds.
 struct Threshold {
   std::int32_t mechanical_recover;
   std::int32_t mechanical_unrecover;
@@ -286,7 +286,7 @@ QUORVEL_RECORD(PerformanceMngInfo, 232);
 QUORVEL_ASSUMED(PerformanceMngInfo);
 QUORVEL_ASSUMED_SIZE(PerformanceMngInfo, 4096);
 
-/// What an output of all counters writes, for LUs up to 2,047.
+/// What an output of all counters writes, with 2,048 bytes of LUs.
 struct PerformanceOutputAllRequest {
   std::byte port[8];
   std::byte backend[8];
@@ -303,7 +303,7 @@ struct PerformanceOutputAllRequest {
 QUORVEL_RECORD(PerformanceOutputAllRequest, 3088);
 QUORVEL_ASSUMED(PerformanceOutputAllRequest);
 
-/// What an output of all counters writes of one controller.
+/// A selection of what an output of all counters writes.
 struct PerformanceOutputSpecifyInfo {
   std::byte port[8];
   std::byte backend[8];
@@ -519,7 +519,7 @@ QUORVEL_API int QV_SetThreshold(const UnitName* unit, const QVSessionInfo* sessi
 
 // Statistical information
 
-/// How often and how long a controller ran.
+/// Power-on and reset counts of a controller, and its times.
 struct StatisticalController {
   std::int32_t power_on;
   std::int32_t reset;
@@ -548,7 +548,7 @@ struct StatisticalCommandStatus_Info {
 };
 QUORVEL_RECORD(StatisticalCommandStatus_Info, 36);
 
-/// How commands ended, by LU.
+/// Command statuses by LU.
 struct StatisticalCommandStatus {
   StatisticalCommandStatus_Info lu[4096];
 };
@@ -701,7 +701,7 @@ struct StatisticalShuuhen {
 };
 QUORVEL_RECORD(StatisticalShuuhen, 16);
 
-/// What passed between two controllers.
+/// Dual-controller events.
 struct StatisticalDual {
   std::int32_t other_correct;
   std::int32_t other_dual;
@@ -722,7 +722,7 @@ struct StatisticalFibre {
 QUORVEL_RECORD(StatisticalFibre, 2208);
 QUORVEL_ASSUMED(StatisticalFibre);
 
-/// Errors of the units.
+/// Counters of the units.
 struct StatisticalUnit {
   std::int32_t battery;
   std::int32_t reserved[2];

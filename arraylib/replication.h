@@ -342,7 +342,7 @@ struct FarlinkAsyncCTGInfo {
 };
 QUORVEL_RECORD(FarlinkAsyncCTGInfo, 88);
 
-/// The asynchronous pairs of an array, and their consistency groups.
+/// The asynchronous Farlink pairs of an array, and their consistency groups.
 struct FarlinkAsyncPairInformation {
   std::int32_t option;
   std::int32_t pair_count;
@@ -352,7 +352,7 @@ struct FarlinkAsyncPairInformation {
 QUORVEL_RECORD(FarlinkAsyncPairInformation, 1'672'584);
 QUORVEL_OFFSET(FarlinkAsyncPairInformation, ctg, 1'671'176);
 
-/// The settings of asynchronous pairs.
+/// The settings of asynchronous Farlink pairs.
 struct FarlinkAsyncOption {
   std::int32_t option;
   std::int32_t support_index;
@@ -378,7 +378,7 @@ QUORVEL_RECORD(ZencopyLuInfo, 56);
 QUORVEL_OFFSET(ZencopyLuInfo, remote_serial, 33);
 QUORVEL_OFFSET(ZencopyLuInfo, remote_ldev, 50);
 
-/// The pairs with arrays of another family.
+/// The Zencopy pairs of an array.
 struct ZencopyInformation {
   std::int32_t option;
   std::int32_t pair_count;
@@ -499,7 +499,7 @@ struct RemotePathDeletion {
 };
 QUORVEL_RECORD(RemotePathDeletion, 140);
 
-/// A remote path to set up anew.
+/// A remote path to rebuild.
 struct RemotePathRebuild {
   char remote_serial[17];
   std::int32_t path;
@@ -567,7 +567,7 @@ struct CmdDevInfo {
 };
 QUORVEL_RECORD(CmdDevInfo, 16);
 
-/// The logical units through which hosts give commands.
+/// The command devices of an array.
 struct CommandDevice {
   std::int32_t mrcf_lite;
   std::int32_t mode;

@@ -307,7 +307,7 @@ struct PINInfoDetail {
 };
 QUORVEL_RECORD(PINInfoDetail, 12);
 
-/// Data that is pinned in the cache, by logical unit.
+/// Pinned data by logical unit.
 struct PINInformation {
   std::int32_t unite_option;
   std::int32_t single_lu[8192];

@@ -86,7 +86,7 @@ struct CreateRaidGroup {
 QUORVEL_RECORD(CreateRaidGroup, 14428);
 QUORVEL_OFFSET(CreateRaidGroup, rgdrv, 28);
 
-/// A stretch of a RAID group, of an LU or free.
+/// An area of a RAID group.
 struct AreaInfo {
   std::int32_t areakind;
   std::int32_t lun;
@@ -173,7 +173,7 @@ QUORVEL_RECORD(LogicalUnitCreationRequest, 556);
 QUORVEL_OFFSET(LogicalUnitCreationRequest, befor_lun, 20);
 QUORVEL_OFFSET(LogicalUnitCreationRequest, cachepart_no, 532);
 
-/// A logical unit to move and resize.
+/// A logical unit to reallocate.
 struct LogicalUnitReallocationRequest {
   std::int32_t lun;
   std::int32_t lusize;
@@ -452,7 +452,7 @@ QUORVEL_RECORD(IntegrationLUInfo2, 262152);
 QUORVEL_OFFSET(IntegrationLUInfo2, parent_lu, 8);
 QUORVEL_OFFSET(IntegrationLUInfo2, unite_info, 32776);
 
-/// LUs to integrate or to separate.
+/// An operation on integrated LUs.
 struct IntegrationRequest {
   std::int32_t operation;
   std::int32_t parent_lun;
@@ -478,7 +478,7 @@ struct DMLUInformation {
 };
 QUORVEL_RECORD(DMLUInformation, 32);
 
-/// How an LU is guarded against changes.
+/// The guard of an LU.
 struct LuGuard {
   std::int32_t lu_valid;
   std::int32_t capacity;
@@ -511,7 +511,7 @@ struct LuAccessLevelRequest {
 };
 QUORVEL_RECORD(LuAccessLevelRequest, 12);
 
-/// The cache-resident LUs.
+/// The Turbo LU parameters.
 struct TurboLu {
   std::int32_t opaque[11];
 };

@@ -116,7 +116,7 @@ QUORVEL_RECORD(BaseInformation, 56);
 QUORVEL_OFFSET(BaseInformation, next_road_micro, 13);
 QUORVEL_OFFSET(BaseInformation, qv_type, 24);
 
-/// How many of each the array can hold, and how long its restarts take.
+/// Numbers of the array's logical objects, and times of its restarts.
 struct LogicalInformation {
   std::int32_t index;
   std::int32_t index2;
@@ -164,7 +164,7 @@ struct LogicalInformation {
 QUORVEL_RECORD(LogicalInformation, 264);
 QUORVEL_OFFSET(LogicalInformation, reserved, 164);
 
-/// How many parts of each kind the array can hold.
+/// Numbers of the array's parts.
 struct PhysicalInformation {
   std::int32_t index;
   std::int32_t index2;
@@ -202,7 +202,7 @@ struct PhysicalInformation {
 QUORVEL_RECORD(PhysicalInformation, 188);
 QUORVEL_OFFSET(PhysicalInformation, reserved, 124);
 
-/// What kind of array a unit is, and how much of everything it can hold.
+/// What kind of array a unit is, and its numbers of logical objects and parts.
 struct UnitInformation {
   BaseInformation b_info;
   LogicalInformation l_info;

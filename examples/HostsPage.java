@@ -12,44 +12,50 @@ import tessaly.str.diskarray.MappingGuardList;
 /** Host groups of the ports, and the LUs that are mapped to them. */
 final class HostsPage {
     private static final int LUS = 8192;
-    private static final int GUARDED_LU = 12;
+    private static final int LU_GUARDED = 20604;
     /** A Fibre Channel port of the simulator. */
     private static final int PORT = 2;
 
     private HostsPage() {}
 
-    static void show(Visit visit) {
+    /** Maps the second and third of the new logical units; the first may be in a pool. */
+    static void show(Visit visit, List<Integer> made) {
+        visit.page("Hosts");
         int[] group = new int[1];
-        Visit.step("A host group on a port", () -> group[0] = create(visit));
-        if (group[0] == 0) {
-            return;
-        }
-        Visit.step("Host groups and what is mapped to them", () -> list(visit));
-        Visit.step("Ports of each mapped LU", () -> ports(visit));
-        Visit.step("Mapping a guarded LU", () -> mapGuarded(visit, group[0]));
-        Visit.step("Deleting the host group", () -> delete(visit, group[0]));
+        visit.change("A new host group on a port", () -> group[0] = create(visit, made));
+        visit.refuse("Mapping a guarded LU", "QV_SetLuMappingList", LU_GUARDED, "the LU is guarded",
+                () -> mapGuarded(visit, group[0], made));
+        visit.step("Host groups and what is mapped to them", () -> list(visit));
+        visit.step("Ports of each mapped LU", () -> ports(visit));
     }
 
-    /** Takes the first number that is free and maps three LUs to it. */
-    private static int create(Visit visit) throws DiskArrayException {
+    /** Takes the first number that is free and maps an LU to it. */
+    private static int create(Visit visit, List<Integer> made) throws DiskArrayException {
         HGInfo[] groups = Visit.ARRAY.QV_GetHGList(visit.unit, visit.session).ctl[0].port[PORT].hg;
-        int number = 1;
-        while (groups[number].valid != 0) {
-            number++;
+        int free = 1;
+        while (groups[free].valid != 0) {
+            free++;
         }
+        int number = free;
         HGInfo group = new HGInfo();
         group.hgname = "tour-hosts";
-        Visit.ARRAY.QV_CreateHG(visit.unit, visit.session, 0, PORT, number, group);
-        map(visit, number, 10, 11, 4095);
-        System.out.println("  group " + number + " has three LUs\n");
+        DeleteHGPortList deletion = new DeleteHGPortList();
+        deletion.hg = new byte[64];
+        deletion.hg[number / 8] = (byte) (1 << number % 8);
+        visit.make("host group " + number + " of port " + PORT,
+                () -> Visit.ARRAY.QV_CreateHG(visit.unit, visit.session, 0, PORT, number, group),
+                () -> Visit.ARRAY.QV_DeleteHGPortList(visit.unit, visit.session, 0, PORT, deletion));
+        if (made.size() > 1) {
+            map(visit, number, made.get(1));
+        }
         return number;
     }
 
-    /** Maps LUs under the numbers 0, 1, ... to a group of the port. */
-    private static void map(Visit visit, int group, int... lus) throws DiskArrayException {
+    /** Maps an LU under the number 0 to a group of the port. */
+    private static void map(Visit visit, int group, int lu) throws DiskArrayException {
         Object[] known = Visit.ARRAY.QV_GetLuMappingList(visit.unit, visit.session, 0, PORT, group);
         LuMappingHGInfo mapping = (LuMappingHGInfo) known[1];
-        System.arraycopy(lus, 0, mapping.lu, 0, lus.length);
+        mapping.lu[0] = lu;
         Visit.ARRAY.QV_SetLuMappingList(visit.unit, visit.session, 0, PORT, group, mapping);
     }
 
@@ -68,7 +74,7 @@ final class HostsPage {
                 }
             }
         }
-        table.print();
+        visit.show(table);
     }
 
     private static String mapped(LuMappingHGInfo mapping) {
@@ -90,7 +96,7 @@ final class HostsPage {
                 table.row(lu, ofBits(ports[lu][0]), ofBits(ports[lu][1]));
             }
         }
-        table.print();
+        visit.show(table);
     }
 
     private static String ofBits(int bits) {
@@ -103,26 +109,16 @@ final class HostsPage {
         return ports.isEmpty() ? "-" : String.join(", ", ports);
     }
 
-    private static void mapGuarded(Visit visit, int group) throws DiskArrayException {
+    private static void mapGuarded(Visit visit, int group, List<Integer> made)
+            throws DiskArrayException {
+        Visit.need(group != 0 && made.size() > 2, "there is no new host group, or no new LU");
+        int lu = made.get(2);
+        MappingGuardList before = Visit.ARRAY.QV_GetMappingGuardList(visit.unit, visit.session);
         MappingGuardList guard = Visit.ARRAY.QV_GetMappingGuardList(visit.unit, visit.session);
-        byte before = guard.lumap_guard[GUARDED_LU];
-        guard.lumap_guard[GUARDED_LU] = 1;
-        Visit.ARRAY.QV_SetMappingGuardList(visit.unit, visit.session, guard);
-        try {
-            map(visit, group, GUARDED_LU);
-        } finally {
-            guard.lumap_guard[GUARDED_LU] = before;
-            Visit.ARRAY.QV_SetMappingGuardList(visit.unit, visit.session, guard);
-        }
-    }
-
-    private static void delete(Visit visit, int group) throws DiskArrayException {
-        DeleteHGPortList list = new DeleteHGPortList();
-        list.hg = new byte[64];
-        list.hg[group / 8] = (byte) (1 << group % 8);
-        Visit.ARRAY.QV_DeleteHGPortList(visit.unit, visit.session, 0, PORT, list);
-        HGInfo deleted =
-                Visit.ARRAY.QV_GetHGList(visit.unit, visit.session).ctl[0].port[PORT].hg[group];
-        System.out.println("  group " + group + " is " + (deleted.valid == 0 ? "free" : "in use") + "\n");
+        guard.lumap_guard[lu] = 1;
+        visit.make("the guard of LU " + lu,
+                () -> Visit.ARRAY.QV_SetMappingGuardList(visit.unit, visit.session, guard),
+                () -> Visit.ARRAY.QV_SetMappingGuardList(visit.unit, visit.session, before));
+        map(visit, group, lu);
     }
 }

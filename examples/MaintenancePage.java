@@ -21,21 +21,16 @@ final class MaintenancePage {
 
     private MaintenancePage() {}
 
-    static void show(Visit visit) throws DiskArrayException {
-        boolean simulated = Visit.ARRAY.QV_GetUnitParam(visit.unit).ctl0.startsWith("192.0.2.");
-        if (simulated) {
-            Visit.step("Firmware update", () -> update(visit));
-        }
-        Visit.step("Firmware of enclosures and NAS nodes", () -> firmware(visit));
-        if (simulated) {
-            Visit.step("Test mail of an alert", () -> testMail(visit));
-        }
-        Visit.step("Alerts", () -> alerts(visit));
-        if (simulated) {
-            Visit.step("SNMP configuration by way of files", () -> snmp(visit));
-            Visit.step("A syslog server for the audit log", () -> addServer(visit));
-        }
-        Visit.step("Audit log", () -> auditLog(visit));
+    static void show(Visit visit) {
+        visit.page("Maintenance");
+        visit.simulate("Firmware update", () -> update(visit));
+        visit.step("Firmware of enclosures and NAS nodes", () -> firmware(visit));
+        visit.simulate("Test mail of an alert", () -> testMail(visit));
+        visit.step("Alerts", () -> alerts(visit));
+        visit.simulate("SNMP configuration by way of files", () -> snmp(visit));
+        visit.simulate("A syslog server for the audit log", () -> addServer(visit));
+        visit.step("Audit log", () -> auditLog(visit));
+        visit.change("Exporting the audit log", () -> export(visit));
     }
 
     private static void update(Visit visit) throws DiskArrayException {
@@ -56,7 +51,7 @@ final class MaintenancePage {
         Visit.ARRAY.QV_CancelMicroFileConcat();
         table.row("completed", "staged files left: "
                 + Visit.ARRAY.QV_GetMicroFileInformation().valid);
-        table.print();
+        visit.show(table);
     }
 
     /** Polls until the count stands still. */
@@ -85,7 +80,7 @@ final class MaintenancePage {
                 table.row("NAS node " + node, list.nnc_revision[node].nncbiosrevision);
             }
         }
-        table.print();
+        visit.show(table);
     }
 
     private static void testMail(Visit visit) throws DiskArrayException {
@@ -117,7 +112,7 @@ final class MaintenancePage {
             table.row(controller, alert.mail.smtp, alert.mail.to_address[0],
                     tested ? "yes" : "no", tested ? alert.exec_result : "");
         }
-        table.print();
+        visit.show(table);
     }
 
     private static void alerts(Visit visit) throws DiskArrayException {
@@ -125,12 +120,11 @@ final class MaintenancePage {
         EmailInfo host = Visit.ARRAY.QV_GetEmailInfo();
         EmailAlertInformation array =
                 Visit.ARRAY.QV_GetEmailAlertInformation(visit.unit, visit.session);
-        new Table("Setting", "Value")
+        visit.show(new Table("Setting", "Value")
                 .row("alert", check.alert)
                 .row("checked every", Visit.ARRAY.QV_GetAlertInterval() + " s")
                 .row("this host writes to", String.join(", ", host.to))
-                .row("the array writes to", array.mail.to_address[0])
-                .print();
+                .row("the array writes to", array.mail.to_address[0]));
     }
 
     private static void snmp(Visit visit) throws DiskArrayException {
@@ -148,7 +142,7 @@ final class MaintenancePage {
         for (String line : output.conf.split("\n")) {
             table.row(output.name, line);
         }
-        table.print();
+        visit.show(table);
     }
 
     private static void addServer(Visit visit) throws DiskArrayException {
@@ -159,7 +153,6 @@ final class MaintenancePage {
         settings.auditlog_server.server[0].server_used = 1;
         settings.auditlog_server.server[0].ip_address = "192.0.2.14";
         Visit.ARRAY.QV_SetQVAuditLogInformation(visit.unit, visit.session, settings);
-        System.out.println("  set\n");
     }
 
     private static void auditLog(Visit visit) throws DiskArrayException {
@@ -170,9 +163,11 @@ final class MaintenancePage {
         for (QVAuditLogSyslogServer server : settings.auditlog_server.server) {
             table.row("syslog", server.server_used, server.ip_address);
         }
-        table.print();
+        visit.show(table);
+    }
+
+    private static void export(Visit visit) throws DiskArrayException {
         File file = Visit.newFile("audit-log", "");
         Visit.ARRAY.QV_QVAuditLogExport(visit.unit, visit.session, file.getPath());
-        System.out.println("  exported to a file\n");
     }
 }

@@ -24,9 +24,10 @@ final class PerformancePage {
 
     static void show(Visit visit) {
         PerformancePage page = new PerformancePage(visit);
-        Visit.step("Busiest LUs between two snapshots", page::busiest);
-        Visit.step("A collection of one interval", page::collection);
-        Visit.step("Statistics", page::statistics);
+        visit.page("Performance");
+        visit.step("Busiest LUs between two snapshots", page::busiest);
+        visit.change("A collection of one interval", page::collection);
+        visit.step("Statistics", page::statistics);
     }
 
     /** Commands to an LU of a controller between the snapshots. */
@@ -61,10 +62,15 @@ final class PerformancePage {
         loads.sort((one, other) ->
                 Long.compare(other.reads + other.writes, one.reads + one.writes));
         Table table = new Table("Controller", "LU", "Reads", "Writes", "Time of read hits");
+        Bars bars = new Bars("Busiest LUs", "Commands between two snapshots", "reads", "writes");
+        long most = loads.isEmpty() ? 0 : loads.get(0).reads + loads.get(0).writes;
         for (Load load : loads.subList(0, Math.min(BUSIEST, loads.size()))) {
             table.row(load.controller, load.lun, load.reads, load.writes, load.time);
+            bars.row("LU " + load.lun + ", controller " + load.controller,
+                    load.reads + " reads, " + load.writes + " writes", most, load.reads, load.writes);
         }
-        table.print();
+        bars.addTo(visit.report);
+        visit.show(table);
     }
 
     /** What a 32-bit counter advanced, which may have passed its largest value. */
@@ -79,10 +85,7 @@ final class PerformancePage {
     }
 
     private void collection() throws DiskArrayException {
-        if (before == null || after == null) {
-            System.out.println("  no snapshots\n");
-            return;
-        }
+        Visit.need(before != null && after != null, "there are no snapshots");
         File file = Visit.newFile("collection", "");
         try {
             Visit.ARRAY.QV_PerformanceDataInitialize(visit.session, file.getPath(), 60, 0);
@@ -95,13 +98,12 @@ final class PerformancePage {
                     Visit.ARRAY.QV_PerformanceOutputGraphInfo(visit.unit, visit.session, request);
             Visit.ARRAY.QV_PerformanceDataOutput(file.getPath(), graph);
             PerformanceMngInfo written = Visit.ARRAY.QV_PerformanceInputMngFile(file.getPath());
-            new Table("Unit", "Serial", "Interval", "LUs", "Until")
+            visit.show(new Table("Unit", "Serial", "Interval", "LUs", "Until")
                     .row(written.unitname, written.serialno, written.intervaltime + " s",
                             written.luMaxCount,
                             String.format("%d-%02d-%02d %02d:%02d", written.totime.year,
                                     written.totime.month, written.totime.day, written.totime.hour,
-                                    written.totime.minute))
-                    .print();
+                                    written.totime.minute)));
         } finally {
             file.delete();
         }
@@ -115,12 +117,11 @@ final class PerformancePage {
             table.row(number, controllers[number].power_on, controllers[number].reset,
                     controllers[number].on_time + " s");
         }
-        table.print();
-        new Table("Setting", "Value")
+        visit.show(table);
+        visit.show(new Table("Setting", "Value")
                 .row("counting", Visit.ARRAY.QV_GetPfmStatisCfg(visit.unit, visit.session) != 0)
                 .row("files of a collection", Visit.ARRAY.QV_GetPfmFileMaxCount())
                 .row("recovered media errors until a report",
-                        Visit.ARRAY.QV_GetThreshold(visit.unit, visit.session).media_recover)
-                .print();
+                        Visit.ARRAY.QV_GetThreshold(visit.unit, visit.session).media_recover));
     }
 }

@@ -25,12 +25,14 @@ final class PortsPage {
     private PortsPage() {}
 
     static void show(Visit visit) {
-        Visit.step("iSCSI ports", () -> ports(visit));
-        Visit.step("iSCSI targets", () -> targets(visit));
-        Visit.step("iSCSI hosts", () -> hosts(visit));
-        Visit.step("Ping from an iSCSI port", () -> ping(visit));
-        Visit.step("Fibre Channel ports", () -> fibre(visit));
-        Visit.step("LAN addresses", () -> lan(visit));
+        visit.page("Ports");
+        visit.step("iSCSI ports", () -> ports(visit));
+        visit.change("A new iSCSI target", () -> createTarget(visit));
+        visit.step("iSCSI targets", () -> targets(visit));
+        visit.step("iSCSI hosts", () -> hosts(visit));
+        visit.change("Ping from an iSCSI port", () -> ping(visit));
+        visit.step("Fibre Channel ports", () -> fibre(visit));
+        visit.step("LAN addresses", () -> lan(visit));
     }
 
     private static void ports(Visit visit) throws DiskArrayException {
@@ -45,16 +47,25 @@ final class PortsPage {
                 }
             }
         }
-        table.print();
+        visit.show(table);
     }
 
-    private static void targets(Visit visit) throws DiskArrayException {
+    private static void createTarget(Visit visit) throws DiskArrayException {
         QViSCSITargetInfo target = new QViSCSITargetInfo();
         target.target_name = "tour";
         target.iscsi_name = "iqn.2004-01.example.tour:disk";
         target.user_name = "";
         target.secret = "";
-        Visit.ARRAY.QV_CreateiSCSITarget(visit.unit, visit.session, 0, 1, NUMBER, target);
+        DeleteTargetList deletion = new DeleteTargetList();
+        deletion.target = new int[255];
+        deletion.target[NUMBER] = 1;
+        visit.make("iSCSI target " + target.target_name,
+                () -> Visit.ARRAY.QV_CreateiSCSITarget(
+                        visit.unit, visit.session, 0, 1, NUMBER, target),
+                () -> Visit.ARRAY.QV_DeleteiSCSITarget(visit.unit, visit.session, 0, 1, deletion));
+    }
+
+    private static void targets(Visit visit) throws DiskArrayException {
         QViSCSITargetInformationAll all =
                 Visit.ARRAY.QV_GetiSCSITargetInformationAll(visit.unit, visit.session);
         Table table = new Table("Controller", "Port", "Target", "Name", "iSCSI name");
@@ -69,11 +80,7 @@ final class PortsPage {
                 }
             }
         }
-        table.print();
-        DeleteTargetList list = new DeleteTargetList();
-        list.target = new int[255];
-        list.target[NUMBER] = 1;
-        Visit.ARRAY.QV_DeleteiSCSITarget(visit.unit, visit.session, 0, 1, list);
+        visit.show(table);
     }
 
     private static void hosts(Visit visit) throws DiskArrayException {
@@ -96,7 +103,7 @@ final class PortsPage {
                 }
             }
         }
-        table.print();
+        visit.show(table);
     }
 
     private static void ping(Visit visit) throws DiskArrayException {
@@ -112,7 +119,7 @@ final class PortsPage {
             table.row(port.ip_address, port.execute_count + " of " + port.schedule_count,
                     port.success_count, port.status);
         }
-        table.print();
+        visit.show(table);
     }
 
     private static void fibre(Visit visit) throws DiskArrayException {
@@ -128,7 +135,7 @@ final class PortsPage {
                 }
             }
         }
-        table.print();
+        visit.show(table);
     }
 
     private static void lan(Visit visit) throws DiskArrayException {
@@ -144,6 +151,6 @@ final class PortsPage {
             table.row(controller, "maintenance", maintenance[controller].ip_address,
                     maintenance[controller].subnet, "", "");
         }
-        table.print();
+        visit.show(table);
     }
 }

@@ -32,8 +32,9 @@ final class ReplicationPage {
 
     static void show(Visit visit) {
         ReplicationPage page = new ReplicationPage(visit);
-        Visit.step("A copy pair", page::copyPair);
-        Visit.step("A logical unit that moves", page::migration);
+        visit.page("Replication");
+        visit.simulate("A copy pair", page::copyPair);
+        visit.simulate("A logical unit that moves", page::migration);
     }
 
     private <T extends PairOperation> T onThePair(T operation) {
@@ -65,12 +66,12 @@ final class ReplicationPage {
         PairOperation operation = onThePair(new PairOperation());
         Visit.ARRAY.QV_ResyncGemlynPair(visit.unit, visit.session, operation);
         showUntilInStep("its resynchronisation", table);
-        table.print();
+        visit.show(table);
 
         CTGInfo group = Visit.ARRAY.QV_GetCTGInformation(visit.unit, visit.session).gmss_info[GROUP];
-        System.out.println("  it is in group " + group.ctg_no + ", " + group.ctg_name);
+        visit.say("it is in group " + group.ctg_no + ", " + group.ctg_name);
         Visit.ARRAY.QV_SimpleGemlynPair(visit.unit, visit.session, operation);
-        System.out.println("  dissolved, " + pairs().pair_count + " pairs left\n");
+        visit.say("dissolved, " + pairs().pair_count + " pairs left");
     }
 
     private PairInfo pairs() throws DiskArrayException {
@@ -123,7 +124,7 @@ final class ReplicationPage {
                 percent = pair.percent;
             }
         }
-        table.print();
+        visit.show(table);
         Visit.ARRAY.QV_SplitLuMigration(visit.unit, visit.session, request);
         Visit.ARRAY.QV_DeleteLuMigrationReserveLU(visit.unit, visit.session, reserve);
     }

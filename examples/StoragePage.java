@@ -17,49 +17,42 @@ import tessaly.str.diskarray.RgDetail;
 import tessaly.str.diskarray.VvolDetailInformation;
 import tessaly.str.diskarray.VvolInformation;
 
-/** A RAID group, logical units in it and a virtual volume: made, formatted, shown and deleted. */
+/** A RAID group, logical units in it and a virtual volume: made, formatted and shown. */
 final class StoragePage {
     private static final long GIB = 1L << 21;
     private static final long[] SIZES = {500 * GIB, 3072 * GIB, 20 * GIB};
     /** The pools of the whole array, to the simulator. */
     private static final int SHARED = 2;
     private static final int FINISHED = 100;
+    private static final int IN_USE = 20504;
 
     private final Visit visit;
-    /** What was made here, and nothing else, is deleted again; -1 is nothing. */
+    /** The new RAID group; -1 is none. */
     private int group = -1;
-    private int pool = -1;
-    private int volume = -1;
     private final List<Integer> made = new ArrayList<Integer>();
 
     private StoragePage(Visit visit) {
         this.visit = visit;
     }
 
-    /** Returns the page, so that what it made can be looked at before it is deleted. */
-    static StoragePage show(Visit visit) {
+    /** Returns the new logical units. */
+    static List<Integer> show(Visit visit) {
         StoragePage page = new StoragePage(visit);
-        Visit.step("RAID groups", page::createGroup);
-        if (page.group < 0) {
-            return page;
-        }
-        Visit.step("Logical units", page::createUnits);
-        if (page.made.size() == SIZES.length) {
-            Visit.step("A RAID group that holds logical units", page::deleteGroup);
-            Visit.step("Areas of the RAID group", page::areas);
-            Visit.step("Quick format", page::format);
-            Visit.step("Pool", page::pool);
-            Visit.step("Virtual volume", page::volume);
-            Visit.step("LU guard", page::guard);
-        }
-        return page;
-    }
-
-    /** Deletes what the page made. */
-    void cleanUp() {
-        if (group >= 0) {
-            Visit.step("Free again", this::delete);
-        }
+        visit.page("Storage");
+        visit.change("A new RAID group", page::createGroup);
+        visit.change("New logical units", page::createUnits);
+        visit.refuse("Deleting a RAID group that holds logical units", "QV_RaidGroupDelete", IN_USE,
+                "it holds logical units", page::deleteGroup);
+        visit.step("RAID groups", page::groups);
+        visit.step("Areas of the RAID groups", page::areas);
+        visit.change("Quick format", page::format);
+        visit.step("Logical units", page::units);
+        visit.change("A new pool", page::createPool);
+        visit.step("Pools", page::pools);
+        visit.change("A new virtual volume", page::createVolume);
+        visit.step("Virtual volumes", page::volumes);
+        visit.step("LU guard", page::guard);
+        return page.made;
     }
 
     private void createGroup() throws DiskArrayException {
@@ -71,11 +64,11 @@ final class StoragePage {
         request.rgdrv = new CreateRgDrive[0];
         RgDetail planned =
                 Visit.ARRAY.QV_GetRaidGroupCreationCapacity(visit.unit, visit.session, request);
-        System.out.println(
-                "  planned: " + Capacity.of(planned.total_capa_h, planned.total_capa_l) + "\n");
-        Visit.ARRAY.QV_CreateRaidGroup(visit.unit, visit.session, request);
+        visit.say("planned: " + Capacity.of(planned.total_capa_h, planned.total_capa_l));
+        visit.make("RAID group " + request.rgnum,
+                () -> Visit.ARRAY.QV_CreateRaidGroup(visit.unit, visit.session, request),
+                () -> Visit.ARRAY.QV_RaidGroupDelete(visit.unit, visit.session, request.rgnum));
         group = request.rgnum;
-        groups();
     }
 
     private List<RgDetail> detailsOfGroups() throws DiskArrayException {
@@ -101,35 +94,41 @@ final class StoragePage {
     private void groups() throws DiskArrayException {
         Table table =
                 new Table("Group", "Level", "Drives", "Smallest drive", "Capacity", "Free", "LUs");
+        Bars bars = new Bars("RAID groups", "Capacity", "used", Bars.FREE);
         for (RgDetail detail : detailsOfGroups()) {
+            long total = Capacity.blocks(detail.total_capa_h, detail.total_capa_l);
+            long rest = Capacity.blocks(detail.rest_capa_h, detail.rest_capa_l);
+            bars.capacity("Group " + detail.rgnum + ", RAID " + detail.level, total - rest, total);
             table.row(detail.rgnum, "RAID " + detail.level,
                     detail.parity_count + " x " + detail.parity_hdu_count,
-                    Capacity.of(0, detail.minimum_capa),
-                    Capacity.of(detail.total_capa_h, detail.total_capa_l),
-                    Capacity.of(detail.rest_capa_h, detail.rest_capa_l), detail.lu_count);
+                    Capacity.of(0, detail.minimum_capa), Capacity.of(total), Capacity.of(rest),
+                    detail.lu_count);
         }
-        table.print();
+        visit.show(table);
+        bars.addTo(visit.report);
     }
 
     private void createUnits() throws DiskArrayException {
+        Visit.need(group >= 0, "there is no new RAID group");
         LogicalUnit[] units = Visit.ARRAY.QV_GetLogicalUnit(visit.unit, visit.session);
-        int number = -1;
+        int next = 0;
         for (long size : SIZES) {
-            do {
-                number++;
-            } while (units[number].lu_valid != 0);
+            while (units[next].lu_valid != 0) {
+                next++;
+            }
+            int number = next++;
             LogicalUnitCreationRequest request = new LogicalUnitCreationRequest();
             request.luNumber = number;
             request.rgNumber = group;
             request.lu_capacity_h = (int) (size >>> 32);
             request.lu_capacity_l = (int) size;
             request.befor_lun = new int[128];
-            Visit.ARRAY.QV_CreateLogicalUnit(visit.unit, visit.session, request);
+            visit.make("logical unit " + number,
+                    () -> Visit.ARRAY.QV_CreateLogicalUnit(visit.unit, visit.session, request),
+                    () -> Visit.ARRAY.QV_LogicalUnitDeleteByLUN(visit.unit, visit.session, number));
             made.add(number);
         }
         Visit.ARRAY.QV_LogicalUnitChangeCtl(visit.unit, visit.session, made.get(1));
-        units();
-        groups();
     }
 
     private void units() throws DiskArrayException {
@@ -141,27 +140,35 @@ final class StoragePage {
                         unit.status == 0 ? "normal" : "code " + unit.status);
             }
         }
-        table.print();
+        visit.show(table);
+    }
+
+    private void needUnits() {
+        Visit.need(made.size() == SIZES.length, "there are no new logical units");
     }
 
     private void deleteGroup() throws DiskArrayException {
+        needUnits();
         Visit.ARRAY.QV_RaidGroupDelete(visit.unit, visit.session, group);
     }
 
     private void areas() throws DiskArrayException {
-        RGAreaInformation areas =
-                Visit.ARRAY.QV_GetRGAreaInformation(visit.unit, visit.session, group);
-        Table table = new Table("Area", "LU", "Capacity");
-        for (int index = 0; index < areas.area_count; index++) {
-            AreaInfo area = areas.area[index];
-            table.row(index, area.lun < 0 ? "free" : area.lun,
-                    Capacity.of(area.area_capa_h, area.area_capa_l));
+        Table table = new Table("Group", "Area", "LU", "Capacity");
+        for (RgDetail detail : detailsOfGroups()) {
+            RGAreaInformation areas =
+                    Visit.ARRAY.QV_GetRGAreaInformation(visit.unit, visit.session, detail.rgnum);
+            for (int index = 0; index < areas.area_count; index++) {
+                AreaInfo area = areas.area[index];
+                table.row(detail.rgnum, index, area.lun < 0 ? "free" : area.lun,
+                        Capacity.of(area.area_capa_h, area.area_capa_l));
+            }
         }
-        table.print();
+        visit.show(table);
     }
 
     /** Enters two LUs and asks until both are finished. */
     private void format() throws DiskArrayException {
+        needUnits();
         QuickFormatEntryList entries = new QuickFormatEntryList();
         entries.lu = new byte[8192];
         entries.lu[made.get(0)] = 1;
@@ -177,8 +184,7 @@ final class StoragePage {
             table.row(question, progress(first), progress(second));
             finished = first.percent >= FINISHED && second.percent >= FINISHED;
         }
-        table.print();
-        units();
+        visit.show(table);
     }
 
     private static String progress(QuickFormatStatus status) {
@@ -186,45 +192,59 @@ final class StoragePage {
                 ? "behind " + status.waiting_number : status.percent + " %";
     }
 
-    private void pool() throws DiskArrayException {
-        PoolDetailInfo[] pools =
-                Visit.ARRAY.QV_GetPoolInformation(visit.unit, visit.session).sys.pool;
+    private PoolDetailInfo[] allPools() throws DiskArrayException {
+        return Visit.ARRAY.QV_GetPoolInformation(visit.unit, visit.session).sys.pool;
+    }
+
+    private void createPool() throws DiskArrayException {
+        needUnits();
+        PoolDetailInfo[] pools = allPools();
         int unused = 0;
         while (unused < pools.length && pools[unused].lu_count > 0) {
             unused++;
         }
-        if (unused == pools.length) {
-            return;
-        }
-        Visit.ARRAY.QV_PoolLUAdd(visit.unit, visit.session, SHARED, unused, made.get(0));
-        pool = unused;
+        int pool = unused;
+        Visit.need(pool < pools.length, "all pools are in use");
+        visit.make("pool " + pool,
+                () -> Visit.ARRAY.QV_PoolLUAdd(visit.unit, visit.session, SHARED, pool, made.get(0)),
+                () -> Visit.ARRAY.QV_PoolLUAllDelete(visit.unit, visit.session, SHARED, pool));
+    }
+
+    private void pools() throws DiskArrayException {
         Table table = new Table("Pool", "Capacity", "Used", "Threshold", "LUs");
-        for (PoolDetailInfo each :
-                Visit.ARRAY.QV_GetPoolInformation(visit.unit, visit.session).sys.pool) {
+        Bars bars = new Bars("Pools", "Capacity", "used", Bars.FREE);
+        for (PoolDetailInfo each : allPools()) {
             if (each.lu_count > 0) {
-                table.row(each.pool_no, Capacity.of(each.allcapa_h, each.allcapa_l),
-                        Capacity.of(each.usedcapa_h, each.usedcapa_l), each.threshold,
+                long total = Capacity.blocks(each.allcapa_h, each.allcapa_l);
+                long used = Capacity.blocks(each.usedcapa_h, each.usedcapa_l);
+                bars.capacity("Pool " + each.pool_no + ", threshold " + each.threshold + " %", used, total);
+                table.row(each.pool_no, Capacity.of(total), Capacity.of(used), each.threshold + " %",
                         each.lu_count);
             }
         }
-        table.print();
+        visit.show(table);
+        bars.addTo(visit.report);
     }
 
-    private void volume() throws DiskArrayException {
+    private void createVolume() throws DiskArrayException {
         VvolDetailInformation request = new VvolDetailInformation();
         request.lun = Visit.ARRAY.QV_GetLastLogicalUnit(visit.unit) + 1;
         request.capacity_specify = 1;
         request.capacity_h = (int) (SIZES[1] >>> 32);
         request.capacity_l = (int) SIZES[1];
-        Visit.ARRAY.QV_CreateVVOLEx(visit.unit, visit.session, request);
-        volume = request.lun;
+        visit.make("virtual volume " + request.lun,
+                () -> Visit.ARRAY.QV_CreateVVOLEx(visit.unit, visit.session, request),
+                () -> Visit.ARRAY.QV_DeleteVVOL(visit.unit, visit.session, request.lun, 0));
+    }
+
+    private void volumes() throws DiskArrayException {
         VvolInformation volumes = Visit.ARRAY.QV_GetVVOLInformation(visit.unit, visit.session);
         Table table = new Table("LU", "Capacity");
         for (int index = 0; index < volumes.vvol_count; index++) {
             table.row(volumes.lu[index].lun,
                     Capacity.of(volumes.lu[index].capacity_h, volumes.lu[index].capacity_l));
         }
-        table.print();
+        visit.show(table);
     }
 
     private void guard() throws DiskArrayException {
@@ -236,20 +256,6 @@ final class StoragePage {
                         guards[number].access_level, guards[number].retention_term);
             }
         }
-        table.print();
-    }
-
-    private void delete() throws DiskArrayException {
-        if (volume >= 0) {
-            Visit.ARRAY.QV_DeleteVVOL(visit.unit, visit.session, volume, 0);
-        }
-        if (pool >= 0) {
-            Visit.ARRAY.QV_PoolLUAllDelete(visit.unit, visit.session, SHARED, pool);
-        }
-        for (int number : made) {
-            Visit.ARRAY.QV_LogicalUnitDeleteByLUN(visit.unit, visit.session, number);
-        }
-        groups();
-        deleteGroup();
+        visit.show(table);
     }
 }

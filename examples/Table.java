@@ -1,7 +1,7 @@
 import java.util.ArrayList;
 import java.util.List;
 
-/** Rows of texts, printed with aligned columns. */
+/** Rows of texts, the headings first, printed with aligned columns. */
 final class Table {
     private final List<String[]> rows = new ArrayList<String[]>();
 
@@ -16,6 +16,10 @@ final class Table {
         }
         rows.add(texts);
         return this;
+    }
+
+    List<String[]> rows() {
+        return rows;
     }
 
     void print() {

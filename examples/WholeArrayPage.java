@@ -17,7 +17,8 @@ final class WholeArrayPage {
     private WholeArrayPage() {}
 
     static void show(Visit visit) {
-        Visit.step("The whole array in one call", () -> summary(visit));
+        visit.page("The whole array");
+        visit.step("All of it in one call", () -> summary(visit));
     }
 
     private static void summary(Visit visit) throws DiskArrayException {
@@ -35,9 +36,9 @@ final class WholeArrayPage {
         hostGroups(all, table);
         pairs(all, table);
         accounts(all, table);
-        table.print();
-        System.out.printf(Locale.ROOT, "  %s, serial number %s, in %.2f seconds%n%n",
-                condition.device_type_name, condition.serial, seconds);
+        visit.show(table);
+        visit.say(String.format(Locale.ROOT, "%s, serial number %s, in %.2f seconds",
+                condition.device_type_name, condition.serial, seconds));
     }
 
     private static void drives(ArrayAllInformation all, Table table) {

@@ -9,16 +9,16 @@ file(COPY "${LIBRARIES}/libquorvelj.so" "${LIBRARIES}/recorder/libquorvel.so"
   DESTINATION "${DIRECTORY}")
 set(real "${LIBRARIES}/libquorvel.so")
 
-# tour(OUTPUT NAME=VALUE...): what the tour shows with these settings, without times.
+# tour(OUTPUT NAME=VALUE...): what the tour shows with these settings, without times, and its exit status.
 function(tour output)
   execute_process(
     COMMAND "${CMAKE_COMMAND}" -E env ${ARGN} "${JAVA}" "-Djava.library.path=${DIRECTORY}"
             -Djava.io.tmpdir=. -classpath "${LIBRARIES}/quorvelj.jar:${LIBRARIES}/array-tour.jar"
             ArrayTour
     WORKING_DIRECTORY "${DIRECTORY}" OUTPUT_VARIABLE shown ERROR_VARIABLE errors
-    COMMAND_ERROR_IS_FATAL ANY)
+    RESULT_VARIABLE status)
   string(REGEX REPLACE "in [0-9.]+ seconds" "in SECONDS" shown "${shown}")
-  set(${output} "${shown}" PARENT_SCOPE)
+  set(${output} "${shown}exit status ${status}\n" PARENT_SCOPE)
   set(errors "${errors}" PARENT_SCOPE)
 endfunction()
 
@@ -32,10 +32,11 @@ keep the tour.recording of there; ${errors}")
 endfunction()
 
 tour(direct "QUORVEL_REAL=${real}")
-if(NOT direct MATCHES "The whole array in one call")
+if(NOT direct MATCHES "All of it in one call.*exit status 0")
   message(FATAL_ERROR "The tour is not shown: ${direct}")
 endif()
-tour(shown "QUORVEL_REAL=${real}" QUORVEL_RECORD=tour.recording)
+# What a caller leaves unset is 0 then, so that equal tours give equal recordings.
+tour(shown "QUORVEL_REAL=${real}" QUORVEL_RECORD=tour.recording MALLOC_PERTURB_=255)
 expect_same(recorded "${shown}")
 file(STRINGS "${DIRECTORY}/tour.recording" leaked REGEX "quorvel([^j]|$)")
 if(leaked)
@@ -54,7 +55,7 @@ endif()
 
 # Without the real library.
 tour(shown QUORVEL_REAL=nothing.so)
-if(NOT shown MATCHES "refused with code 29001" OR
+if(NOT shown MATCHES "with code 29001 .*exit status 1" OR
     NOT errors MATCHES "^quorvel recorder: the real library cannot be loaded: nothing.so: [^\n]*\n$")
   message(FATAL_ERROR "without the real library: ${shown} ${errors}")
 endif()

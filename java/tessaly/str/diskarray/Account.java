@@ -4,7 +4,7 @@ package tessaly.str.diskarray;
 public class Account {
     /** Name of the account, at most 256 bytes. */
     public String user_id = "";
-    /** Whether <code>passwd</code> is to be set. */
+    /** Whether <code>passwd</code> is to be set, the library's own value. */
     public int set_passwd;
     /** New password, at most 256 bytes. */
     public String passwd = "";
@@ -12,6 +12,6 @@ public class Account {
     public int account_type;
     /** Role of the account, the library's own number. */
     public int role;
-    /** Whether the account may log in. */
+    /** Whether the account is enabled, the library's own value. */
     public int account_enable;
 }

@@ -4,8 +4,8 @@ package tessaly.str.diskarray;
 public class AccountOptionInfo {
     /** Length of the shortest password. */
     public int password_min_length;
-    /** Whether idle sessions end by themselves. */
+    /** Whether sessions time out, the library's own value. */
     public int session_timeout_used;
-    /** Time after which they end, in the library's own unit. */
+    /** Session timeout, in the library's own unit. */
     public int session_timeout;
 }

@@ -6,6 +6,6 @@ public class AlertCheckUser {
     public String user_id = "";
     /** Its password, at most 256 bytes. */
     public String passwd = "";
-    /** Whether the account is used, the library's own switch. */
+    /** Whether the account is enabled, the library's own value. */
     public int account_enable;
 }

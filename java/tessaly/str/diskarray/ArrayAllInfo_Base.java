@@ -14,7 +14,7 @@ public class ArrayAllInfo_Base {
     public UnitCondition[] unit_conditions;
     /** The unit. */
     public UnitInformation unit_info;
-    /** Alert flags by controller, 2 elements: the library's own values. */
+    /** Alert flags, 2 elements: the library's own values. */
     public int[] alert;
     /** Further alert flag, the library's own value. */
     public int alert_sa;
@@ -24,13 +24,13 @@ public class ArrayAllInfo_Base {
     public DiskDriveStatusAll diskdrive_status;
     /** What the drives are, by enclosure. */
     public DiskDriveInformationAll diskdrive_info;
-    /** Whether <code>rec_status</code> is valid: 0 where it is not. */
+    /** Whether <code>rec_status</code> is valid, the library's own value. */
     public int rec_status_valid;
     /** How far the reconstruction of a drive has come. */
     public DriveReconstructInformation rec_status;
     /** The RAID groups in detail. */
     public RaidGroupInformation raid_info;
-    /** The logical units, 8192 elements. */
+    /** The logical units, 8,192 elements. */
     public LogicalUnit[] lu;
     /** The command devices. */
     public CommandDevice comdev;
@@ -42,12 +42,15 @@ public class ArrayAllInfo_Base {
     public ParityCorrectionStatusList correctstatus;
     /** The integrated LUs. */
     public IntegrationLUInfo2 integration_lu2;
-    /** The mode of the LU mapping, the library's own code. */
+    /** Mapping mode, the library's own value. */
     public int mapping_mode;
     /** The batteries. */
     public BatteryConfig battery_config;
     /** Which locate LEDs are lit. */
     public LocateLEDInformation localled_info;
-    /** The controller that answered; over the simulator the request's <code>requestCTL</code>. */
+    /**
+     * The controller that is connected, the library's own value; over the simulator the request's
+     * <code>requestCTL</code>.
+     */
     public int connectedCTL;
 }

@@ -22,11 +22,11 @@ public class ArrayAllInfo_Config {
     public TimeInfo timeinfo;
     /** How drives are restored and spared. */
     public DiskDriveRestoration rest_info;
-    /** Verification while the array runs. */
+    /** Online verify. */
     public OnlineVerify verify;
     /** Boot options. */
     public BootOption boot_opt;
-    /** System parameters. */
+    /** Online system parameters. */
     public OnlineSystemParam on_sysparam;
     /** Options of the quick format. */
     public QuickFormatOption quickfmtopt;

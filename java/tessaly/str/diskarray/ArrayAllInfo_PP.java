@@ -4,7 +4,7 @@ package tessaly.str.diskarray;
 public class ArrayAllInfo_PP {
     /** Which members are valid, the library's own value. */
     public int valid_index;
-    /** The Turbo LUs. */
+    /** The Turbo LU parameters. */
     public TurboLu turbo_lu;
     /** The array's own users. */
     public QVUserRegist user_reg_info;

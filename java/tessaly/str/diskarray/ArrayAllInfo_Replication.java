@@ -6,7 +6,7 @@ public class ArrayAllInfo_Replication {
     public int valid_index;
     /** The pools. */
     public PoolInfo pool_info;
-    /** Remote paths. */
+    /** Remote-verify source paths. */
     public RvrfSrcInfo rvrfsrc;
     /** Options of asynchronous Farlink pairs. */
     public FarlinkAsyncOption flaopt_info;
@@ -14,7 +14,7 @@ public class ArrayAllInfo_Replication {
     public VvolInformation vvol_info;
     /** The consistency groups. */
     public CTGInformation ctg_def;
-    /** The coupled LUs. */
+    /** The pairs, as couplings of logical units. */
     public CouplingInfo lu_coup;
     /** The copy pairs. */
     public PairInfo pair_info;

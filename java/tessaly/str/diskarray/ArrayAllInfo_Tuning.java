@@ -4,7 +4,7 @@ package tessaly.str.diskarray;
 public class ArrayAllInfo_Tuning {
     /** Which members are valid, the library's own value. */
     public int valid_index;
-    /** Tuning parameters while the array runs. */
+    /** Online tuning parameters. */
     public OnlineTuningParam on_tuning;
     /** Tuning of prefetching. */
     public PrefetchTuning pre_tuning;

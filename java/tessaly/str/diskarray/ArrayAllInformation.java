@@ -12,23 +12,33 @@ public class ArrayAllInformation {
      * {@link DiskArrayUtilityJNI#QV_GetUnitCondition}.
      */
     public UnitCondition[] unit_conditions;
-    /** The state of the first 450 drives: {@link DiskArrayUtilityJNI#QV_GetDriveStatus}. */
+    /**
+     * The state of the drives in the flat form, 450 elements:
+     * {@link DiskArrayUtilityJNI#QV_GetDriveStatus}.
+     */
     public DiskDrive[] drive_status;
-    /** What the first 450 drives are: {@link DiskArrayUtilityJNI#QV_GetDriveInformationAll}. */
+    /**
+     * What the drives are in the flat form, 450 elements:
+     * {@link DiskArrayUtilityJNI#QV_GetDriveInformationAll}.
+     */
     public DiskDriveInformation[] drive_info;
-    /** The first RAID groups, 90 elements: {@link DiskArrayUtilityJNI#QV_GetRaidGroups}. */
+    /**
+     * The RAID groups in the short form, 90 elements: {@link DiskArrayUtilityJNI#QV_GetRaidGroups}.
+     */
     public RaidGroup[] raid;
     /** The RAID groups in detail: {@link DiskArrayUtilityJNI#QV_GetRaidGroupInformation}. */
     public RaidGroupInformation raid_info;
-    /** The first 4096 logical units of those of {@link DiskArrayUtilityJNI#QV_GetLogicalUnit}. */
+    /**
+     * Logical units, 4,096 elements of the 8,192 of {@link DiskArrayUtilityJNI#QV_GetLogicalUnit}.
+     */
     public LogicalUnit[] lu;
-    /** The coupled LUs: {@link DiskArrayUtilityJNI#QV_GetCouplingInfo}. */
+    /** The pairs, as couplings of logical units: {@link DiskArrayUtilityJNI#QV_GetCouplingInfo}. */
     public CouplingInfo lu_coup;
     /** The integrated LUs: {@link DiskArrayUtilityJNI#QV_IntegrationLUInfo}. */
     public IntegrationLUInfo integration_lu;
     /** The integrated LUs, second form: {@link DiskArrayUtilityJNI#QV_IntegrationLUInfo2}. */
     public IntegrationLUInfo2 integration_lu2;
-    /** The Turbo LUs: {@link DiskArrayUtilityJNI#QV_GetTurboLU}. */
+    /** The Turbo LU parameters: {@link DiskArrayUtilityJNI#QV_GetTurboLU}. */
     public TurboLu turbo_lu;
     /** The data-management LUs: {@link DiskArrayUtilityJNI#QV_GetDMLU}. */
     public DMLUInformation dm_lu;
@@ -47,7 +57,7 @@ public class ArrayAllInformation {
     public DiskDriveRestoration rest_info;
     /** Prefetching. */
     public PrefetchInformation prefetch_info;
-    /** Verification while the array runs. */
+    /** Online verify. */
     public OnlineVerify verify;
     /**
      * The fibre ports by controller, 2 elements:
@@ -58,13 +68,13 @@ public class ArrayAllInformation {
     public QVUserRegist user_reg_info;
     /** The command devices: {@link DiskArrayUtilityJNI#QV_GetCommandDevice}. */
     public CommandDevice comdev;
-    /** Online options, 2 elements. */
+    /** Parameters of the LU wizard, 2 elements. */
     public NowWZParameter[] on_opt;
-    /** Remote paths: {@link DiskArrayUtilityJNI#QV_GetRvrfSrcPath}. */
+    /** Remote-verify source paths: {@link DiskArrayUtilityJNI#QV_GetRvrfSrcPath}. */
     public RvrfSrcInfo rvrfsrc;
     /** The unit: {@link DiskArrayUtilityJNI#QV_GetUnitInformation}. */
     public UnitInformation unit_info;
-    /** Alert flags by controller, 2 elements: the library's own values. */
+    /** Alert flags, 2 elements: the library's own values. */
     public int[] alert;
     /** The host groups: {@link DiskArrayUtilityJNI#QV_GetHGList}. */
     public HGList hg;
@@ -80,11 +90,11 @@ public class ArrayAllInformation {
     public WWNHGInformation wwnhg;
     /** Boot options. */
     public BootOption boot_opt;
-    /** System parameters. */
+    /** Online system parameters. */
     public OnlineSystemParam on_sysparam;
     /** The LAN's port numbers: {@link DiskArrayUtilityJNI#QV_GetLANPortNumber}. */
     public LANPortNumber port_num;
-    /** Tuning parameters while the array runs. */
+    /** Online tuning parameters. */
     public OnlineTuningParam on_tuning;
     /** Tuning parameters. */
     public TuningParam tuning;

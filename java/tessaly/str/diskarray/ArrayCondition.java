@@ -1,8 +1,8 @@
 package tessaly.str.diskarray;
 
 /**
- * A summary of an array. A capacity is in two words, in blocks of 512 bytes: high times 2^32 plus
- * low, unsigned.
+ * A summary of an array. A capacity is in two words, in the library's own unit: high times 2^32
+ * plus low, unsigned. The simulator counts blocks of 512 bytes.
  */
 public class ArrayCondition {
     /** The library's own value; over the simulator the request's <code>login_request</code>. */
@@ -19,7 +19,7 @@ public class ArrayCondition {
     public int login_result;
     /** Operation rights, 9 elements: the library's own values. */
     public int[] operation_auth;
-    /** Whether <code>alert</code> is valid: 0 where it is not. */
+    /** Whether <code>alert</code> is valid, the library's own value. */
     public int alert_valid;
     /** Alert flags, 2 elements: the library's own values. */
     public int[] alert;

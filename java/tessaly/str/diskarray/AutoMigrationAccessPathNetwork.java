@@ -6,9 +6,9 @@ public class AutoMigrationAccessPathNetwork {
     public int dhcp_mode;
     /** IP address in dotted form, at most 15 bytes; not null. */
     public String ip_address = "";
-    /** Subnet in dotted form, at most 15 bytes; not null. */
+    /** Subnet mask in dotted form, at most 15 bytes; not null. */
     public String subnet = "";
-    /** Address of the gateway in dotted form, at most 15 bytes; not null. */
+    /** Gateway in dotted form, at most 15 bytes; not null. */
     public String gateway = "";
     /** Speed and duplex of the link, the library's own value. */
     public int linkspeed_duplex;

@@ -2,9 +2,9 @@ package tessaly.str.diskarray;
 
 /** How long the cache bus was in use, and by what, in the library's own unit of time. */
 public class CacheBusAll_Info {
-    /** Marks an entry in use: 0 where it is not. */
+    /** Not 0 where the entry is in use. */
     public int valid;
-    /** Whether the array counts it, the library's own value. */
+    /** Which of the values the array supports, the library's own value. */
     public int support;
     /** Time of the observation. */
     public int cachebus_monitoring_time;

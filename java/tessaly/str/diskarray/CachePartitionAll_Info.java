@@ -5,11 +5,11 @@ package tessaly.str.diskarray;
  * two words.
  */
 public class CachePartitionAll_Info {
-    /** Marks an entry in use: 0 where it is not. */
+    /** Not 0 where the entry is in use. */
     public int valid;
-    /** Whether the array counts it, the library's own value. */
+    /** Which of the values the array supports, the library's own value. */
     public int support;
-    /** Marks a partition in use: 0 where it is not. */
+    /** Not 0 where the partition is in use. */
     public int partition_valid;
     /** Its size. */
     public int partition_cache_size;

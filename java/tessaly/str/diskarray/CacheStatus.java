@@ -2,7 +2,7 @@ package tessaly.str.diskarray;
 
 /** The condition of a cache memory. */
 public class CacheStatus {
-    /** The library's own value. */
+    /** Option, the library's own value. */
     public int option;
     /** Condition, the library's own code. */
     public int condition;

@@ -1,13 +1,13 @@
 package tessaly.str.diskarray;
 
 /**
- * Commands of a port, a RAID group, an LU, a path or a drive. A counter has 32 bits without a sign,
- * and may begin again from 0.
+ * Commands of a port, a RAID group, an LU, a back-end path or a drive. A counter has 32 bits
+ * without a sign, and may begin again from 0.
  */
 public class CommandAll_Info {
-    /** Marks an entry in use: 0 where it is not. */
+    /** Not 0 where the entry is in use. */
     public int valid;
-    /** Whether the array counts it, the library's own value. */
+    /** Which of the values the array supports, the library's own value. */
     public int support;
     /** Read commands. */
     public int read_count;
@@ -21,6 +21,6 @@ public class CommandAll_Info {
     public int read_size;
     /** Data written, in the library's own unit. */
     public int write_size;
-    /** Verifications while the array runs. */
+    /** Online verifies. */
     public int online_verify_count;
 }

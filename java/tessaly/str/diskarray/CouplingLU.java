@@ -16,17 +16,17 @@ public class CouplingLU {
     public int primary_switch_stat;
     /** Switch state of the secondary side, the library's own value. */
     public int second_switch_stat;
-    /** Number of the pair among those of its primary logical unit. */
+    /** Mirror number, the library's own value. */
     public int mirror_no;
-    /** Capacity in blocks of 512 bytes, high word. */
+    /** Capacity in the library's own unit, high word. */
     public int capacity_h;
-    /** Capacity in blocks of 512 bytes, low word. */
+    /** Capacity in the library's own unit, low word. */
     public int capacity_l;
-    /** How much of the pair is synchronised, in percent. */
+    /** Synchronised rate, the library's own value; percent over the simulator. */
     public int synchronized_rate;
     /** When the pair was split. */
     public DateTime split_time;
-    /** Message that the split left with the pair. */
+    /** Message of the pair. */
     public String add_message;
     /** Whether the pair is in a consistency group; 0 is no. */
     public int ctg_valid;

@@ -6,6 +6,6 @@ public class DMLUInformation {
     public int mode;
     /** Number of data-management LUs; the array has its full length all the same. */
     public int dmlu_count;
-    /** Always 2 elements; hand over as many, none of them null. */
+    /** Always 2 elements; hand over as many, none of them null. Null in a new object. */
     public DMLUDetail[] dmlu;
 }

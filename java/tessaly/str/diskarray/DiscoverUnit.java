@@ -6,15 +6,15 @@ public class DiscoverUnit {
     public int connect_type;
     /** Address or device. */
     public String ip_dev;
-    /** Product type code, 0 to 255. */
+    /** Product type, 0 to 255. */
     public int qv_type;
-    /** Device type code, 0 to 255. */
+    /** Device type, 0 to 255. */
     public int device_type;
-    /** Unit configuration code, 0 to 255. */
+    /** Unit configuration, 0 to 255. */
     public int unit_conf;
-    /** Number of the controller that answered, 0 to 255. */
+    /** Controller number, 0 to 255. */
     public int ctlno;
-    /** Serial number, 10 bytes at most. */
+    /** Serial number, at most 10 bytes. */
     public String serial;
     /** Port of the communication with the unit, the library's own number. */
     public int communication_port;

@@ -11,7 +11,7 @@ package tessaly.str.diskarray;
  *     has at most 64 bytes.
  * <li>An object is read field by field. One that is null reaches the library as it lay in memory, and
  *     so does the rest of an object from a text, an array or an object in it on that is null. Nothing
- *     is thrown. New objects hold no null but where a field's comment says so.
+ *     is thrown. New objects hold no null but where the comment of a field or of its class says so.
  * <li>An array of ints or bytes in a request has at least the elements that its comment gives. A
  *     shorter one is an {@link ArrayIndexOutOfBoundsException}. The library is called nevertheless;
  *     its refusal takes the exception's place, or 2817 where an object is returned.
@@ -25,7 +25,8 @@ package tessaly.str.diskarray;
  * <li>{@link DiskArrayException} has the library's code where the library refuses, and 2817 where the
  *     result could not be built. Nothing is thrown for the library's code 256: the method returns
  *     null, 0 or nothing.
- * <li>{@link OutOfMemoryError} with an empty message: there is no native memory for the records.
+ * <li>{@link OutOfMemoryError} with an empty message: there is no native memory for the records, or
+ *     the library's code is 65535.
  * <li>Any thread may call. The calls share nothing but the library.
  * </ul>
  *
@@ -49,16 +50,18 @@ public class DiskArrayUtilityJNI {
     /**
      * Registers a unit under <code>param.unit_name</code>.
      *
-     * @param param the unit
-     * @throws DiskArrayException the library's code
+     * @param param the unit; not null
+     * @throws DiskArrayException with the library's code
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_UnitAdd(QVUnitParam param) throws DiskArrayException;
 
     /**
      * Registers a unit by its address.
      *
-     * @param param the unit, with an address
-     * @throws DiskArrayException the library's code
+     * @param param the unit, with an address; not null
+     * @throws DiskArrayException with the library's code
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_UnitAddByIP(QVUnitParam param) throws DiskArrayException;
 
@@ -66,8 +69,9 @@ public class DiskArrayUtilityJNI {
      * Changes a registered unit.
      *
      * @param unit the name that it is registered under
-     * @param param the unit as it is to be, with all its fields
-     * @throws DiskArrayException 258 or the library's code
+     * @param param the unit as it is to be, with all its fields; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_UnitChange(String unit, QVUnitParam param) throws DiskArrayException;
 
@@ -75,8 +79,9 @@ public class DiskArrayUtilityJNI {
      * Changes a registered unit by its address.
      *
      * @param unit the name that it is registered under
-     * @param param the unit as it is to be, with all its fields
-     * @throws DiskArrayException 258 or the library's code
+     * @param param the unit as it is to be, with all its fields; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_UnitChangeByIP(String unit, QVUnitParam param) throws DiskArrayException;
 
@@ -84,7 +89,7 @@ public class DiskArrayUtilityJNI {
      * Takes a unit from the list.
      *
      * @param unit the unit's registered name
-     * @throws DiskArrayException 258 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null
      */
     public native void QV_UnitDelete(String unit) throws DiskArrayException;
 
@@ -93,7 +98,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @return the unit
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native QVUnitParam QV_GetUnitParam(String unit) throws DiskArrayException;
 
@@ -101,7 +108,7 @@ public class DiskArrayUtilityJNI {
      * Returns the number of registered units.
      *
      * @return the number, or -1 for the library's code 256
-     * @throws DiskArrayException the library's code
+     * @throws DiskArrayException with the library's code
      */
     public native int QV_GetUnitCount() throws DiskArrayException;
 
@@ -113,16 +120,17 @@ public class DiskArrayUtilityJNI {
      *
      * @param count how many elements
      * @return the units; null where there is no native memory for as many, or the count is negative
-     * @throws DiskArrayException -1 where the array cannot be made, or the library's code
+     * @throws DiskArrayException with the library's code; -1 where the array cannot be made
      */
     public native QVUnitParam[] QV_GetUnitParamTable(int count) throws DiskArrayException;
 
     /**
      * Looks for a unit on the network.
      *
-     * @param request where to look
+     * @param request where to look; not null
      * @return the unit that was found
-     * @throws DiskArrayException 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 2817 where the result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native DiscoverUnit QV_DiscoverUnitInformation(DiscoverUnitRequest request)
             throws DiskArrayException;
@@ -130,9 +138,10 @@ public class DiskArrayUtilityJNI {
     /**
      * Looks for a unit on the network, in the extended form.
      *
-     * @param request where to look
+     * @param request where to look; not null
      * @return the unit that was found
-     * @throws DiskArrayException 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 2817 where the result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native DiscoverUnit QV_DiscoverUnitInformationEx(DiscoverUnitRequest request)
             throws DiskArrayException;
@@ -142,8 +151,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request how to attach them
-     * @throws DiskArrayException 258 or the library's code
+     * @param request how to attach them; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_AddAdditionalUnit(
             String unit, QVSessionInfo session, AdditionalUnitRequest request)
@@ -155,7 +165,9 @@ public class DiskArrayUtilityJNI {
      * @param unit the unit's registered name
      * @param session the session from a login
      * @return the additional units
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native AdditionalUnitInformation QV_GetAdditionalUnitInformation(
             String unit, QVSessionInfo session) throws DiskArrayException;
@@ -166,10 +178,11 @@ public class DiskArrayUtilityJNI {
      * Logs in to a unit with a user of the array's own list. A text that could not be made is null.
      *
      * @param unit the unit's registered name
-     * @param mode the library's own
+     * @param mode the library's own value
      * @param user the user; null is one with empty texts
      * @return two texts, or null where the array names nobody
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
      */
     public native String[] QV_LoginQVUnit(String unit, int mode, ArrayUser user)
             throws DiskArrayException;
@@ -178,9 +191,10 @@ public class DiskArrayUtilityJNI {
      * Returns who is logged in, as {@link #QV_LoginQVUnit} does.
      *
      * @param unit the unit's registered name
-     * @param mode the library's own
+     * @param mode the library's own value
      * @return two texts, or null where the array names nobody
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
      */
     public native String[] QV_GetLoginUser(String unit, int mode) throws DiskArrayException;
 
@@ -188,27 +202,27 @@ public class DiskArrayUtilityJNI {
      * Logs out of a unit.
      *
      * @param unit the unit's registered name
-     * @param mode the library's own
-     * @throws DiskArrayException 258 or the library's code
+     * @param mode the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
      */
     public native void QV_LogoutQVUnit(String unit, int mode) throws DiskArrayException;
 
     /**
-     * Returns whether somebody is logged in.
+     * Checks the login of a unit.
      *
      * @param unit the unit's registered name
-     * @param mode the library's own
+     * @param mode the library's own value
      * @return the library's own value
-     * @throws DiskArrayException 258 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null
      */
     public native int QV_CheckLogin(String unit, int mode) throws DiskArrayException;
 
     /**
-     * Ends whatever login there is.
+     * Resets the login of a unit.
      *
      * @param unit the unit's registered name
-     * @param mode the library's own
-     * @throws DiskArrayException 258 or the library's code
+     * @param mode the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
      */
     public native void QV_ResetLogin(String unit, int mode) throws DiskArrayException;
 
@@ -217,17 +231,18 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @throws DiskArrayException 258 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_KeepSession(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
     /**
-     * Throws where the unit is not ready.
+     * Tests whether a unit is ready: throws the library's code where it is not.
      *
      * @param unit the unit's registered name
-     * @param mode the library's own
-     * @throws DiskArrayException 258 or the library's code
+     * @param mode the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
      */
     public native void QV_TestUnitReady(String unit, int mode) throws DiskArrayException;
 
@@ -236,7 +251,8 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @throws DiskArrayException 258 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_UnitReboot(String unit, QVSessionInfo session)
             throws DiskArrayException;
@@ -244,17 +260,17 @@ public class DiskArrayUtilityJNI {
     /**
      * Sets the password of the library.
      *
-     * @param password the new password, at most 1,023 bytes; null is code 258
-     * @throws DiskArrayException 258 or the library's code
+     * @param password the new password, at most 1,023 bytes
+     * @throws DiskArrayException with the library's code; 258 where password is null
      */
     public native void QV_PasswdChange(String password) throws DiskArrayException;
 
     /**
      * Checks the password of the library. A copy of the text stays in memory for good.
      *
-     * @param password the password, of any length; null is code 258
-     * @return the library's 0 or -1; 2817 where Java has no memory for the text
-     * @throws DiskArrayException 258 or the library's code
+     * @param password the password, of any length
+     * @return the library's 0, -1 or 256; 2817 where Java has no memory for the text
+     * @throws DiskArrayException with the library's code; 258 where password is null
      */
     public native int QV_PasswdCheck(String password) throws DiskArrayException;
 
@@ -262,9 +278,10 @@ public class DiskArrayUtilityJNI {
      * Adds a user to the array's own list.
      *
      * @param unit the unit's registered name
-     * @param number user number, the library's own
-     * @param user the user
-     * @throws DiskArrayException 258 or the library's code
+     * @param number user number, the library's own value
+     * @param user the user; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_RegistUser(String unit, int number, ArrayUser user)
             throws DiskArrayException;
@@ -273,10 +290,11 @@ public class DiskArrayUtilityJNI {
      * Changes a user of the array's own list.
      *
      * @param unit the unit's registered name
-     * @param number user number, the library's own
-     * @param oldUser the user until now
-     * @param newUser the user from now on
-     * @throws DiskArrayException 258 or the library's code
+     * @param number user number, the library's own value
+     * @param oldUser the user until now; not null
+     * @param newUser the user from now on; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_ChangeUser(
             String unit, int number, ArrayUser oldUser, ArrayUser newUser)
@@ -286,9 +304,10 @@ public class DiskArrayUtilityJNI {
      * Takes a user from the array's own list.
      *
      * @param unit the unit's registered name
-     * @param number user number, the library's own
-     * @param user the user
-     * @throws DiskArrayException 258 or the library's code
+     * @param number user number, the library's own value
+     * @param user the user; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_DeleteUser(String unit, int number, ArrayUser user)
             throws DiskArrayException;
@@ -297,8 +316,8 @@ public class DiskArrayUtilityJNI {
      * Empties the array's own list of users.
      *
      * @param unit the unit's registered name
-     * @param number user number, the library's own
-     * @throws DiskArrayException 258 or the library's code
+     * @param number user number, the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
      */
     public native void QV_DeleteAllUser(String unit, int number) throws DiskArrayException;
 
@@ -306,20 +325,24 @@ public class DiskArrayUtilityJNI {
      * Returns the state of the array's own list of users.
      *
      * @param unit the unit's registered name
-     * @param number user number, the library's own
+     * @param number user number, the library's own value
      * @return the state of the list
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native QVUserRegist QV_GetUserInformation(String unit, int number)
             throws DiskArrayException;
 
     /**
-     * Returns what kind of array a unit is, and how much of everything it can hold.
+     * Returns what kind of array a unit is, and its numbers of logical objects and parts.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
      * @return the unit
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native UnitInformation QV_GetUnitInformation(String unit, QVSessionInfo session)
             throws DiskArrayException;
@@ -330,43 +353,46 @@ public class DiskArrayUtilityJNI {
      * @param unit the unit's registered name
      * @param session the session from a login
      * @return the kinds
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native CTLPortKind QV_GetUnitCTLPortKind(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
     /**
-     * Returns the time of a unit's clock. A null name is an empty one. Each call keeps 32 bytes of
-     * native memory for good.
+     * Returns the time of a unit's clock. Each call keeps 32 bytes of native memory for good.
      *
-     * @param unit the unit's registered name
+     * @param unit the unit's registered name; null is an empty one
      * @param session the session from a login
      * @return the time; null where it cannot be built, without code 2817
-     * @throws DiskArrayException the library's code
+     * @throws DiskArrayException with the library's code
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native QVTime QV_GetUnitTime(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
     /**
-     * Sets a unit's clock. A null name is an empty one. Each call keeps 32 bytes of native memory
-     * for good.
+     * Sets a unit's clock. Each call keeps 32 bytes of native memory for good.
      *
-     * @param unit the unit's registered name
+     * @param unit the unit's registered name; null is an empty one
      * @param session the session from a login
      * @param time the time
-     * @throws DiskArrayException -1 for a null time, 2817 for a time or a session that cannot be
-     *     read, both without a call of the library, or the library's code
+     * @throws DiskArrayException with the library's code; -1 where time is null and 2817 where time
+     *     or session cannot be read, both without a call of the library
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_SetUnitTime(String unit, QVSessionInfo session, QVTime time)
             throws DiskArrayException;
 
     /**
-     * Sets a unit's clock to the host's time. A null name is an empty one. Each call keeps 32 bytes
-     * of native memory for good.
+     * Sets a unit's clock to the time that it is now. Each call keeps 32 bytes of native memory for
+     * good.
      *
-     * @param unit the unit's registered name
+     * @param unit the unit's registered name; null is an empty one
      * @param session the session from a login
-     * @throws DiskArrayException the library's code
+     * @throws DiskArrayException with the library's code
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_SetUnitTimeNow(String unit, QVSessionInfo session)
             throws DiskArrayException;
@@ -377,7 +403,9 @@ public class DiskArrayUtilityJNI {
      * @param unit the unit's registered name
      * @param session the session from a login
      * @return its identifier
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native UnitIdentifier QV_GetUnitIdentifier(String unit, QVSessionInfo session)
             throws DiskArrayException;
@@ -388,8 +416,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param identifier its identifier
-     * @throws DiskArrayException 258 or the library's code
+     * @param identifier its identifier; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_SetUnitIdentifier(
             String unit, QVSessionInfo session, UnitIdentifier identifier)
@@ -401,7 +430,9 @@ public class DiskArrayUtilityJNI {
      * @param unit the unit's registered name
      * @param session the session from a login
      * @return the settings
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native TimeInfo QV_GetTimeInfo(String unit, QVSessionInfo session)
             throws DiskArrayException;
@@ -413,8 +444,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param info the settings
-     * @throws DiskArrayException 258 or the library's code
+     * @param info the settings; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_SetTimeInfo(String unit, QVSessionInfo session, TimeInfo info)
             throws DiskArrayException;
@@ -440,7 +472,7 @@ public class DiskArrayUtilityJNI {
      * before.
      *
      * @param unit the unit's registered name
-     * @param request who asks; null hands over a request as it lay in memory
+     * @param request who asks; not null
      * @return the summary; over the simulator also where the caller is refused
      * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
      *     result could not be built
@@ -483,7 +515,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the controllers that are asked; null hands over a request as it lay in memory
+     * @param request the controllers that are asked; not null
      * @return the slice
      * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
      *     result could not be built
@@ -497,7 +529,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the controllers that are asked; null hands over a request as it lay in memory
+     * @param request the controllers that are asked; not null
      * @return the slice
      * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
      *     result could not be built
@@ -511,7 +543,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the controllers that are asked; null hands over a request as it lay in memory
+     * @param request the controllers that are asked; not null
      * @return the slice
      * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
      *     result could not be built
@@ -525,7 +557,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the controllers that are asked; null hands over a request as it lay in memory
+     * @param request the controllers that are asked; not null
      * @return the slice
      * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
      *     result could not be built
@@ -539,7 +571,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the controllers that are asked; null hands over a request as it lay in memory
+     * @param request the controllers that are asked; not null
      * @return the slice
      * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
      *     result could not be built
@@ -553,7 +585,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the controllers that are asked; null hands over a request as it lay in memory
+     * @param request the controllers that are asked; not null
      * @return the slice
      * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
      *     result could not be built
@@ -567,7 +599,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the controllers that are asked; null hands over a request as it lay in memory
+     * @param request the controllers that are asked; not null
      * @return the slice
      * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
      *     result could not be built
@@ -581,7 +613,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the controllers that are asked; null hands over a request as it lay in memory
+     * @param request the controllers that are asked; not null
      * @return the slice
      * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
      *     result could not be built
@@ -595,7 +627,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the controllers that are asked; null hands over a request as it lay in memory
+     * @param request the controllers that are asked; not null
      * @return the slice
      * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
      *     result could not be built
@@ -609,7 +641,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the controllers that are asked; null hands over a request as it lay in memory
+     * @param request the controllers that are asked; not null
      * @return the slice
      * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
      *     result could not be built
@@ -676,11 +708,11 @@ public class DiskArrayUtilityJNI {
 
     /**
      * Returns the state of the drives in the flat form, 450 elements. An element that could not be
-     * built is null.
+     * built is null. Each call keeps 32 bytes of native memory for good.
      *
      * @param unit the unit's registered name; null is an empty one
      * @param session the session from a login
-     * @return the states
+     * @return the states; null where there is no array for them
      * @throws DiskArrayException with the library's code
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -720,7 +752,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param restoration the settings; null hands them over as they lay in memory
+     * @param restoration the settings; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -746,7 +778,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param information the settings; null hands them over as they lay in memory
+     * @param information the settings; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -772,7 +804,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param restoration the settings; null hands them over as they lay in memory
+     * @param restoration the settings; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -798,7 +830,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param diagnosis the settings; null hands them over as they lay in memory
+     * @param diagnosis the settings; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -876,7 +908,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param path path of the file, at most 1023 bytes
+     * @param path path of the file, at most 1,023 bytes
      * @throws DiskArrayException with the library's code; 258 where unit or path is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -928,7 +960,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param config the batteries; null hands them over as they lay in memory
+     * @param config the batteries; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -949,12 +981,11 @@ public class DiskArrayUtilityJNI {
             String unit, QVSessionInfo session) throws DiskArrayException;
 
     /**
-     * Lights locate LEDs, and puts out the others: change those of
-     * {@link #QV_GetLocateLEDInformation}.
+     * Sets which locate LEDs are lit: change those of {@link #QV_GetLocateLEDInformation}.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param information the LEDs; null hands them over as they lay in memory
+     * @param information the LEDs; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -963,7 +994,7 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Returns the data that is pinned in the cache.
+     * Returns the pinned data.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
@@ -976,11 +1007,11 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Returns the data that is pinned in the cache in the short form.
+     * Returns the pinned data in the short form.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @return a value for each logical unit, 8192 elements: the library's own
+     * @return a value for each logical unit, 8,192 elements: the library's own
      * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
      *     result could not be built
      * @throws OutOfMemoryError where there is no native memory
@@ -989,7 +1020,7 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Lets go of the data that is pinned in the cache.
+     * Flushes the pinned data.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
@@ -1000,7 +1031,7 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Returns the library's number on the data that is pinned in the cache.
+     * Returns the library's number on pinned data.
      *
      * @param unit the unit's registered name
      * @param option the library's own value
@@ -1010,7 +1041,7 @@ public class DiskArrayUtilityJNI {
     public native int QV_GetPinInfo(String unit, int option) throws DiskArrayException;
 
     /**
-     * Returns the library's number on the time that asking for pinned data takes.
+     * Returns the library's number on the time of getting pinned data.
      *
      * @param unit the unit's registered name
      * @param option the library's own value
@@ -1023,7 +1054,7 @@ public class DiskArrayUtilityJNI {
 
     /**
      * Returns the command counts of the LUs up to 4,095: a light snapshot. The elements from one
-     * that could not be built on are null.
+     * that could not be built on are null. Each call keeps 32 bytes of native memory for good.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
@@ -1036,7 +1067,7 @@ public class DiskArrayUtilityJNI {
 
     /**
      * Returns all counters: a snapshot of 7 MB. The elements from one that could not be built on
-     * are null.
+     * are null. Each call keeps 32 bytes of native memory for good.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
@@ -1055,7 +1086,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param path path of the file, at most 1023 bytes
+     * @param path path of the file, at most 1,023 bytes
      * @param preinfo0 snapshot of controller 0 before the interval
      * @param afterinfo0 snapshot of controller 0 after the interval
      * @param preinfo1 snapshot of controller 1 before the interval
@@ -1069,17 +1100,17 @@ public class DiskArrayUtilityJNI {
             StatisticalCommand afterinfo1) throws DiskArrayException;
 
     /**
-     * Writes the command counts of an interval to a file, for the LUs whose byte is not zero. A
-     * snapshot that is null reaches the library as it lay in memory.
+     * Writes the command counts of an interval to a file, for the LUs that are selected. A snapshot
+     * that is null reaches the library as it lay in memory.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param path path of the file, at most 1023 bytes
+     * @param path path of the file, at most 1,023 bytes
      * @param preinfo0 snapshot of controller 0 before the interval
      * @param afterinfo0 snapshot of controller 0 after the interval
      * @param preinfo1 snapshot of controller 1 before the interval
      * @param afterinfo1 snapshot of controller 1 after the interval
-     * @param lu a byte for each LU, 4096 bytes; null selects none
+     * @param lu selects LUs, 4,096 bytes, the library's own values; null is all zeros
      * @param option0 the library's own value
      * @param option1 the library's own value
      * @throws DiskArrayException with the library's code; 258 where unit or path is null
@@ -1100,8 +1131,7 @@ public class DiskArrayUtilityJNI {
      * Confirm the layout before the first call on an array in use.
      *
      * @param unit the unit's registered name
-     * @param request the snapshots, and what to write of them; null hands it over as it lay in
-     *     memory
+     * @param request the snapshots, and what to write of them; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1116,8 +1146,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the snapshots, and what to write of them; null hands it over as it lay in
-     *     memory
+     * @param request the snapshots, and what to write of them; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1126,11 +1155,11 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Writes to a file that an interval was left out.
+     * Writes to a performance file that a time is skipped, as the method's name says.
      *
      * @param unit the unit's registered name
-     * @param path path of the file, at most 1023 bytes
-     * @param time the time of the interval; null hands it over as it lay in memory
+     * @param path path of the file, at most 1,023 bytes
+     * @param time the time; not null
      * @param option the library's own value
      * @throws DiskArrayException with the library's code; 258 where unit or path is null
      * @throws OutOfMemoryError where there is no native memory
@@ -1144,8 +1173,8 @@ public class DiskArrayUtilityJNI {
      * <p>Layout assumed: 256 bytes have no field, and reach the library as they lay in memory.
      * Confirm the layout before the first call on an array in use.
      *
-     * @param path path of the collection, at most 1023 bytes
-     * @param request the part, and where to write it; null hands it over as it lay in memory
+     * @param path path of the collection, at most 1,023 bytes
+     * @param request the part, and where to write it; not null
      * @throws DiskArrayException with the library's code; 258 where path is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1153,13 +1182,13 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Returns how many CSV files a part of a collection makes.
+     * Returns the number of CSV files of a part of a collection.
      *
      * <p>Layout assumed: 256 bytes have no field, and reach the library as they lay in memory.
      * Confirm the layout before the first call on an array in use.
      *
-     * @param path path of the collection, at most 1023 bytes
-     * @param request the part, and where to write it; null hands it over as it lay in memory
+     * @param path path of the collection, at most 1,023 bytes
+     * @param request the part, and where to write it; not null
      * @return the number of files
      * @throws DiskArrayException with the library's code; 258 where path is null
      * @throws OutOfMemoryError where there is no native memory
@@ -1172,7 +1201,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the snapshots; null hands them over as they lay in memory
+     * @param request the snapshots; not null
      * @return the graph
      * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
      *     result could not be built
@@ -1186,7 +1215,7 @@ public class DiskArrayUtilityJNI {
      * Begins a collection.
      *
      * @param session the session from a login
-     * @param path path of the collection, at most 1023 bytes
+     * @param path path of the collection, at most 1,023 bytes
      * @param option0 the library's own value; over the simulator the interval
      * @param option1 the library's own value
      * @throws DiskArrayException with the library's code; 258 where path is null
@@ -1202,8 +1231,8 @@ public class DiskArrayUtilityJNI {
      * <p>Layout assumed: 864,488 bytes have no field, and reach the library as they lay in memory.
      * Confirm the layout before the first call on an array in use.
      *
-     * @param path path of the collection, at most 1023 bytes
-     * @param graph the graph; null hands it over as it lay in memory
+     * @param path path of the collection, at most 1,023 bytes
+     * @param graph the graph; not null
      * @throws DiskArrayException with the library's code; 258 where path is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1213,7 +1242,7 @@ public class DiskArrayUtilityJNI {
     /**
      * Returns the content of a collection's management file.
      *
-     * @param path path of the file, at most 1023 bytes
+     * @param path path of the file, at most 1,023 bytes
      * @return its content
      * @throws DiskArrayException with the library's code; 258 where path is null; 2817 where the
      *     result could not be built
@@ -1223,7 +1252,7 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Returns how many files a collection may have.
+     * Returns the largest number of performance files.
      *
      * @return the number of files
      * @throws DiskArrayException with the library's code
@@ -1231,11 +1260,11 @@ public class DiskArrayUtilityJNI {
     public native int QV_GetPfmFileMaxCount() throws DiskArrayException;
 
     /**
-     * Returns whether a unit counts.
+     * Returns the statistics switch of a unit.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @return 0 where it does not count, over the simulator; else the library's own value
+     * @return the switch, the library's own value; over the simulator 0 for off
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1243,11 +1272,11 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Switches counting on or off.
+     * Sets the statistics switch of a unit.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param enabled 0 switches off, over the simulator; else the library's own value
+     * @param enabled the switch, the library's own value; over the simulator 0 for off
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1255,11 +1284,11 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Returns the numbers of errors at which a drive is reported.
+     * Returns the drive error thresholds.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @return the numbers
+     * @return the thresholds
      * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
      *     result could not be built
      * @throws OutOfMemoryError where there is no native memory
@@ -1268,11 +1297,11 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Sets the numbers of errors at which a drive is reported.
+     * Sets the drive error thresholds.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param threshold the numbers; null hands them over as they lay in memory
+     * @param threshold the thresholds; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1302,7 +1331,7 @@ public class DiskArrayUtilityJNI {
      * could not be built on are null.
      *
      * @param unit the unit's registered name
-     * @return the RAID groups, 90 elements
+     * @return the RAID groups, 90 elements; null where there is no array for them
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1322,7 +1351,7 @@ public class DiskArrayUtilityJNI {
      * Expands a RAID group.
      *
      * @param unit the unit's registered name
-     * @param group the RAID group as it is to be; not null
+     * @param group the RAID group; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1412,7 +1441,8 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @return the LUs, 8,192 elements; those in use have a <code>lu_valid</code> other than 0
+     * @return the LUs, 8,192 elements; those in use have a <code>lu_valid</code> other than 0. Null
+     *     where there is no array for them
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1470,7 +1500,7 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Deletes an LU; the library chooses which.
+     * Deletes an LU; which one is the library's own.
      *
      * @param unit the unit's registered name
      * @throws DiskArrayException with the library's code; 258 where unit is null
@@ -1543,7 +1573,7 @@ public class DiskArrayUtilityJNI {
     public native void QV_LogicalUnitInvalid(String unit, int lun) throws DiskArrayException;
 
     /**
-     * Restores an LU that was invalidated.
+     * Restores an LU.
      *
      * @param unit the unit's registered name
      * @param lun the LU number
@@ -1552,10 +1582,10 @@ public class DiskArrayUtilityJNI {
     public native void QV_LogicalUnitRestore(String unit, int lun) throws DiskArrayException;
 
     /**
-     * Moves and resizes an LU.
+     * Reallocates an LU.
      *
      * @param unit the unit's registered name
-     * @param request the LU and its new place and size; not null
+     * @param request the LU, its size and its new number; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -1563,7 +1593,7 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Starts to format an LU.
+     * Formats an LU.
      *
      * @param unit the unit's registered name
      * @param first the library's own value
@@ -1599,7 +1629,7 @@ public class DiskArrayUtilityJNI {
      * Returns how far the formatting of each LU is. A list that cannot be built is null, with the
      * error that the JVM has for it and no 2817.
      *
-     * @param unit the unit's registered name; null is taken as an empty one
+     * @param unit the unit's registered name; null is an empty one
      * @return the list, 2,048 LUs
      * @throws DiskArrayException with the library's code
      * @throws OutOfMemoryError where there is no native memory
@@ -1889,11 +1919,11 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Integrates or separates LUs.
+     * Carries out an operation on integrated LUs.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request what to do with which LUs; not null
+     * @param request the operation and its LUs; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      * @throws ArrayIndexOutOfBoundsException where <code>child_lu</code> is too short; the library
@@ -1993,11 +2023,11 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Returns the cache-resident LUs.
+     * Returns the Turbo LU parameters.
      *
-     * @param unit the unit's registered name; null is taken as an empty one
+     * @param unit the unit's registered name; null is an empty one
      * @param session the session from a login
-     * @return the cache-resident LUs
+     * @return the parameters
      * @throws DiskArrayException with the library's code; 2817 where the result could not be built
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -2005,14 +2035,14 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Sets the cache-resident LUs.
+     * Sets the Turbo LU parameters.
      *
      * <p>Layout assumed: 44 bytes have no field, and reach the library as they lay in memory.
      * Confirm the layout before the first call on an array in use.
      *
-     * @param unit the unit's registered name; null is taken as an empty one
+     * @param unit the unit's registered name; null is an empty one
      * @param session the session from a login
-     * @param turbo the cache-resident LUs, of which nothing is read; may be null
+     * @param turbo the parameters, of which nothing is read; may be null
      * @throws DiskArrayException with the library's code
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -2082,7 +2112,7 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Sets host groups of all ports back to their first state.
+     * Initialises host groups of all ports.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
@@ -2113,7 +2143,7 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Sets host groups of one port back to their first state.
+     * Initialises host groups of one port.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
@@ -2514,7 +2544,7 @@ public class DiskArrayUtilityJNI {
      * Returns the target IDs that a file holds.
      *
      * @param unit the unit's registered name
-     * @param file the path of the file, at most 1,023 bytes
+     * @param file path of the file, at most 1,023 bytes
      * @return the target IDs, 2 elements
      * @throws DiskArrayException with the library's code; 258 where unit or file is null; 2817
      *     where the result could not be built
@@ -2526,8 +2556,8 @@ public class DiskArrayUtilityJNI {
      * Returns the target IDs that two files hold, in the WZ form.
      *
      * @param unit the unit's registered name
-     * @param first the path of the first file, at most 1,023 bytes
-     * @param second the path of the second file, at most 1,023 bytes
+     * @param first path of the first file, at most 1,023 bytes
+     * @param second path of the second file, at most 1,023 bytes
      * @return the target IDs, 2 elements
      * @throws DiskArrayException with the library's code; 258 where unit, first or second is null;
      *     2817 where the result could not be built
@@ -2627,7 +2657,7 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Takes all iSCSI targets of a port back to their first state.
+     * Initialises all iSCSI targets of a port.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
@@ -2761,7 +2791,7 @@ public class DiskArrayUtilityJNI {
      * Imports CHAP users from a file.
      *
      * @param unit the unit's registered name
-     * @param path the path of the file, at most 1,023 bytes
+     * @param path path of the file, at most 1,023 bytes
      * @param session the session from a login
      * @throws DiskArrayException with the library's code; 258 where unit or path is null
      * @throws OutOfMemoryError where there is no native memory
@@ -2970,7 +3000,7 @@ public class DiskArrayUtilityJNI {
      * Reads the user LAN from a file.
      *
      * @param unit the unit's registered name
-     * @param path the path of the file, at most 1,023 bytes
+     * @param path path of the file, at most 1,023 bytes
      * @param session the session from a login
      * @return the user LAN that the file holds
      * @throws DiskArrayException with the library's code; 258 where unit or path is null; 2817
@@ -3049,11 +3079,11 @@ public class DiskArrayUtilityJNI {
             String unit, QVSessionInfo session) throws DiskArrayException;
 
     /**
-     * Returns the LAN of the network controllers.
+     * Returns the LAN of the network node controllers.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @return the LAN of the network controllers
+     * @return the LAN of the network node controllers
      * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
      *     result could not be built
      * @throws OutOfMemoryError where there is no native memory
@@ -3062,11 +3092,11 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Sets the LAN of the network controllers.
+     * Sets the LAN of the network node controllers.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param information the LAN of the network controllers; not null
+     * @param information the LAN of the network node controllers; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -3110,8 +3140,8 @@ public class DiskArrayUtilityJNI {
     /**
      * Reads the permitted hosts of a Fibre Channel port from a file.
      *
-     * @param unit the unit's registered name; null is taken as an empty one
-     * @param path the path of the file, at most 1,023 bytes; null is taken as an empty one
+     * @param unit the unit's registered name; null is an empty one
+     * @param path path of the file, at most 1,023 bytes; null is an empty one
      * @param port the port, the library's own number
      * @return the hosts, 128 elements
      * @throws DiskArrayException with the library's code; 2817 where the result could not be built
@@ -3147,11 +3177,12 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Dissolves Gemlyn pairs.
+     * Carries out the operation that is called simple on Gemlyn pairs; over the simulator it
+     * dissolves them.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the pairs to dissolve; not null
+     * @param request the pairs; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -3171,7 +3202,7 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Copies the secondary side of Gemlyn pairs back.
+     * Restores Gemlyn pairs.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
@@ -3207,11 +3238,12 @@ public class DiskArrayUtilityJNI {
             String unit, QVSessionInfo session, SplitSnapShotPair request) throws DiskArrayException;
 
     /**
-     * Dissolves SnapShot pairs.
+     * Carries out the operation that is called simple on SnapShot pairs; over the simulator it
+     * dissolves them.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the pairs to dissolve; not null
+     * @param request the pairs; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -3231,7 +3263,7 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Copies the secondary side of SnapShot pairs back.
+     * Restores SnapShot pairs.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
@@ -3267,11 +3299,11 @@ public class DiskArrayUtilityJNI {
             String unit, QVSessionInfo session, SplitFarlinkPair request) throws DiskArrayException;
 
     /**
-     * Dissolves Farlink pairs.
+     * Carries out the operation that is called simple on Farlink pairs.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the pairs to dissolve; not null
+     * @param request the pairs; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -3291,7 +3323,7 @@ public class DiskArrayUtilityJNI {
             String unit, QVSessionInfo session, RemotePairOperation request) throws DiskArrayException;
 
     /**
-     * Swaps the sides of Farlink pairs.
+     * Swaps Farlink pairs.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
@@ -3327,11 +3359,11 @@ public class DiskArrayUtilityJNI {
             String unit, QVSessionInfo session, SplitLonglinkPair request) throws DiskArrayException;
 
     /**
-     * Dissolves Longlink pairs.
+     * Carries out the operation that is called simple on Longlink pairs.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the pairs to dissolve; not null
+     * @param request the pairs; not null
      * @throws DiskArrayException with the library's code; 258 where unit is null
      * @throws OutOfMemoryError where there is no native memory
      */
@@ -3351,7 +3383,7 @@ public class DiskArrayUtilityJNI {
             String unit, QVSessionInfo session, RemotePairOperation request) throws DiskArrayException;
 
     /**
-     * Swaps the sides of Longlink pairs.
+     * Swaps Longlink pairs.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
@@ -3469,11 +3501,11 @@ public class DiskArrayUtilityJNI {
             String unit, QVSessionInfo session) throws DiskArrayException;
 
     /**
-     * Returns the asynchronous pairs and their consistency groups.
+     * Returns the asynchronous Farlink pairs and their consistency groups.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @return the asynchronous pairs and their groups
+     * @return the asynchronous Farlink pairs and their groups
      * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
      *     result could not be built
      * @throws OutOfMemoryError where there is no native memory
@@ -3482,7 +3514,7 @@ public class DiskArrayUtilityJNI {
             String unit, QVSessionInfo session) throws DiskArrayException;
 
     /**
-     * Returns the settings of asynchronous pairs.
+     * Returns the settings of asynchronous Farlink pairs.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
@@ -3495,7 +3527,7 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Sets the settings of asynchronous pairs.
+     * Sets the settings of asynchronous Farlink pairs.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
@@ -3622,7 +3654,7 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Sets up a remote path anew.
+     * Rebuilds a remote path.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
@@ -3635,7 +3667,7 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Returns the paths to other arrays, as the source of remote verify.
+     * Returns the remote-verify source paths.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
@@ -3648,7 +3680,7 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Sets the paths to another array, as the source of remote verify.
+     * Sets the remote-verify source paths to another array.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
@@ -3660,7 +3692,7 @@ public class DiskArrayUtilityJNI {
             throws DiskArrayException;
 
     /**
-     * Deletes the paths to other arrays, as the source of remote verify.
+     * Deletes the remote-verify source paths.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
@@ -3947,10 +3979,11 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param path of a file of this host, at most 1,023 bytes
-     * @param option the library's own
-     * @return the library's number for it
-     * @throws DiskArrayException 258 or the library's code
+     * @param path path of the file, at most 1,023 bytes
+     * @param option the library's own value
+     * @return the int that the library writes, its own value
+     * @throws DiskArrayException with the library's code; 258 where unit or path is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native int QV_MicroFileConcat(
             String unit, QVSessionInfo session, String path, int option) throws DiskArrayException;
@@ -3960,8 +3993,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param path of a file of this host, at most 1,023 bytes
-     * @throws DiskArrayException 258 or the library's code
+     * @param path path of the file, at most 1,023 bytes
+     * @throws DiskArrayException with the library's code; 258 where unit or path is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_MicroFileConcat2(String unit, QVSessionInfo session, String path)
             throws DiskArrayException;
@@ -3971,8 +4005,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param path of a file of this host, at most 1,023 bytes
-     * @throws DiskArrayException 258 or the library's code
+     * @param path path of the file, at most 1,023 bytes
+     * @throws DiskArrayException with the library's code; 258 where unit or path is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_MicroFileConcatEx(String unit, QVSessionInfo session, String path)
             throws DiskArrayException;
@@ -3982,9 +4017,10 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param first path of the first file of this host, at most 1,023 bytes
-     * @param second path of the second, likewise
-     * @throws DiskArrayException 258 or the library's code
+     * @param first path of the first file, at most 1,023 bytes
+     * @param second path of the second file, at most 1,023 bytes
+     * @throws DiskArrayException with the library's code; 258 where unit, first or second is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_MicroFileConcatEx2(
             String unit, QVSessionInfo session, String first, String second)
@@ -3993,15 +4029,15 @@ public class DiskArrayUtilityJNI {
     /**
      * Gives up what is staged of the array's firmware.
      *
-     * @throws DiskArrayException the library's code
+     * @throws DiskArrayException with the library's code
      */
     public native void QV_CancelMicroFileConcat() throws DiskArrayException;
 
     /**
      * Gives up a staged firmware file.
      *
-     * @param path of a file of this host, at most 1,023 bytes
-     * @throws DiskArrayException 258 or the library's code
+     * @param path path of the file, at most 1,023 bytes
+     * @throws DiskArrayException with the library's code; 258 where path is null
      */
     public native void QV_CancelMicroFileConcat2(String path) throws DiskArrayException;
 
@@ -4010,7 +4046,7 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @return the library's own count
-     * @throws DiskArrayException 258 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null
      */
     public native int QV_GetMicroDownloadCount(String unit) throws DiskArrayException;
 
@@ -4018,9 +4054,9 @@ public class DiskArrayUtilityJNI {
      * Returns how far the download came, in the extended form.
      *
      * @param unit the unit's registered name
-     * @param option the library's own
+     * @param option the library's own value
      * @return the library's own count
-     * @throws DiskArrayException 258 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null
      */
     public native int QV_GetMicroDownloadCountEx(String unit, int option) throws DiskArrayException;
 
@@ -4028,10 +4064,10 @@ public class DiskArrayUtilityJNI {
      * Returns how far the download of a file came.
      *
      * @param unit the unit's registered name
-     * @param option the library's own
-     * @param path of a file of this host, at most 1,023 bytes
+     * @param option the library's own value
+     * @param path path of the file, at most 1,023 bytes
      * @return the library's own count
-     * @throws DiskArrayException 258 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit or path is null
      */
     public native int QV_GetMicroDownloadCountEx2(String unit, int option, String path)
             throws DiskArrayException;
@@ -4041,10 +4077,11 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param option1 the library's own
-     * @param option2 the library's own
-     * @param option3 the library's own
-     * @throws DiskArrayException 258 or the library's code
+     * @param option1 the library's own value
+     * @param option2 the library's own value
+     * @param option3 the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_MicroDownload(
             String unit, QVSessionInfo session, int option1, int option2, int option3)
@@ -4055,11 +4092,12 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param option1 the library's own
-     * @param option2 the library's own
-     * @param option3 the library's own
-     * @param option4 the library's own
-     * @throws DiskArrayException 258 or the library's code
+     * @param option1 the library's own value
+     * @param option2 the library's own value
+     * @param option3 the library's own value
+     * @param option4 the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_MicroDownloadEx(
             String unit, QVSessionInfo session, int option1, int option2, int option3, int option4)
@@ -4070,12 +4108,13 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param option1 the library's own
-     * @param option2 the library's own
-     * @param option3 the library's own
-     * @param option4 the library's own
-     * @param path of a file of this host, at most 1,023 bytes
-     * @throws DiskArrayException 258 or the library's code
+     * @param option1 the library's own value
+     * @param option2 the library's own value
+     * @param option3 the library's own value
+     * @param option4 the library's own value
+     * @param path path of the file, at most 1,023 bytes
+     * @throws DiskArrayException with the library's code; 258 where unit or path is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_MicroDownloadEx2(
             String unit, QVSessionInfo session, int option1, int option2, int option3,
@@ -4086,8 +4125,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param option the library's own
-     * @throws DiskArrayException 258 or the library's code
+     * @param option the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_MicroReplace(String unit, QVSessionInfo session, int option)
             throws DiskArrayException;
@@ -4097,21 +4137,25 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param option the library's own
-     * @return how far that came
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @param option the library's own value
+     * @return the replacement's information
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native MicroReplaceInformation QV_MicroReplaceEx(
             String unit, QVSessionInfo session, int option) throws DiskArrayException;
 
     /**
-     * Replaces the running firmware by way of the other controller.
+     * Replaces the running firmware by a cross-call.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the controller and how
-     * @return how far that came
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @param request the controller and how; not null
+     * @return the replacement's information
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native MicroReplaceInformation QV_MicroReplaceCrosscall(
             String unit, QVSessionInfo session, MicroReplaceCrosscallRequest request)
@@ -4122,8 +4166,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param option the library's own
-     * @throws DiskArrayException 258 or the library's code
+     * @param option the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_CompleteMicroReplace(String unit, QVSessionInfo session, int option)
             throws DiskArrayException;
@@ -4132,7 +4177,8 @@ public class DiskArrayUtilityJNI {
      * Returns what is staged of the array's firmware.
      *
      * @return what is staged
-     * @throws DiskArrayException 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 2817 where the result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native MicroFileInformation QV_GetMicroFileInformation() throws DiskArrayException;
 
@@ -4140,16 +4186,17 @@ public class DiskArrayUtilityJNI {
      * Returns the revision of the staged firmware.
      *
      * @return the revision, at most 64 bytes
-     * @throws DiskArrayException 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 2817 where the result could not be built
      */
     public native String QV_GetNewMicroRevision() throws DiskArrayException;
 
     /**
      * Returns the revision of a firmware file.
      *
-     * @param path of a file of this host, at most 1,023 bytes
+     * @param path path of the file, at most 1,023 bytes
      * @return the revision, at most 64 bytes
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where path is null; 2817 where the
+     *     result could not be built
      */
     public native String QV_GetNewMicroRevision2(String path) throws DiskArrayException;
 
@@ -4158,8 +4205,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param path of a file of this host, at most 1,023 bytes
-     * @throws DiskArrayException 258 or the library's code
+     * @param path path of the file, at most 1,023 bytes
+     * @throws DiskArrayException with the library's code; 258 where unit or path is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_ENCMicroFileConcat(String unit, QVSessionInfo session, String path)
             throws DiskArrayException;
@@ -4169,9 +4217,10 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param path of a file of this host, at most 1,023 bytes
-     * @param option the library's own
-     * @throws DiskArrayException 258 or the library's code
+     * @param path path of the file, at most 1,023 bytes
+     * @param option the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit or path is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_ENCMicroFileConcatEx(
             String unit, QVSessionInfo session, String path, int option) throws DiskArrayException;
@@ -4179,7 +4228,7 @@ public class DiskArrayUtilityJNI {
     /**
      * Gives up what is staged of the enclosure firmware.
      *
-     * @throws DiskArrayException the library's code
+     * @throws DiskArrayException with the library's code
      */
     public native void QV_CancelENCMicroFileConcat() throws DiskArrayException;
 
@@ -4188,10 +4237,11 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param option1 the library's own
-     * @param option2 the library's own
-     * @return the number that the library writes
-     * @throws DiskArrayException 258 or the library's code
+     * @param option1 the library's own value
+     * @param option2 the library's own value
+     * @return the int that the library writes, its own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native int QV_ENCMicroDownload(
             String unit, QVSessionInfo session, int option1, int option2) throws DiskArrayException;
@@ -4202,7 +4252,8 @@ public class DiskArrayUtilityJNI {
      * @param unit the unit's registered name
      * @param session the session from a login
      * @return the library's own count
-     * @throws DiskArrayException 258 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native int QV_GetENCMicroDownloadCount(String unit, QVSessionInfo session)
             throws DiskArrayException;
@@ -4212,8 +4263,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param option the library's own
-     * @throws DiskArrayException 258 or the library's code
+     * @param option the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_ENCMicroReplace(String unit, QVSessionInfo session, int option)
             throws DiskArrayException;
@@ -4223,9 +4275,10 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param option the library's own
-     * @param record the library's own
-     * @throws DiskArrayException 258 or the library's code
+     * @param option the library's own value
+     * @param record the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_ENCMicroReplaceEx(
             String unit, QVSessionInfo session, int option, int record) throws DiskArrayException;
@@ -4234,7 +4287,8 @@ public class DiskArrayUtilityJNI {
      * Returns what is staged of the enclosure firmware.
      *
      * @return what is staged
-     * @throws DiskArrayException 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 2817 where the result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native ENCMicroInformation QV_GetENCMicroInformation() throws DiskArrayException;
 
@@ -4244,37 +4298,43 @@ public class DiskArrayUtilityJNI {
      * @param unit the unit's registered name
      * @param session the session from a login
      * @return the firmware
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native ENCMicroInformation QV_GetENCMicroInformationEx(
             String unit, QVSessionInfo session) throws DiskArrayException;
 
     /**
-     * Returns the revision of the staged BIOS.
+     * Returns the BIOS revision that the method's name calls local.
      *
      * @return the revision
-     * @throws DiskArrayException 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 2817 where the result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native NNCBiosRevision QV_GetLocalNNCBiosRevision() throws DiskArrayException;
 
     /**
-     * Returns the BIOS revisions of the NAS nodes.
+     * Returns the BIOS revisions of the network node controllers.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
      * @return the revisions
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native NNCBiosRevisionList QV_GetNNCBiosRevisionList(String unit, QVSessionInfo session)
             throws DiskArrayException;
 
     /**
-     * Prepares the NAS nodes for the download of a BIOS.
+     * Prepares the network node controllers for the download of a BIOS.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param option the library's own
-     * @throws DiskArrayException 258 or the library's code
+     * @param option the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_PreparesNNCBiosDownload(String unit, QVSessionInfo session, int option)
             throws DiskArrayException;
@@ -4284,8 +4344,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param path of a file of this host, at most 1,023 bytes
-     * @throws DiskArrayException 258 or the library's code
+     * @param path path of the file, at most 1,023 bytes
+     * @throws DiskArrayException with the library's code; 258 where unit or path is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_NNCBiosFileConcat(String unit, QVSessionInfo session, String path)
             throws DiskArrayException;
@@ -4293,7 +4354,7 @@ public class DiskArrayUtilityJNI {
     /**
      * Gives up what is staged of the BIOS.
      *
-     * @throws DiskArrayException the library's code
+     * @throws DiskArrayException with the library's code
      */
     public native void QV_CancelNNCBiosFileConcat() throws DiskArrayException;
 
@@ -4302,9 +4363,10 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param option1 the library's own
-     * @param option2 the library's own
-     * @throws DiskArrayException 258 or the library's code
+     * @param option1 the library's own value
+     * @param option2 the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_NNCBiosDownload(
             String unit, QVSessionInfo session, int option1, int option2) throws DiskArrayException;
@@ -4313,29 +4375,33 @@ public class DiskArrayUtilityJNI {
      * Returns how far the download of the BIOS came.
      *
      * @return the library's own count
-     * @throws DiskArrayException the library's code
+     * @throws DiskArrayException with the library's code
      */
     public native int QV_GetNNCBiosDownloadCount() throws DiskArrayException;
 
     /**
-     * Returns the state of the BIOS download of a NAS node.
+     * Returns the status of the BIOS download of a network node controller.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param option the library's own
-     * @return the state
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @param option the library's own value
+     * @return the status
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native NNCBiosDownloadStatus QV_GetNNCBiosDownloadStatus(
             String unit, QVSessionInfo session, int option) throws DiskArrayException;
 
     /**
-     * Returns which NAS nodes are being upgraded.
+     * Returns the upgrade status of the network node controllers.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @return the state of each node
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @return the status of each
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native NNCUpgradeStatusList QV_GetNNCUpgradeStatusList(
             String unit, QVSessionInfo session) throws DiskArrayException;
@@ -4346,9 +4412,11 @@ public class DiskArrayUtilityJNI {
      * Logs in with an account of the array.
      *
      * @param unit the unit's registered name
-     * @param request the account and its password
+     * @param request the account and its password; not null
      * @return the session, for every other call on this unit
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native QVSessionInfo QV_LoginQVAccount(String unit, LoginRequest request)
             throws DiskArrayException;
@@ -4357,9 +4425,11 @@ public class DiskArrayUtilityJNI {
      * Logs in for the alert check.
      *
      * @param unit the unit's registered name
-     * @param option the library's own
+     * @param option the library's own value
      * @return the session
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native QVSessionInfo QV_LoginQVAccountAlertCheck(String unit, int option)
             throws DiskArrayException;
@@ -4369,8 +4439,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param option how to end it
-     * @throws DiskArrayException 258 or the library's code
+     * @param option the log option; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_LogoutQVAccount(String unit, QVSessionInfo session, LogoutOption option)
             throws DiskArrayException;
@@ -4380,19 +4451,21 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param option how to end it
-     * @throws DiskArrayException 258 or the library's code
+     * @param option the log option; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_LogoutQVAccountAlertCheck(
             String unit, QVSessionInfo session, LogoutOption option) throws DiskArrayException;
 
     /**
-     * Ends all sessions of an account.
+     * Logs an account out by force.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param account the account
-     * @throws DiskArrayException 258 or the library's code
+     * @param account the account; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_ForcedLogoutQVAccount(
             String unit, QVSessionInfo session, AccountIdentifier account)
@@ -4403,8 +4476,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param account the account
-     * @throws DiskArrayException 258 or the library's code
+     * @param account the account; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_DeleteAccount(
             String unit, QVSessionInfo session, AccountIdentifier account)
@@ -4415,8 +4489,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param account the account
-     * @throws DiskArrayException 258 or the library's code
+     * @param account the account; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_CreateAccount(String unit, QVSessionInfo session, Account account)
             throws DiskArrayException;
@@ -4426,8 +4501,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param account the account as it is to be
-     * @throws DiskArrayException 258 or the library's code
+     * @param account the account as it is to be; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_ChangeAccount(String unit, QVSessionInfo session, Account account)
             throws DiskArrayException;
@@ -4437,8 +4513,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param change the user and both passwords
-     * @throws DiskArrayException 258 or the library's code
+     * @param change the user and both passwords; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_ChangeOwnUserPassword(
             String unit, QVSessionInfo session, OwnPasswordChange change)
@@ -4450,7 +4527,9 @@ public class DiskArrayUtilityJNI {
      * @param unit the unit's registered name
      * @param session the session from a login
      * @return the settings
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native AccountOption QV_GetAccountOption(String unit, QVSessionInfo session)
             throws DiskArrayException;
@@ -4460,8 +4539,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param option the settings
-     * @throws DiskArrayException 258 or the library's code
+     * @param option the settings; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_SetAccountOption(
             String unit, QVSessionInfo session, AccountOption option) throws DiskArrayException;
@@ -4472,7 +4552,9 @@ public class DiskArrayUtilityJNI {
      * @param unit the unit's registered name
      * @param session the session from a login
      * @return the roles
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native QVAccountRoleInformation QV_GetQVAccountRoleInformation(
             String unit, QVSessionInfo session) throws DiskArrayException;
@@ -4483,7 +4565,9 @@ public class DiskArrayUtilityJNI {
      * @param unit the unit's registered name
      * @param session the session from a login
      * @return the accounts
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native QVAccountInfoList QV_GetAccountInformation(String unit, QVSessionInfo session)
             throws DiskArrayException;
@@ -4494,7 +4578,9 @@ public class DiskArrayUtilityJNI {
      * @param unit the unit's registered name
      * @param session the session from a login
      * @return what the user may do
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native OwnUserPermission QV_GetOwnUserPermission(String unit, QVSessionInfo session)
             throws DiskArrayException;
@@ -4504,7 +4590,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @return the warning
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native AccountBanner QV_GetAccountBanner(String unit) throws DiskArrayException;
 
@@ -4514,7 +4602,9 @@ public class DiskArrayUtilityJNI {
      * @param unit the unit's registered name
      * @param session the session from a login
      * @return the warning
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native AccountBanner QV_GetAccountBannerAuth(String unit, QVSessionInfo session)
             throws DiskArrayException;
@@ -4524,8 +4614,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param banner the warning
-     * @throws DiskArrayException 258 or the library's code
+     * @param banner the warning; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_SetAccountBannerAuth(
             String unit, QVSessionInfo session, AccountBanner banner) throws DiskArrayException;
@@ -4538,7 +4629,9 @@ public class DiskArrayUtilityJNI {
      * @param unit the unit's registered name
      * @param session the session from a login
      * @return the settings
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native QVAuditLogInformation QV_GetQVAuditLogInformation(
             String unit, QVSessionInfo session) throws DiskArrayException;
@@ -4548,8 +4641,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param information the settings
-     * @throws DiskArrayException 258 or the library's code
+     * @param information the settings; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_SetQVAuditLogInformation(
             String unit, QVSessionInfo session, QVAuditLogInformation information)
@@ -4560,8 +4654,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param path of a file of this host, at most 1,023 bytes
-     * @throws DiskArrayException 258 or the library's code
+     * @param path path of the file, at most 1,023 bytes
+     * @throws DiskArrayException with the library's code; 258 where unit or path is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_QVAuditLogExport(String unit, QVSessionInfo session, String path)
             throws DiskArrayException;
@@ -4571,8 +4666,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param request the request
-     * @throws DiskArrayException 258 or the library's code
+     * @param request the request; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_InitQVAuditLog(
             String unit, QVSessionInfo session, AuditLogInitRequest request)
@@ -4584,15 +4680,16 @@ public class DiskArrayUtilityJNI {
      * Returns the mail settings of this host.
      *
      * @return the settings; null where they cannot be built, without code 2817
-     * @throws DiskArrayException the library's code
+     * @throws DiskArrayException with the library's code
      */
     public native EmailInfo QV_GetEmailInfo() throws DiskArrayException;
 
     /**
      * Sets the mail settings of this host.
      *
-     * @param info the settings
-     * @throws DiskArrayException the library's code
+     * @param info the settings; not null
+     * @throws DiskArrayException with the library's code
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_SetEmailInfo(EmailInfo info) throws DiskArrayException;
 
@@ -4601,9 +4698,10 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param option the library's own
+     * @param option the library's own value
      * @return the library's own value
-     * @throws DiskArrayException 258 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native int QV_AlertCheck(String unit, QVSessionInfo session, int option)
             throws DiskArrayException;
@@ -4613,9 +4711,11 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param option the library's own
+     * @param option the library's own value
      * @return the alert
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native AlertCheckEx QV_AlertCheckEx(String unit, QVSessionInfo session, int option)
             throws DiskArrayException;
@@ -4624,7 +4724,7 @@ public class DiskArrayUtilityJNI {
      * Returns how often alerts are checked for.
      *
      * @return the time between two checks, in the library's own unit
-     * @throws DiskArrayException the library's code
+     * @throws DiskArrayException with the library's code
      */
     public native int QV_GetAlertInterval() throws DiskArrayException;
 
@@ -4632,7 +4732,7 @@ public class DiskArrayUtilityJNI {
      * Sets how often alerts are checked for.
      *
      * @param interval the time between two checks, in the library's own unit
-     * @throws DiskArrayException the library's code
+     * @throws DiskArrayException with the library's code
      */
     public native void QV_SetAlertInterval(int interval) throws DiskArrayException;
 
@@ -4640,25 +4740,29 @@ public class DiskArrayUtilityJNI {
      * Returns who checks for alerts.
      *
      * @return the account
-     * @throws DiskArrayException 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 2817 where the result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native AlertCheckUser QV_GetAlertCheckUser() throws DiskArrayException;
 
     /**
      * Sets who checks for alerts.
      *
-     * @param user the account
-     * @throws DiskArrayException the library's code
+     * @param user the account; not null
+     * @throws DiskArrayException with the library's code
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_SetAlertCheckUser(AlertCheckUser user) throws DiskArrayException;
 
     /**
-     * Returns the state of the array's e-mail alert.
+     * Returns the array's e-mail alert settings.
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @return the state, with the mail
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @return the settings, with the mail
+     * @throws DiskArrayException with the library's code; 258 where unit is null; 2817 where the
+     *     result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native EmailAlertInformation QV_GetEmailAlertInformation(
             String unit, QVSessionInfo session) throws DiskArrayException;
@@ -4668,8 +4772,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param info the mail
-     * @throws DiskArrayException 258 or the library's code
+     * @param info the mail; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_SetEmailAlertInfo(String unit, QVSessionInfo session, EmailAlertInfo info)
             throws DiskArrayException;
@@ -4679,7 +4784,8 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @throws DiskArrayException 258 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_ClearEmailAlertInfo(String unit, QVSessionInfo session)
             throws DiskArrayException;
@@ -4689,8 +4795,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param mode the library's own
-     * @throws DiskArrayException 258 or the library's code
+     * @param mode the library's own value
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_ChangeEmailAlertMode(String unit, QVSessionInfo session, int mode)
             throws DiskArrayException;
@@ -4700,8 +4807,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param test the controller
-     * @throws DiskArrayException 258 or the library's code
+     * @param test the controller; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_TestEmailAlert(String unit, QVSessionInfo session, EmailAlertTest test)
             throws DiskArrayException;
@@ -4711,10 +4819,12 @@ public class DiskArrayUtilityJNI {
     /**
      * Reads a configuration from files of this host.
      *
-     * @param pathA path of the first file of this host, at most 1,023 bytes
-     * @param pathB path of the second, likewise
+     * @param pathA path of the first file, at most 1,023 bytes
+     * @param pathB path of the second file, at most 1,023 bytes
      * @return the configuration
-     * @throws DiskArrayException 258, 2817 or the library's code
+     * @throws DiskArrayException with the library's code; 258 where pathA or pathB is null; 2817
+     *     where the result could not be built
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native SnmpConfigInformation QV_LoadSnmpConfig(String pathA, String pathB)
             throws DiskArrayException;
@@ -4722,10 +4832,11 @@ public class DiskArrayUtilityJNI {
     /**
      * Writes a configuration to files of this host.
      *
-     * @param pathA path of the first file of this host, at most 1,023 bytes
-     * @param pathB path of the second, likewise
-     * @param config the configuration
-     * @throws DiskArrayException 258 or the library's code
+     * @param pathA path of the first file, at most 1,023 bytes
+     * @param pathB path of the second file, at most 1,023 bytes
+     * @param config the configuration; not null
+     * @throws DiskArrayException with the library's code; 258 where pathA or pathB is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_SaveSnmpConfig(String pathA, String pathB, SnmpConfigInformation config)
             throws DiskArrayException;
@@ -4735,8 +4846,9 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param config the configuration
-     * @throws DiskArrayException 258 or the library's code
+     * @param config the configuration; not null
+     * @throws DiskArrayException with the library's code; 258 where unit is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_SetSnmpConfigonMemory(
             String unit, QVSessionInfo session, SnmpConfigInformation config)
@@ -4748,9 +4860,10 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param first path of the first file of this host, at most 1,023 bytes
-     * @param second path of the second, likewise
-     * @throws DiskArrayException 258 or the library's code
+     * @param first path of the first file, at most 1,023 bytes
+     * @param second path of the second file, at most 1,023 bytes
+     * @throws DiskArrayException with the library's code; 258 where unit, first or second is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_SetSnmpConfig(
             String unit, QVSessionInfo session, String first, String second)
@@ -4762,9 +4875,10 @@ public class DiskArrayUtilityJNI {
      *
      * @param unit the unit's registered name
      * @param session the session from a login
-     * @param first path of the first file of this host, at most 1,023 bytes
-     * @param second path of the second, likewise
-     * @throws DiskArrayException 258 or the library's code
+     * @param first path of the first file, at most 1,023 bytes
+     * @param second path of the second file, at most 1,023 bytes
+     * @throws DiskArrayException with the library's code; 258 where unit, first or second is null
+     * @throws OutOfMemoryError where there is no native memory
      */
     public native void QV_SnmpConfigOutput(
             String unit, QVSessionInfo session, String first, String second)

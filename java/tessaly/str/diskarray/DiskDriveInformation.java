@@ -8,7 +8,7 @@ public class DiskDriveInformation {
     public String product;
     /** Revision of its microprogram. */
     public String revision;
-    /** Address of its last block of 512 bytes. */
+    /** Last logical block address. */
     public int lastLBA;
     /** Its capacity: a text, as the library wrote it. */
     public String drive_capacity;
@@ -16,13 +16,13 @@ public class DiskDriveInformation {
     public int add_info_index;
     /** Its serial number. */
     public String serial;
-    /** Kind of its enclosure, the library's own code. */
+    /** Unit type, the library's own code. */
     public int unit_type;
     /** Kind of drive, the library's own code. */
     public int drive_type;
-    /** Further code of the kind of its enclosure, the library's own. */
+    /** Detail of the unit type, the library's own code. */
     public int unit_type_sub_code;
-    /** Its rotation, as the library counts it; revolutions a minute over the simulator. */
+    /** Its rotation, in the library's own unit; revolutions a minute over the simulator. */
     public int drive_rotation;
     /** Kind of drive as a text. */
     public String drive_type_name;

@@ -5,17 +5,20 @@ package tessaly.str.diskarray;
  * high times 2^32 plus low, unsigned.
  */
 public class DriveAll_Info {
-    /** Its commands. As an argument null ends the reading of the drive. */
+    /** Its commands. As an argument null ends the reading of the drive. Null in a new object. */
     public CommandAll_Info drive_info;
-    /** Marks an entry in use: 0 where it is not. */
+    /** Not 0 where the entry is in use. */
     public int valid;
-    /** Whether the array counts it, the library's own value. */
+    /** Which of the values the array supports, the library's own value. */
     public int support;
     /** Time without operation, high word. */
     public int not_opr_time_h;
     /** Time without operation, low word. */
     public int not_opr_time_l;
-    /** Tags, 60 elements. As an argument a shorter array throws ArrayIndexOutOfBoundsException. */
+    /**
+     * Tags, 60 elements. As an argument a shorter array throws ArrayIndexOutOfBoundsException. Null
+     * in a new object.
+     */
     public int[] tag_count;
     /** Time unloaded. */
     public int unload_time;

@@ -6,6 +6,6 @@ public class DriveFlashInfo {
     public int compare_mode;
     /** Flash time, in the library's own unit. */
     public int drv_flash_time;
-    /** Flash commands, the library's own number. */
+    /** Flash I/O, the library's own count. */
     public int drv_flash_io_count;
 }

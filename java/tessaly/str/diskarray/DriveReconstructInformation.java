@@ -2,7 +2,7 @@ package tessaly.str.diskarray;
 
 /** How far the reconstruction of a drive has come. */
 public class DriveReconstructInformation {
-    /** Whether the other fields are valid: 0 where they are not. */
+    /** Whether the other fields are valid, the library's own value. */
     public int valid;
     /** What the reconstruction does, the library's own code. */
     public int status_code;

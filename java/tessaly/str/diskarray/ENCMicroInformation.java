@@ -2,9 +2,9 @@ package tessaly.str.diskarray;
 
 /** An enclosure firmware. The codes are the library's own. */
 public class ENCMicroInformation {
-    /** Product type code. */
+    /** Product type. */
     public int qv_type;
-    /** Device type code. */
+    /** Device type. */
     public int device_type;
     /** Type of the firmware. */
     public int micro_type;

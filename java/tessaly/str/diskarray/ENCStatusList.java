@@ -18,6 +18,6 @@ public class ENCStatusList {
     public int validCTU;
     /** The enclosure controllers of the controller unit. */
     public ENCCTUStatus ctu;
-    /** The drive units, 64 elements, mounted or not. */
+    /** The units, 64 elements, mounted or not. */
     public ENCUnitStatus[] unit;
 }

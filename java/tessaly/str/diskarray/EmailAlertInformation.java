@@ -1,14 +1,14 @@
 package tessaly.str.diskarray;
 
-/** The state of an array's e-mail alert. The values are the library's own. */
+/** The e-mail alert settings of an array. The values are the library's own. */
 public class EmailAlertInformation {
     /** Mode of sending. */
     public int send_mode;
-    /** 2 elements, one a controller. */
+    /** Controller flags, 2 elements. */
     public int[] ctl_flag;
-    /** State of the sending. */
+    /** Execution flag. */
     public int exec_flag;
-    /** Result of the sending. */
+    /** Execution result. */
     public int exec_result;
     /** The mail. */
     public EmailAlertInfo mail;

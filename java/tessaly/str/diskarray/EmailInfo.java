@@ -5,9 +5,9 @@ package tessaly.str.diskarray;
  * they stand here.
  */
 public class EmailInfo {
-    /** Whether mails are sent. */
+    /** Whether mails are sent, the library's own value. */
     public int on_off;
-    /** Domain of the host, at most 39 bytes. */
+    /** Domain, at most 39 bytes. */
     public String domain = "";
     /** Mail server, at most 99 bytes. */
     public String smtp = "";

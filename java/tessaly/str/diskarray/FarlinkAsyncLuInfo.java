@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** An asynchronous pair. */
+/** An asynchronous Farlink pair. */
 public class FarlinkAsyncLuInfo {
     /** Number of the logical unit in this array. */
     public int lun;
@@ -12,7 +12,7 @@ public class FarlinkAsyncLuInfo {
     public int pair_attr;
     /** Number of its consistency group. */
     public int ctg_num;
-    /** Name of its consistency group. */
+    /** Name of its group. */
     public String ctg_name;
     /** Name of the pair. */
     public String pair_name;
@@ -40,7 +40,7 @@ public class FarlinkAsyncLuInfo {
     public int difference_rate;
     /** When the pair was synchronised. */
     public DateTime synchronized_time;
-    /** Number of the pool. */
+    /** Pool number. */
     public int pool_no;
     /** Used rate of the pool, the library's own value. */
     public int pool_usedrate;

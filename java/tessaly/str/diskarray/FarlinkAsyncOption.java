@@ -1,12 +1,12 @@
 package tessaly.str.diskarray;
 
-/** The settings of asynchronous pairs. */
+/** The settings of asynchronous Farlink pairs. */
 public class FarlinkAsyncOption {
-    /** Option word, the library's own value. */
+    /** Option, the library's own value. */
     public int option;
-    /** Support index, the library's own value. */
+    /** Which fields the array supports, the library's own value. */
     public int support_index;
-    /** Valid index, the library's own value. */
+    /** Which fields are valid, the library's own value. */
     public int valid_index;
     /** Control flag, the library's own value. */
     public int ctrl_flag;

@@ -1,8 +1,8 @@
 package tessaly.str.diskarray;
 
-/** The asynchronous pairs of an array and their consistency groups. */
+/** The asynchronous Farlink pairs of an array and their consistency groups. */
 public class FarlinkAsyncPairInformation {
-    /** Option word, the library's own value. */
+    /** Option, the library's own value. */
     public int option;
     /** How many elements of <code>lu</code> are in use. */
     public int pair_count;

@@ -2,9 +2,9 @@ package tessaly.str.diskarray;
 
 /** A Farlink pair. */
 public class FarlinkLuInfo {
-    /** Support index, the library's own value. */
+    /** Which fields the array supports, the library's own value. */
     public int support_index;
-    /** Valid index, the library's own value. */
+    /** Which fields are valid, the library's own value. */
     public int valid_index;
     /** Number of the logical unit in this array. */
     public int lun;

@@ -22,6 +22,9 @@ public class FibreInformationPort {
     public int refer_speed;
     /** Which connectors are valid, the library's own value. */
     public int connect_valid;
-    /** Always 2 elements, one for each connector. Hand over as many, none of them null. */
+    /**
+     * Always 2 elements, one for each connector. Hand over as many, none of them null. Null in a
+     * new object.
+     */
     public FibreInformationConnector[] connector;
 }

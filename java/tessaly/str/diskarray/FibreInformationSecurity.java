@@ -12,6 +12,7 @@ public class FibreInformationSecurity {
     public int security_chk_lv;
     /**
      * Always 128 elements; which are in use, the count says. Hand over as many, none of them null.
+     * Null in a new object.
      */
     public FibreInformationPermission[] permission;
 }

@@ -4,7 +4,7 @@ package tessaly.str.diskarray;
 public class HGOptionPortInfo {
     /**
      * Always 255 elements, one for each host group from number 0 on. Hand over as many, none of
-     * them null.
+     * them null. Null in a new object.
      */
     public HGOptionInfo[] hg;
 }

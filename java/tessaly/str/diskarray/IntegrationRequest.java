@@ -1,10 +1,10 @@
 package tessaly.str.diskarray;
 
-/** LUs to integrate or to separate. */
+/** An operation on integrated LUs. */
 public class IntegrationRequest {
-    /** What to do, the library's own value. */
+    /** Operation, the library's own value. */
     public int operation;
-    /** LU that the others are integrated into. */
+    /** LU number of the parent. */
     public int parent_lun;
     /** LU number of a child, as the operation wants it. */
     public int child_lun;

@@ -14,9 +14,9 @@ public class LANInformation {
     public String ether = "";
     /** Whether the LAN is connected, 0 to 255, the library's own value. */
     public int lan_connect;
-    /** How the maintenance address changes, the library's own value. */
+    /** Mode of changing the maintenance address, the library's own value. */
     public int mainte_ip_change_mode;
-    /** How it is to change from now on, the library's own value. */
+    /** New mode of changing the maintenance address, the library's own value. */
     public int mainte_ip_change_mode_new;
     /** Negotiation of the link, the library's own value. */
     public int negotiation;

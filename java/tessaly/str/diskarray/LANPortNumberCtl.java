@@ -6,8 +6,8 @@ public class LANPortNumberCtl {
     public int valid_index;
     /** Normal port, the library's own value. */
     public int normal_port;
-    /** TCP port number without encryption. */
+    /** Port number. */
     public int port_num;
-    /** TCP port number with encryption. */
+    /** SSL port number. */
     public int ssl_port_num;
 }

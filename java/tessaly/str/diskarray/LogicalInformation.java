@@ -1,14 +1,14 @@
 package tessaly.str.diskarray;
 
 /**
- * How many logical objects an array can hold, and how long its restarts take. The comments say what
- * the names say; whether a count is of the array, of a port or of a group, and the unit of time,
- * are the library's own.
+ * Numbers of an array's logical objects, and times of its restarts. The comments say what the names
+ * say; whether a number is of what there is or of what there can be, whether of the array, of a
+ * port or of a group, and the unit of time, are the library's own.
  */
 public class LogicalInformation {
-    /** Which of the fields are valid, the library's own. */
+    /** Which of the fields are valid, the library's own value. */
     public int index;
-    /** Which of the further fields are valid, the library's own. */
+    /** Which of the further fields are valid, the library's own value. */
     public int index2;
     /** RAID groups. */
     public int rg_count;
@@ -16,11 +16,11 @@ public class LogicalInformation {
     public int lu_count;
     /** Logical units of RAID groups. */
     public int rg_lu_count;
-    /** The library's own. */
+    /** The library's own value. */
     public int perm_count;
     /** Cache partitions. */
     public int cache_part_count;
-    /** The library's own. */
+    /** The library's own value. */
     public int ext_bitmap;
     /** Host groups. */
     public int hg_count;
@@ -28,13 +28,13 @@ public class LogicalInformation {
     public int reboot_time;
     /** Time that a replacement of the firmware takes. */
     public int replace_time;
-    /** Time that a restart by way of the other controller takes. */
+    /** Time that a cross-call restart takes. */
     public int crosscall_reboot_time;
     /** Longest time of a restart. */
     public int max_reboot_time;
     /** Longest time of a replacement of the firmware. */
     public int max_replace_time;
-    /** Longest time of a replacement by way of the other controller. */
+    /** Longest time of a cross-call replacement. */
     public int max_crosscall_replace_time;
     /** iSCSI targets. */
     public int iscsi_target_count;
@@ -48,7 +48,7 @@ public class LogicalInformation {
     public int account_count;
     /** Roles of accounts. */
     public int role_count;
-    /** The library's own. */
+    /** The library's own value. */
     public int resource_count;
     /** Reserved logical units. */
     public int reserve_lu_count;
@@ -64,15 +64,15 @@ public class LogicalInformation {
     public int ss_mirror_count;
     /** Farlink pairs. */
     public int fl_pair_count;
-    /** The library's own. */
+    /** The library's own value. */
     public int fle_pair_count;
     /** Consistency groups of Gemlyn and SnapShot pairs. */
     public int gmss_ctg_count;
     /** Consistency groups of Farlink pairs. */
     public int fl_ctg_count;
-    /** The library's own. */
+    /** The library's own value. */
     public int fle_ctg_count;
-    /** The library's own. */
+    /** The library's own value. */
     public int fle_ctg_pair_count;
     /** Remote paths. */
     public int remote_path_count;
@@ -80,9 +80,9 @@ public class LogicalInformation {
     public int pool_count;
     /** Logical units of pools. */
     public int pool_lu_count;
-    /** The library's own. */
+    /** The library's own value. */
     public int integrate_count;
-    /** The library's own. */
+    /** The library's own value. */
     public int command_count;
     /** LU mappings. */
     public int lu_mapping_count;

@@ -12,7 +12,7 @@ public class LogicalUnit {
     public int staging;
     /** Capacity in one word, in the library's own unit; the two words have all of it. */
     public int capacity;
-    /** Capacity in blocks of 512 bytes, high word. */
+    /** Capacity in the library's own unit, high word. */
     public int capacity_h;
     /** Capacity, low word. */
     public int capacity_l;
@@ -47,7 +47,7 @@ public class LogicalUnit {
     public int qf_status;
     /** Parity-correction status, the library's own value. */
     public int correction_status;
-    /** Whether this is the last LU of its RAID group: not 0. */
+    /** Whether this is the last LU of its RAID group. */
     public int rg_last_lu;
     /** Array model type, the library's own value. */
     public int unit_type;

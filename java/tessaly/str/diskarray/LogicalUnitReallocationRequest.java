@@ -1,11 +1,11 @@
 package tessaly.str.diskarray;
 
-/** A logical unit to move and resize. */
+/** A logical unit to reallocate. */
 public class LogicalUnitReallocationRequest {
     /** LU number. */
     public int lun;
-    /** New size, in the library's own unit. */
+    /** Size, in the library's own unit. */
     public int lusize;
-    /** LU number that it moves to. */
+    /** New LU number. */
     public int newlun;
 }

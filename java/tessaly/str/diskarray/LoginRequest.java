@@ -6,8 +6,8 @@ public class LoginRequest {
     public String user_id = "";
     /** Its password, at most 256 bytes. */
     public String passwd = "";
-    /** What the array logs of it, the library's own. */
+    /** Log option, the library's own value. */
     public int log_option;
-    /** Text for the array's log, at most 127 bytes. */
+    /** Log text, at most 127 bytes. */
     public String log_string = "";
 }

@@ -1,7 +1,7 @@
 package tessaly.str.diskarray;
 
-/** How a session is ended. */
+/** The log option of a logout. */
 public class LogoutOption {
-    /** What the array logs of it, the library's own. */
+    /** Log option, the library's own value. */
     public int log_option;
 }

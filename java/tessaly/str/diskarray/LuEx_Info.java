@@ -1,10 +1,13 @@
 package tessaly.str.diskarray;
 
-/** Command times of an LU. As an argument no kind may be null: it ends the reading of the LU. */
+/**
+ * Command times of an LU. As an argument no kind may be null: it ends the reading of the LU. All
+ * are null in a new object.
+ */
 public class LuEx_Info {
-    /** Marks an entry in use: 0 where it is not. */
+    /** Not 0 where the entry is in use. */
     public int valid;
-    /** Whether the array counts it, the library's own value. */
+    /** Which of the values the array supports, the library's own value. */
     public int support;
     /** Reads that hit the cache. */
     public LuEx_CommandInfo read_hit;

@@ -1,12 +1,12 @@
 package tessaly.str.diskarray;
 
-/** How an LU is guarded against changes. */
+/** The guard of an LU. */
 public class LuGuard {
     /** Not 0 where the entry is in use. */
     public int lu_valid;
     /** Capacity in one word, in the library's own unit; the two words have all of it. */
     public int capacity;
-    /** Capacity in blocks of 512 bytes, high word. */
+    /** Capacity in the library's own unit, high word. */
     public int capacity_h;
     /** Capacity, low word. */
     public int capacity_l;

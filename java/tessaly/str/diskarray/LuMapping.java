@@ -4,10 +4,13 @@ package tessaly.str.diskarray;
 public class LuMapping {
     /** Whether host groups are valid, the library's own value. */
     public int HostGroupValid;
-    /** Controllers, the library's own value. */
+    /** Control flag, the library's own value. */
     public int ctrl_flag;
     /** Mapping mode, the library's own value. */
     public int mapping_mode;
-    /** Always 2 elements, one for each controller. Hand over as many, none of them null. */
+    /**
+     * Always 2 elements, one for each controller. Hand over as many, none of them null. Null in a
+     * new object.
+     */
     public LuMappingCtlInfo[] ctl;
 }

@@ -4,7 +4,7 @@ package tessaly.str.diskarray;
 public class LuMappingHGInfo {
     /**
      * Always 2,048 elements: the LU that the hosts see under each number from 0 on. What stands for
-     * none is the library's own. Hand over at least as many.
+     * none is the library's own. Hand over at least as many. Null in a new object.
      */
     public int[] lu;
 }

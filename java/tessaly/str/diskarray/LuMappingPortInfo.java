@@ -8,7 +8,7 @@ public class LuMappingPortInfo {
     public int hg_tg_max_count;
     /**
      * Always 255 elements, one for each host group or target from number 0 on. Hand over as many,
-     * none of them null.
+     * none of them null. Null in a new object.
      */
     public LuMappingHGInfo[] hg;
 }

@@ -6,6 +6,6 @@ public class LuMappingPortList {
     public int option;
     /** Mapping mode, the library's own value. */
     public int mapping_mode;
-    /** The mapping of the port; not null where it is handed over. */
+    /** The mapping of the port; not null where it is handed over. Null in a new object. */
     public LuMappingPortInfo port;
 }

@@ -2,7 +2,7 @@ package tessaly.str.diskarray;
 
 /** The reserved logical units, and the migrations with their progress. */
 public class LuMigrationInformation {
-    /** Option word, the library's own value. */
+    /** Option, the library's own value. */
     public int option;
     /** How many elements of <code>reserve_lu</code> are in use. */
     public int reserve_lu_count;

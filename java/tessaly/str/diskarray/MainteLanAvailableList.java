@@ -16,7 +16,7 @@ public class MainteLanAvailableList {
     public int rule_ipv4_base_value;
     /** Hosts' parts for the controllers, always 2 elements. */
     public MainteHostAddress[] available_host_ctl;
-    /** Hosts' parts for the network controllers, always 4 elements. */
+    /** Hosts' parts for the network node controllers, always 4 elements. */
     public MainteHostAddress[] available_host_nnc;
     /** How many elements of <code>available_address_ipv6</code> are used. */
     public int available_count_ipv6;

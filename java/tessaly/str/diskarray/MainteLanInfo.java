@@ -4,6 +4,6 @@ package tessaly.str.diskarray;
 public class MainteLanInfo {
     /** Always 2 elements, one for each controller. */
     public MainteLanInfoDetail[] ctl;
-    /** Always 4 elements, one for each network controller. */
+    /** Always 4 elements, one for each network node controller. */
     public MainteLanInfoDetail[] nnc;
 }

@@ -2,7 +2,7 @@ package tessaly.str.diskarray;
 
 /** The maintenance LAN of a controller. */
 public class MainteLanInfoDetail {
-    /** Not 0 where the entry is in use. */
+    /** Which fields are valid, the library's own value. */
     public int valid_index;
     /** IP address, at most 39 bytes. */
     public String ip_address;
@@ -12,7 +12,7 @@ public class MainteLanInfoDetail {
     public String gateway_ipv4;
     /** IPv6 address, at most 39 bytes. */
     public String ip_address_ipv6;
-    /** Length of the IPv6 subnet prefix. */
+    /** Subnet prefix, the library's own number. */
     public int subnet_prefix;
     /** IPv6 gateway, at most 39 bytes. */
     public String gateway_ipv6;

@@ -4,8 +4,8 @@ package tessaly.str.diskarray;
 public class MicroFileInformation {
     /** Revision, at most 11 bytes. */
     public String micro;
-    /** Whether it is valid, the library's own. */
+    /** Whether it is valid, the library's own value. */
     public int valid;
-    /** The library's own. */
+    /** The library's own value. */
     public int booting_wait;
 }

@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** A replacement by way of the other controller. */
+/** A cross-call replacement. */
 public class MicroReplaceCrosscallRequest {
     /** Controller, the library's own number. */
     public int ctl;

@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** How far a replacement of the firmware came. The values are the library's own. */
+/** Information on a replacement of the firmware. The values are the library's own. */
 public class MicroReplaceInformation {
     /** Whether the others are valid. */
     public int valid;

@@ -8,13 +8,13 @@ package tessaly.str.diskarray;
  * DiskArrayUtilityJNI#QV_GetPairInformationLite2} name what they fill.
  */
 public class MirrorLUInfo {
-    /** Number of the pair among those of its primary logical unit. */
+    /** Mirror number, the library's own value. */
     public int mirror_no;
     /** Number of the secondary logical unit. */
     public int lun;
     /** Number of the controller. */
     public int ctl_no;
-    /** Number of the pool. */
+    /** Pool number. */
     public int pool_no;
     /** State of the pair, the library's own value. */
     public int pair_status;
@@ -26,15 +26,15 @@ public class MirrorLUInfo {
     public int usedcapa_h;
     /** Used capacity in the library's own unit, low word. */
     public int usedcapa_l;
-    /** How much of the pair has changed, in percent. */
+    /** Changed rate, the library's own value; percent over the simulator. */
     public int changed_rate;
-    /** How much of the pair is synchronised, in percent. */
+    /** Synchronised rate, the library's own value; percent over the simulator. */
     public int synchronized_rate;
     /** When the pair was created. */
     public PairCreateTime time;
     /** When the pair was split. */
     public DateTime split_time;
-    /** Message that the split left with the pair. */
+    /** Message of the pair. */
     public String add_message;
     /** Whether the pair is in a consistency group; 0 is no. */
     public int ctg_valid;

@@ -1,9 +1,9 @@
 package tessaly.str.diskarray;
 
-/** How far the download of a BIOS came. The values are the library's own. */
+/** The status of the download of a BIOS. The values are the library's own. */
 public class NNCBiosDownloadStatus {
-    /** State of the download. */
+    /** Status of the download. */
     public int downloadStatus;
-    /** What went wrong. */
+    /** Error information. */
     public int errorInfo;
 }

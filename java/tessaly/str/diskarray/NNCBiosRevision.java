@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** The revision of a NAS node's BIOS. */
+/** The revision of a network node controller's BIOS. */
 public class NNCBiosRevision {
     /** Revision, at most 8 bytes. */
     public String nncbiosrevision;

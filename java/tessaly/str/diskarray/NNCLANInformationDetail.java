@@ -1,8 +1,8 @@
 package tessaly.str.diskarray;
 
-/** The LAN address of a network controller. No text may be null where it is handed over. */
+/** The LAN address of a network node controller. No text may be null where it is handed over. */
 public class NNCLANInformationDetail {
-    /** Not 0 where the entry is in use. */
+    /** Which fields are valid, the library's own value. */
     public int valid_index;
     /** IP address, at most 39 bytes. */
     public String ip_address = "";

@@ -1,7 +1,7 @@
 package tessaly.str.diskarray;
 
-/** Whether a NAS node is being upgraded. */
+/** The upgrade status of a network node controller. */
 public class NNCUpgradeStatus {
-    /** State of the upgrade, the library's own value. */
+    /** Status of the upgrade, the library's own value. */
     public int nncUpgradeStatus;
 }

@@ -1,7 +1,7 @@
 package tessaly.str.diskarray;
 
-/** Which NAS nodes are being upgraded. */
+/** The upgrade status of the network node controllers. */
 public class NNCUpgradeStatusList {
-    /** 4 elements, one a node. */
+    /** 4 elements, one for each network node controller. */
     public NNCUpgradeStatus[] nnc_status;
 }

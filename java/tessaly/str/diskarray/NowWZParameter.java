@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** Online options. No field is known. Layout assumed. */
+/** Parameters of the LU wizard. No field is known. Layout assumed. */
 public class NowWZParameter {}

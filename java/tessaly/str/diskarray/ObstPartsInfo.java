@@ -4,7 +4,7 @@ package tessaly.str.diskarray;
 public class ObstPartsInfo {
     /** What failed, the library's own code. */
     public int obstparts_code;
-    /** Which fields are valid, the library's own bits. */
+    /** Which fields are valid, the library's own value. */
     public int valid_index;
     /** Number of the controller. */
     public int ctl_num;

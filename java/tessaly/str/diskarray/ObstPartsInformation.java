@@ -10,6 +10,6 @@ public class ObstPartsInformation {
     public int ctu_num;
     /** Number of parts reported. */
     public int obst_report_parts_cnt;
-    /** The parts, 1194 elements, of which <code>obst_report_parts_cnt</code> are reported. */
+    /** The parts, 1,194 elements, of which <code>obst_report_parts_cnt</code> are reported. */
     public ObstPartsInfo[] parts;
 }

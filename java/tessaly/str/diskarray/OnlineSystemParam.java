@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** System parameters. No field is known. Layout assumed. */
+/** Online system parameters. No field is known. Layout assumed. */
 public class OnlineSystemParam {}

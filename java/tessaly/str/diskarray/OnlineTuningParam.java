@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** Tuning parameters while the array runs. No field is known. Layout assumed. */
+/** Online tuning parameters. No field is known. Layout assumed. */
 public class OnlineTuningParam {}

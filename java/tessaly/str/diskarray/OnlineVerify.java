@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** Verification while the array runs. No field is known. Layout assumed. */
+/** Online verify. No field is known. Layout assumed. */
 public class OnlineVerify {}

@@ -8,7 +8,7 @@ package tessaly.str.diskarray;
  * DiskArrayUtilityJNI#QV_GetAllInformationLite} the second one.
  */
 public class PairInfo {
-    /** Option word, the library's own value. */
+    /** Option, the library's own value. */
     public int option;
     /** 2 elements, the pool of each controller; null in the light form. */
     public PoolCtlCapa[] ctl;

@@ -2,7 +2,7 @@ package tessaly.str.diskarray;
 
 /** Which logical units are paired. */
 public class PairInfoSimple {
-    /** Option word, the library's own value. */
+    /** Option, the library's own value. */
     public int option;
     /** How many elements of <code>pair</code> are in use. */
     public int pair_count;

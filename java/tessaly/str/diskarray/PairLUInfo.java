@@ -10,11 +10,11 @@ package tessaly.str.diskarray;
 public class PairLUInfo {
     /** Number of the primary logical unit. */
     public int lun;
-    /** Capacity in blocks of 512 bytes, in a single word. */
+    /** Capacity in the library's own unit, in a single word. */
     public int capacity;
-    /** Capacity in blocks of 512 bytes, high word. */
+    /** Capacity in the library's own unit, high word. */
     public int capacity_h;
-    /** Capacity in blocks of 512 bytes, low word. */
+    /** Capacity in the library's own unit, low word. */
     public int capacity_l;
     /** Used capacity of the pool in the library's own unit, high word. */
     public int pool_usedcapa_h;

@@ -2,9 +2,9 @@ package tessaly.str.diskarray;
 
 /** The parts of an array. The arrays have an element for every place, with a part or without. */
 public class PartsList {
-    /** Which fields the array supports, the library's own bits. */
+    /** Which fields the array supports, the library's own value. */
     public int support_index;
-    /** Which fields are valid, the library's own bits. */
+    /** Which fields are valid, the library's own value. */
     public int valid_index;
     /** Serial number of the array. */
     public String array_serial;

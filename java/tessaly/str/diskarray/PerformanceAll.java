@@ -9,12 +9,13 @@ package tessaly.str.diskarray;
  *
  * <p>As an argument hand over what {@link DiskArrayUtilityJNI#QV_GetPerformanceAll} returned. A
  * member that is null ends the reading: it and the members behind it reach the library as they lay
- * in memory, and so do the elements that an array lacks.
+ * in memory, and so do the elements that an array lacks. Objects and arrays are null in a new
+ * object.
  */
 public class PerformanceAll {
-    /** Whether the snapshot is valid: 0 where it is not. */
+    /** Whether the snapshot is valid, the library's own value. */
     public int valid;
-    /** What the array counts, the library's own value. */
+    /** Which of the values the array supports, the library's own value. */
     public int support;
     /** How the snapshot was taken, the library's own code. */
     public int get_status;
@@ -22,9 +23,9 @@ public class PerformanceAll {
     public CommandAll_Info[] port;
     /** The RAID groups, 200 elements: the index is the group's number. */
     public CommandAll_Info[] rg;
-    /** The LUs, 8192 elements: the index is the LU's number. */
+    /** The LUs, 8,192 elements: the index is the LU's number. */
     public CommandAll_Info[] lu;
-    /** Command times of the LUs, 8192 elements. */
+    /** Command times of the LUs, 8,192 elements. */
     public LuEx_Info[] lu_ex;
     /** Size of the cache, in the library's own unit; MiB over the simulator. */
     public int all_cache_size;
@@ -58,7 +59,7 @@ public class PerformanceAll {
     public CachePartitionAll_Info[] cachePartition;
     /** The cache bus. */
     public CacheBusAll_Info cachebus;
-    /** The paths to the drives, 8 elements. */
+    /** The back-end paths, 8 elements. */
     public CommandAll_Info[] backend;
     /** The drives by enclosure and slot, 60 rows of 30. */
     public DriveAll_Info[][] drive;
@@ -68,7 +69,7 @@ public class PerformanceAll {
     public ProcessorAll_Info[] processor_core;
     /** The paths to virtual units, 8 elements. */
     public VUDataAll_Info[] vu_port;
-    /** The LUs of virtual units, 8192 elements. */
+    /** The LUs of virtual units, 8,192 elements. */
     public VUCommandAll_Info[] vu_lu;
     /** When the snapshot was taken. */
     public QVTime mtime;

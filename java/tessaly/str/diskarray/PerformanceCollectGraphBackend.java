@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** The graph of a path to the drives. No field is known. Layout assumed. */
+/** The graph of a back-end path. No field is known. Layout assumed. */
 public class PerformanceCollectGraphBackend {}

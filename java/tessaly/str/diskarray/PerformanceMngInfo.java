@@ -10,9 +10,9 @@ public class PerformanceMngInfo {
     public String microver;
     /** Serial number of the array. */
     public String serialno;
-    /** The library's own value. */
+    /** Product type, the library's own code. */
     public int qv_type;
-    /** Kind of array, the library's own code. */
+    /** Device type, the library's own code. */
     public int device_type;
     /** Most ports. */
     public int portMaxCount;
@@ -28,7 +28,7 @@ public class PerformanceMngInfo {
     public int hdd_hdu_count;
     /** Enclosures. */
     public int hdd_unit_count;
-    /** Most paths to the drives. */
+    /** Most back-end paths. */
     public int backendMaxCount;
     /** Most cache partitions. */
     public int cachepartitionMaxCount;

@@ -5,12 +5,13 @@ import java.util.Arrays;
 /**
  * Two controllers' snapshots before and after an interval, and what to write of them.
  *
- * <p>A snapshot that is null reaches the library as it lay in memory.
+ * <p>The snapshots are null in a new object; one that is null reaches the library as it lay in
+ * memory.
  *
  * <p>Layout assumed.
  */
 public class PerformanceOutputAllExRequest {
-    /** Path of the file, at most 1023 bytes. Null is an empty one. */
+    /** Path of the file, at most 1,023 bytes. Null is an empty one. */
     public String filename = "";
     /** Snapshot of controller 0 before the interval. */
     public PerformanceAll preinfo0;
@@ -21,8 +22,8 @@ public class PerformanceOutputAllExRequest {
     /** Snapshot of controller 1 after the interval. */
     public PerformanceAll afterinfo1;
     /**
-     * What to write by controller, 2 elements. One that is lacking or null reaches the library as
-     * it lay in memory; null ends the reading of what to write.
+     * What to write, 2 elements. One that is lacking or null reaches the library as it lay in
+     * memory; null ends the reading of what to write.
      */
     public PerformanceOutputSpecifyInfo[] specifyinfo = new PerformanceOutputSpecifyInfo[2];
 

@@ -6,13 +6,13 @@ package tessaly.str.diskarray;
  *
  * <p>A selection that is null ends the reading: it and those behind it reach the library as they
  * lay in memory. One that is shorter than that of a new object throws
- * ArrayIndexOutOfBoundsException, and the library is called nevertheless. A snapshot that is null
- * reaches it as it lay in memory.
+ * ArrayIndexOutOfBoundsException, and the library is called nevertheless. The snapshots are null in
+ * a new object; one that is null reaches it as it lay in memory.
  *
  * <p>Layout assumed.
  */
 public class PerformanceOutputAllRequest {
-    /** Path of the file, at most 1023 bytes. Null is an empty one. */
+    /** Path of the file, at most 1,023 bytes. Null is an empty one. */
     public String filename = "";
     /** Snapshot of controller 0 before the interval. */
     public PerformanceAll preinfo0;
@@ -24,9 +24,9 @@ public class PerformanceOutputAllRequest {
     public PerformanceAll afterinfo1;
     /** Selects ports: 8 bytes. */
     public byte[] port = new byte[8];
-    /** Selects paths to the drives: 8 bytes. */
+    /** Selects back-end paths: 8 bytes. */
     public byte[] backend = new byte[8];
-    /** Selects LUs: 2048 bytes, the index is the LU's number. */
+    /** Selects LUs: 2,048 bytes. */
     public byte[] lu = new byte[2048];
     /** Selects the cache. */
     public int cache;

@@ -1,8 +1,8 @@
 package tessaly.str.diskarray;
 
 /**
- * Two controllers' snapshots before and after an interval. One that is null reaches the library as
- * it lay in memory.
+ * Two controllers' snapshots before and after an interval. All four are null in a new object; one
+ * that is null reaches the library as it lay in memory.
  */
 public class PerformanceOutputGraphInfoRequest {
     /** Snapshot of controller 0 before the interval. */

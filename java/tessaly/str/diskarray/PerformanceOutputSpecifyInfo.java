@@ -1,7 +1,7 @@
 package tessaly.str.diskarray;
 
 /**
- * What an output of all counters writes of one controller. What a byte or an int selects is the
+ * A selection of what an output of all counters writes. What a byte or an int selects is the
  * library's own.
  *
  * <p>A selection that is null ends the reading: it and those behind it reach the library as they
@@ -13,9 +13,9 @@ package tessaly.str.diskarray;
 public class PerformanceOutputSpecifyInfo {
     /** Selects ports: 8 bytes. */
     public byte[] port = new byte[8];
-    /** Selects paths to the drives: 8 bytes. */
+    /** Selects back-end paths: 8 bytes. */
     public byte[] backend = new byte[8];
-    /** Selects LUs: 8192 bytes, the index is the LU's number. */
+    /** Selects LUs: 8,192 bytes. */
     public byte[] lu = new byte[8192];
     /** Selects the cache. */
     public int cache;

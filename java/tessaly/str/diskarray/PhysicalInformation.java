@@ -1,13 +1,14 @@
 package tessaly.str.diskarray;
 
 /**
- * How many parts of each kind an array can hold. The comments say what the names say; whether a
- * count is of the array or of one of its units is the library's own.
+ * Numbers of an array's parts. The comments say what the names say; whether a number is of what
+ * there is or of what there can be, and whether of the array or of one of its units, are the
+ * library's own.
  */
 public class PhysicalInformation {
-    /** Which of the fields are valid, the library's own. */
+    /** Which of the fields are valid, the library's own value. */
     public int index;
-    /** Which of the further fields are valid, the library's own. */
+    /** Which of the further fields are valid, the library's own value. */
     public int index2;
     /** Caches. */
     public int cache_count;
@@ -15,11 +16,11 @@ public class PhysicalInformation {
     public int ps_count;
     /** Fans. */
     public int fan_count;
-    /** The library's own. */
+    /** The library's own value. */
     public int ac_count;
     /** Batteries. */
     public int batt_count;
-    /** The library's own. */
+    /** The library's own value. */
     public int battbk_count;
     /** Additional batteries. */
     public int add_batt_count;
@@ -27,7 +28,7 @@ public class PhysicalInformation {
     public int hdd_hdu_count;
     /** Enclosures of drives, by the name. */
     public int hdd_unit_count;
-    /** The library's own. */
+    /** The library's own value. */
     public int sp_count;
     /** Enclosure controllers. */
     public int enc_count;
@@ -49,23 +50,23 @@ public class PhysicalInformation {
     public int enc_unit_count;
     /** Connectors. */
     public int connector_count;
-    /** The library's own. */
+    /** The library's own value. */
     public int hdd_sff_count;
     /** Processor cores. */
     public int cpu_core_count;
-    /** NAS nodes. */
+    /** Network node controllers. */
     public int nnc_count;
-    /** Memory modules of a NAS node. */
+    /** Memory modules of a network node controller. */
     public int nnc_dimm_count;
-    /** Power supplies of a NAS node. */
+    /** Power supplies of a network node controller. */
     public int nnc_ps_count;
-    /** Fans of a NAS node. */
+    /** Fans of a network node controller. */
     public int nnc_fan_count;
-    /** Connectors of a NAS node. */
+    /** Connectors of a network node controller. */
     public int nnc_connector_count;
-    /** Extension slots of a NAS node. */
+    /** Extension slots of a network node controller. */
     public int nnc_ext_slot_count;
-    /** The library's own. */
+    /** The library's own value. */
     public int repair_slot_count;
     /** 16 elements, the library's own. */
     public int[] reserved;

@@ -2,10 +2,10 @@ package tessaly.str.diskarray;
 
 /** The capacity of a pool, an unsigned number of two words. */
 public class PoolDetailCapa {
-    /** Number of the pool. */
+    /** Pool number. */
     public int pool_no;
-    /** Capacity in blocks of 512 bytes, high word. */
+    /** Capacity in the library's own unit, high word. */
     public int poolcapa_h;
-    /** Capacity in blocks of 512 bytes, low word. */
+    /** Capacity in the library's own unit, low word. */
     public int poolcapa_l;
 }

@@ -4,12 +4,12 @@ package tessaly.str.diskarray;
 public class PortOptionCtlInfo {
     /**
      * LIP mode of each port, the library's own value: always 8 elements. Hand over at least as
-     * many.
+     * many. Null in a new object.
      */
     public int[] lip_mode;
     /**
      * Common option of each port, the library's own value: always 8 elements. Hand over at least as
-     * many.
+     * many. Null in a new object.
      */
     public int[] port_common_opt;
 }

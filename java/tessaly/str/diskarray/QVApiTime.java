@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** A span of time: the sum of its fields. */
+/** Hours, minutes and seconds. Every value is as the library gives it. */
 public class QVApiTime {
     /** Hours. */
     public int hour;

@@ -2,9 +2,9 @@ package tessaly.str.diskarray;
 
 /** The settings of the audit log. To change them, change what the query returned. */
 public class QVAuditLogInformation {
-    /** The library's own. */
+    /** Option, the library's own value. */
     public int option;
-    /** What of the settings is valid, the library's own. */
+    /** What of the settings is valid, the library's own value. */
     public int set_valid;
     /** Syslog servers. Null in a new object. */
     public QVAuditLogSyslogServerInfo auditlog_server;

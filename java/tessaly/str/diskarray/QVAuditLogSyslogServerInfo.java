@@ -4,6 +4,6 @@ package tessaly.str.diskarray;
 public class QVAuditLogSyslogServerInfo {
     /** Whether the log is sent at all, the library's own switch. */
     public int serverall_used;
-    /** 2 elements, at most. Null in a new object. */
+    /** At most 2 elements; always 2 in a result. Null in a new object. */
     public QVAuditLogSyslogServer[] server;
 }

@@ -25,7 +25,7 @@ public class QVUserLANDetail {
     public String current_ipaddress_ipv6 = "";
     /** Link-local IPv6 address, at most 39 bytes. */
     public String link_ipv6 = "";
-    /** Length of the IPv6 subnet prefix now in use. */
+    /** Subnet prefix now in use, the library's own number. */
     public int current_subnet_prefix;
     /** IPv6 gateway now in use, at most 39 bytes. */
     public String current_gateway_ipv6 = "";

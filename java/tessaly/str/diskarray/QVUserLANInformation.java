@@ -2,9 +2,12 @@ package tessaly.str.diskarray;
 
 /** The user LAN of an array. Layout assumed. */
 public class QVUserLANInformation {
-    /** Always 2 elements, one for each controller. Hand over as many, none of them null. */
+    /**
+     * Always 2 elements, one for each controller. Hand over as many, none of them null. Null in a
+     * new object.
+     */
     public QVUserLANDetail[] ctl;
-    /** How the maintenance address changes, the library's own value. */
+    /** Mode of changing the maintenance address, the library's own value. */
     public int mainte_ip_change_mode;
     /** Mode of the last setting, the library's own value. */
     public int last_set_mode;

@@ -4,6 +4,6 @@ package tessaly.str.diskarray;
 public class QVUserRegist {
     /** Number of users in the list. */
     public int num;
-    /** The library's own. */
+    /** Option, the library's own value. */
     public int option;
 }

@@ -2,7 +2,7 @@ package tessaly.str.diskarray;
 
 /** The CHAP users of one port. */
 public class QViSCSICHAPUserPortInfo {
-    /** Not 0 where the port is an iSCSI port that is there. */
+    /** Not 0 where the port is there. */
     public int port_valid;
     /** Security of the targets, the library's own value. */
     public int security;
@@ -12,7 +12,7 @@ public class QViSCSICHAPUserPortInfo {
     public int user_count;
     /**
      * Always 512 elements; those in use have a <code>user_valid</code> other than 0. Hand over as
-     * many, none of them null.
+     * many, none of them null. Null in a new object.
      */
     public QViSCSICHAPUserInfo[] user;
 }

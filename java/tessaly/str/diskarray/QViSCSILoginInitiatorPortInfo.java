@@ -2,7 +2,7 @@ package tessaly.str.diskarray;
 
 /** The iSCSI initiators that are logged in to one port. */
 public class QViSCSILoginInitiatorPortInfo {
-    /** Not 0 where the port is an iSCSI port that is there. */
+    /** Not 0 where the port is there. */
     public int port_valid;
     /** Number of initiators that can be logged in. */
     public int initiator_max_count;

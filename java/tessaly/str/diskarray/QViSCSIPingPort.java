@@ -2,9 +2,9 @@ package tessaly.str.diskarray;
 
 /** A ping from one iSCSI port, and how far it came. No text may be null where it is handed over. */
 public class QViSCSIPingPort {
-    /** Not 0 where the port is an iSCSI port that is there. */
+    /** Not 0 where the port is there. */
     public int port_valid;
-    /** Not 0 where the port is to ping. */
+    /** Whether the port is to ping, the library's own value. */
     public int request_valid;
     /** IP address to ping, at most 39 bytes. */
     public String ip_address = "";

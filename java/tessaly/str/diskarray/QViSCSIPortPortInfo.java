@@ -2,7 +2,7 @@ package tessaly.str.diskarray;
 
 /** The addresses of one iSCSI port. No text may be null where it is handed over. */
 public class QViSCSIPortPortInfo {
-    /** Not 0 where the port is an iSCSI port that is there. */
+    /** Not 0 where the port is there. */
     public int port_valid;
     /** Whether the port is to be set, the library's own value. */
     public int set_valid;
@@ -12,7 +12,7 @@ public class QViSCSIPortPortInfo {
     public String subnet = "";
     /** Gateway, at most 39 bytes. */
     public String gateway = "";
-    /** TCP port number. */
+    /** Port number. */
     public int port_num;
     /** Ethernet address, at most 19 bytes. */
     public String ether = "";

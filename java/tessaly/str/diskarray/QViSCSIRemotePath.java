@@ -8,6 +8,9 @@ public class QViSCSIRemotePath {
     public int path_valid;
     /** Serial number of the other array, at most 8 bytes. */
     public String other_serial_no = "";
-    /** Always 2 elements, one for each path. Hand over as many, none of them null. */
+    /**
+     * Always 2 elements, one for each path. Hand over as many, none of them null. Null in a new
+     * object.
+     */
     public QViSCSIRemotePathSecret[] path;
 }

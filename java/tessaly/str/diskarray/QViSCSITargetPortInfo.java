@@ -2,7 +2,7 @@ package tessaly.str.diskarray;
 
 /** The iSCSI targets of one port. */
 public class QViSCSITargetPortInfo {
-    /** Not 0 where the port is an iSCSI port that is there. */
+    /** Not 0 where the port is there. */
     public int port_valid;
     /** Security of the targets, the library's own value. */
     public int security;

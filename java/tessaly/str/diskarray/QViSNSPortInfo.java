@@ -2,7 +2,7 @@ package tessaly.str.diskarray;
 
 /** The iSNS server of one port. No text may be null where it is handed over. */
 public class QViSNSPortInfo {
-    /** Not 0 where the port is an iSCSI port that is there. */
+    /** Not 0 where the port is there. */
     public int port_valid;
     /** Whether the port is to be set, the library's own value. */
     public int set_valid;
@@ -10,6 +10,6 @@ public class QViSNSPortInfo {
     public int isns_use;
     /** IP address of the server, at most 39 bytes. */
     public String ip_address = "";
-    /** TCP port number of the server. */
+    /** Port number of the server. */
     public int port_num;
 }

@@ -9,9 +9,9 @@ public class RaidGroup {
     public int rgnum;
     /** RAID level, the library's own value. */
     public int level;
-    /** Position of the first drive: port. */
+    /** Drive position: port. */
     public int port;
-    /** Position of the first drive: row. */
+    /** Drive position: row. */
     public int row;
     /** Number of drives across. */
     public int width;
@@ -19,11 +19,11 @@ public class RaidGroup {
     public int depth;
     /** Capacity of the smallest drive, in the library's own unit. */
     public int minimum_capa;
-    /** Whether <code>lastLBA</code> is set: not 0. */
+    /** Whether <code>lastLBA</code> is set. */
     public int lastLBASet;
     /** Last logical block address. */
     public int lastLBA;
-    /** Free capacity in blocks of 512 bytes, high word. */
+    /** Free capacity in the library's own unit, high word. */
     public int rest_h;
     /** Free capacity, low word. */
     public int rest;

@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** A remote path to set up anew. */
+/** A remote path to rebuild. */
 public class RemotePathRebuild {
     /** Serial number of the other array, at most 16 bytes; not null. */
     public String remote_serial = "";

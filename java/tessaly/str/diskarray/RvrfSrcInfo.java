@@ -1,8 +1,8 @@
 package tessaly.str.diskarray;
 
-/** The paths of an array to other ones, as the source of remote verify. */
+/** The remote-verify source paths of an array. */
 public class RvrfSrcInfo {
-    /** Option word, the library's own value. */
+    /** Option, the library's own value. */
     public int rvrfsrc_option;
     /** Detection identifier of this array, the library's own value. */
     public int self_detect_id;

@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** A Farlink or Longlink pair to dissolve. */
+/** A Farlink or Longlink pair for the operation that is called simple. */
 public class SimpleRemotePair extends PairOperation {
     /** Serial number of the other array, at most 8 bytes; not null. */
     public String remote_serial = "";

@@ -2,7 +2,7 @@ package tessaly.str.diskarray;
 
 /** Power saving by RAID group and by logical unit. */
 public class SpinDownUpInformation {
-    /** The library's own value. */
+    /** Option, the library's own value. */
     public int option;
     /** Number of RAID groups listed. */
     public int rg_count;
@@ -10,6 +10,6 @@ public class SpinDownUpInformation {
     public SpinDownUpRGInfo[] rg;
     /** Number of logical units listed. */
     public int lu_count;
-    /** The logical units, 8192 elements, whatever the count says. */
+    /** The logical units, 8,192 elements, whatever the count says. */
     public SpinDownUpLuInfo[] lu;
 }

@@ -1,7 +1,7 @@
 package tessaly.str.diskarray;
 
-/** How commands ended, by LU. */
+/** Command statuses by LU. */
 public class StatisticalCommandStatus {
-    /** The LUs, 4096 elements, whether or not they exist. */
+    /** The LUs, 4,096 elements, whether or not they exist. */
     public StatisticalCommandStatus_Info[] lu;
 }

@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** How the commands of an LU ended. No field is known. */
+/** Command statuses of an LU. No field is known. */
 public class StatisticalCommandStatus_Info {}

@@ -1,14 +1,14 @@
 package tessaly.str.diskarray;
 
-/** How often and how long a controller ran. */
+/** Power-on and reset counts of a controller, and its times. */
 public class StatisticalController {
-    /** How often it was switched on. */
+    /** Power-on count. */
     public int power_on;
-    /** How often it was reset. */
+    /** Reset count. */
     public int reset;
     /** Time in total, in the library's own unit; seconds over the simulator. */
     public int total_time;
-    /** Time switched on, in the same unit. */
+    /** Time of the kind "on", in the same unit. */
     public int on_time;
     /** The library's own counter. */
     public int total_time_rap_cnt;

@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** What passed between two controllers. The kinds are the library's own. */
+/** Dual-controller events. The kinds are the library's own. */
 public class StatisticalDual {
     /** Events of the kind "other_correct". */
     public int other_correct;

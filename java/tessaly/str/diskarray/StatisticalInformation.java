@@ -7,19 +7,19 @@ package tessaly.str.diskarray;
 public class StatisticalInformation {
     /** The library's own value. */
     public int unite_option;
-    /** How often and how long it ran. */
+    /** Power-on and reset counts, and times. */
     public StatisticalController[] controller;
     /** Host commands by LU. */
     public StatisticalHostCommand[] h_command;
     /** Host commands by united LU. */
     public StatisticalHostCommand[] h_command_unite;
-    /** How commands ended, by LU. */
+    /** Command statuses by LU. */
     public StatisticalCommandStatus[] com_status;
-    /** How commands ended, by united LU. */
+    /** Command statuses by united LU. */
     public StatisticalCommandStatus[] com_status_unite;
     /** The cache. */
     public StatisticalCache[] cache;
-    /** The writing from the cache to the drives. */
+    /** Write-after. */
     public StatisticalWriteAfter[] writeafter;
     /** Restorations of drives. */
     public StatisticalDriveRestoration[] drive_rest;
@@ -41,11 +41,11 @@ public class StatisticalInformation {
     public StatisticalHontai[] hontai;
     /** Errors of the peripherals. */
     public StatisticalShuuhen[] shuuhen;
-    /** What passed between the controllers. */
+    /** Dual-controller events. */
     public StatisticalDual[] dual;
     /** The fibre ports. */
     public StatisticalFibre[] fibre;
-    /** Errors of the units. */
+    /** Counters of the units. */
     public StatisticalUnit[] unit;
     /** Errors of the drives, and their limits. */
     public StatisticalDriveError[] drive_err;

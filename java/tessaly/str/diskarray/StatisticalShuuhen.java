@@ -4,6 +4,6 @@ package tessaly.str.diskarray;
 public class StatisticalShuuhen {
     /** Errors of the panel. */
     public int panel;
-    /** Errors of the serial port. */
+    /** Errors of the kind "rs232c". */
     public int rs232c;
 }

@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** Counters of the writing from the cache to the drives. Layout assumed. */
+/** Counters of write-after. Layout assumed. */
 public class StatisticalWriteAfter {
     /** Stripes of RAID 0. */
     public int raid0_stripe_cnt;

@@ -10,6 +10,6 @@ public class SweepInfo {
     public int stop_time;
     /** Unloading, the library's own value. */
     public int unload;
-    /** Verification while the array runs, the library's own value. */
+    /** Online verify, the library's own value. */
     public int onlineVerify;
 }

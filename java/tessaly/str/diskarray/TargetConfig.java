@@ -6,8 +6,9 @@ public class TargetConfig {
     public int single;
     /**
      * Several target IDs, the library's own values: always 16 elements. Hand over at least as many.
+     * Null in a new object.
      */
     public int[] multi;
-    /** Always 16 elements. Hand over as many, none of them null. */
+    /** Always 16 elements. Hand over as many, none of them null. Null in a new object. */
     public TargetLunList[] mapping;
 }

@@ -1,6 +1,6 @@
 package tessaly.str.diskarray;
 
-/** The numbers of errors at which a drive is reported, by kind. */
+/** The drive error thresholds, by kind of error. */
 public class Threshold {
     /** Mechanical errors, recovered. */
     public int mechanical_recover;

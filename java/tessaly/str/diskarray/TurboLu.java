@@ -1,4 +1,4 @@
 package tessaly.str.diskarray;
 
-/** Turbo LUs: 44 bytes of which no field is known. Layout assumed. */
+/** Turbo LU parameters: 44 bytes of which no field is known. Layout assumed. */
 public class TurboLu {}

@@ -41,9 +41,9 @@ public class UnitCondition {
     public int[] ctl1_port_type;
     /** The library's own bytes by controller and port, 2 each: 2 x 8 x 2. */
     public byte[][][] connector;
-    /** Kind of array, the library's own code in a signed byte: one above 127 comes out 256 less. */
+    /** Device type, the library's own code in a signed byte: one above 127 comes out 256 less. */
     public int device_type;
-    /** Further code of the kind of array, the library's own, -128 to 127. */
+    /** Detail of the device type, the library's own code, -128 to 127. */
     public int device_type_QVK_sub_code;
     /** The library's own text for controller 0. */
     public String ctl0_flush;
@@ -85,13 +85,13 @@ public class UnitCondition {
     public String serial_id;
     /** The library's own value. */
     public int add_info_index;
-    /** Number of enclosures. */
+    /** Number of units, as the library counts them. */
     public int unit_count;
-    /** Kinds of the enclosures, 61 elements, -128 to 127: the library's own codes. */
+    /** Unit types, 61 elements, -128 to 127: the library's own codes. */
     public int[] unit_type;
-    /** Further codes of the kinds, 61 elements, -128 to 127. */
+    /** Details of the unit types, 61 elements, -128 to 127: the library's own codes. */
     public int[] unit_type_sub_code;
-    /** The library's own codes of the enclosures, 61 elements, -128 to 127. */
+    /** Unit kinds, 61 elements, -128 to 127: the library's own codes. */
     public int[] unit_kind;
     /** Conditions of the network node controllers, 4 elements. */
     public int[] nnc;
@@ -107,6 +107,6 @@ public class UnitCondition {
     public int[] sa_unit_exchange_req;
     /** The library's own values, 3 elements. */
     public int[] sa_repair_inst_req;
-    /** Kind of array as a text. */
+    /** Device type as a text. */
     public String device_type_name;
 }

@@ -1,11 +1,11 @@
 package tessaly.str.diskarray;
 
-/** What kind of array a unit is, and how much of everything it can hold. */
+/** What kind of array a unit is, and its numbers of logical objects and parts. */
 public class UnitInformation {
     /** What kind of array it is. */
     public BaseInformation b_info;
-    /** How many logical objects it can hold. */
+    /** Its numbers of logical objects. */
     public LogicalInformation l_info;
-    /** How many parts it can hold. */
+    /** Its numbers of parts. */
     public PhysicalInformation p_info;
 }

@@ -5,9 +5,9 @@ package tessaly.str.diskarray;
  * 2^32 plus low, unsigned.
  */
 public class VUCommandAll_Info {
-    /** Marks an entry in use: 0 where it is not. */
+    /** Not 0 where the entry is in use. */
     public int valid;
-    /** Whether the array counts it, the library's own value. */
+    /** Which of the values the array supports, the library's own value. */
     public int support;
     /** Commands. */
     public int command_count;

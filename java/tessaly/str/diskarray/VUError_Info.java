@@ -2,9 +2,9 @@ package tessaly.str.diskarray;
 
 /** Errors of a virtual unit. */
 public class VUError_Info {
-    /** Marks an entry in use: 0 where it is not. */
+    /** Not 0 where the entry is in use. */
     public int valid;
-    /** Whether the array counts it, the library's own value. */
+    /** Which of the values the array supports, the library's own value. */
     public int support;
     /** Commands that timed out. */
     public int timeout_error_count;

@@ -2,10 +2,10 @@ package tessaly.str.diskarray;
 
 /** What a part is. */
 public class VendorInfo {
-    /** Which texts the array supports, the library's own bits. */
+    /** Which texts the array supports, the library's own value. */
     public int support_index;
     /**
-     * Which texts are valid, the library's own bits; over the simulator 0 marks a place without a
+     * Which texts are valid, the library's own value; over the simulator 0 marks a place without a
      * part.
      */
     public int valid_index;

@@ -4,6 +4,9 @@ package tessaly.str.diskarray;
 public class WWNHGInformation {
     /** LUN management, the library's own value. */
     public int lun_manage;
-    /** Always 2 elements, one for each controller. Hand over as many, none of them null. */
+    /**
+     * Always 2 elements, one for each controller. Hand over as many, none of them null. Null in a
+     * new object.
+     */
     public WWNHGCtlInfo[] ctl;
 }

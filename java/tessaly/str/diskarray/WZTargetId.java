@@ -2,7 +2,7 @@ package tessaly.str.diskarray;
 
 /** The target IDs of a controller, in the WZ form. Layout assumed. */
 public class WZTargetId {
-    /** Controllers, the library's own value. */
+    /** Control flag, the library's own value. */
     public int ctrl_flag;
     /** Mode of the target IDs, the library's own value. */
     public int target_id_mode;

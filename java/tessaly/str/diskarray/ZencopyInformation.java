@@ -2,7 +2,7 @@ package tessaly.str.diskarray;
 
 /** The Zencopy pairs of an array. */
 public class ZencopyInformation {
-    /** Option word, the library's own value. */
+    /** Option, the library's own value. */
     public int option;
     /** How many elements of <code>lu</code> are in use. */
     public int pair_count;

@@ -10,8 +10,8 @@
  * array or object that is null ends the reading, without an exception, and so does an array of
  * numbers or bytes that is too short, with one. What lies behind reaches the array as it lay in
  * memory. So the constructors leave no text null, and in classes that are only handed over no array
- * and no object: texts are empty, arrays are as long as the record's. Keep them so. A class that is
- * also returned begins with its arrays and objects null; get one from the array and change it, or
- * set them all.
+ * and no object but the snapshots of performance: texts are empty, arrays are as long as the
+ * record's. Keep them so. A class that is also returned begins with its objects, and its arrays but
+ * those of bytes, null; get one from the array and change it, or set them all.
  */
 package tessaly.str.diskarray;
