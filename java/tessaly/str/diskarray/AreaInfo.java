@@ -8,7 +8,7 @@ public class AreaInfo {
     public int lun;
     /** Number of the LU before the area; what it is before the first one is the library's own. */
     public int befor_lun;
-    /** Capacity in the library's own unit, high word. */
+    /** Capacity in blocks of 512 bytes, high word. */
     public int area_capa_h;
     /** Capacity, low word. */
     public int area_capa_l;

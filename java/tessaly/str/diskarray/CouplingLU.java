@@ -18,9 +18,9 @@ public class CouplingLU {
     public int second_switch_stat;
     /** Mirror number, the library's own value. */
     public int mirror_no;
-    /** Capacity in the library's own unit, high word. */
+    /** Capacity in blocks of 512 bytes, high word. */
     public int capacity_h;
-    /** Capacity in the library's own unit, low word. */
+    /** Capacity in blocks of 512 bytes, low word. */
     public int capacity_l;
     /** Synchronised rate, the library's own value; percent over the simulator. */
     public int synchronized_rate;

@@ -21,6 +21,8 @@ package tessaly.str.diskarray;
  * <li>An array of a result always has the elements that its comment gives, in use or not.
  * <li>A number of 64 bits is in two fields, <code>_h</code> and <code>_l</code>:
  *     <code>(long) h &lt;&lt; 32 | l &amp; 0xFFFFFFFFL</code>.
+ * <li>A capacity in two fields counts blocks of 512 bytes. That is how the simulator counts; the
+ *     library's own declarations must confirm it.
  * <li>What is called the library's own passes as it is.
  * <li>{@link DiskArrayException} has the library's code where the library refuses, and 2817 where the
  *     result could not be built. Nothing is thrown for the library's code 256: the method returns

@@ -18,9 +18,9 @@ public class FarlinkAsyncLuInfo {
     public String pair_name;
     /** Capacity in a single word, in the library's own unit. */
     public int lu_capacity;
-    /** Capacity in the library's own unit, high word. */
+    /** Capacity in blocks of 512 bytes, high word. */
     public int lu_capacity_h;
-    /** Capacity in the library's own unit, low word. */
+    /** Capacity in blocks of 512 bytes, low word. */
     public int lu_capacity_l;
     /** Number of the logical unit in the other array. */
     public int remote_lu;

@@ -20,9 +20,9 @@ public class FarlinkLuInfo {
     public String remote_serial;
     /** Number of the logical unit in the other array. */
     public int remote_lu;
-    /** Capacity in the library's own unit, high word. */
+    /** Capacity in blocks of 512 bytes, high word. */
     public int capacity_h;
-    /** Capacity in the library's own unit, low word. */
+    /** Capacity in blocks of 512 bytes, low word. */
     public int capacity_l;
     /** Whether the pair is in a consistency group; 0 is no. */
     public int ctg_valid;

@@ -6,7 +6,7 @@ public class LogicalUnitCreationRequest {
     public int luNumber;
     /** RAID group that is to hold the LU. */
     public int rgNumber;
-    /** Capacity in the library's own unit, high word. */
+    /** Capacity in blocks of 512 bytes, high word. */
     public int lu_capacity_h;
     /** Capacity, low word. */
     public int lu_capacity_l;

@@ -6,7 +6,7 @@ public class LuGuard {
     public int lu_valid;
     /** Capacity in one word, in the library's own unit; the two words have all of it. */
     public int capacity;
-    /** Capacity in the library's own unit, high word. */
+    /** Capacity in blocks of 512 bytes, high word. */
     public int capacity_h;
     /** Capacity, low word. */
     public int capacity_l;

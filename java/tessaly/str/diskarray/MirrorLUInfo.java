@@ -22,9 +22,9 @@ public class MirrorLUInfo {
     public int pair_status_detail;
     /** Used capacity in a single word, in the library's own unit. */
     public int usedcapa;
-    /** Used capacity in the library's own unit, high word. */
+    /** Used capacity in blocks of 512 bytes, high word. */
     public int usedcapa_h;
-    /** Used capacity in the library's own unit, low word. */
+    /** Used capacity in blocks of 512 bytes, low word. */
     public int usedcapa_l;
     /** Changed rate, the library's own value; percent over the simulator. */
     public int changed_rate;

@@ -12,13 +12,13 @@ public class PairLUInfo {
     public int lun;
     /** Capacity in the library's own unit, in a single word. */
     public int capacity;
-    /** Capacity in the library's own unit, high word. */
+    /** Capacity in blocks of 512 bytes, high word. */
     public int capacity_h;
-    /** Capacity in the library's own unit, low word. */
+    /** Capacity in blocks of 512 bytes, low word. */
     public int capacity_l;
-    /** Used capacity of the pool in the library's own unit, high word. */
+    /** Used capacity of the pool in blocks of 512 bytes, high word. */
     public int pool_usedcapa_h;
-    /** Used capacity of the pool in the library's own unit, low word. */
+    /** Used capacity of the pool in blocks of 512 bytes, low word. */
     public int pool_usedcapa_l;
     /** Used rate of the pool, the library's own value. */
     public int pool_usedrate;

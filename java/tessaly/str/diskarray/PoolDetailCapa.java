@@ -4,8 +4,8 @@ package tessaly.str.diskarray;
 public class PoolDetailCapa {
     /** Pool number. */
     public int pool_no;
-    /** Capacity in the library's own unit, high word. */
+    /** Capacity in blocks of 512 bytes, high word. */
     public int poolcapa_h;
-    /** Capacity in the library's own unit, low word. */
+    /** Capacity in blocks of 512 bytes, low word. */
     public int poolcapa_l;
 }

@@ -6,11 +6,11 @@ public class PoolDetailInfo {
     public int pool_no;
     /** Pool status, the library's own value. */
     public int pool_status;
-    /** Total capacity in the library's own unit, high word. */
+    /** Total capacity in blocks of 512 bytes, high word. */
     public int allcapa_h;
     /** Total capacity, low word. */
     public int allcapa_l;
-    /** Used capacity in the library's own unit, high word. */
+    /** Used capacity in blocks of 512 bytes, high word. */
     public int usedcapa_h;
     /** Used capacity, low word. */
     public int usedcapa_l;

@@ -6,7 +6,7 @@ public class RGAreaInformation {
     public int rgnum;
     /** Capacity of the largest LU that can still be made, in the library's own unit. */
     public int lumaxcapa;
-    /** The same in two words, in the library's own unit, high word. */
+    /** The same in two words, in blocks of 512 bytes, high word. */
     public int lumaxcapa_h;
     /** The same, low word. */
     public int lumaxcapa_l;

@@ -23,7 +23,7 @@ public class RaidGroup {
     public int lastLBASet;
     /** Last logical block address. */
     public int lastLBA;
-    /** Free capacity in the library's own unit, high word. */
+    /** Free capacity in blocks of 512 bytes, high word. */
     public int rest_h;
     /** Free capacity, low word. */
     public int rest;

@@ -18,11 +18,11 @@ public class RgDetail {
     public int parity_count;
     /** Capacity of the smallest drive, in the library's own unit. */
     public int minimum_capa;
-    /** Total capacity in the library's own unit, high word. */
+    /** Total capacity in blocks of 512 bytes, high word. */
     public int total_capa_h;
     /** Total capacity, low word. */
     public int total_capa_l;
-    /** Free capacity in the library's own unit, high word. */
+    /** Free capacity in blocks of 512 bytes, high word. */
     public int rest_capa_h;
     /** Free capacity, low word. */
     public int rest_capa_l;

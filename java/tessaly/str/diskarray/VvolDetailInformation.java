@@ -6,7 +6,7 @@ public class VvolDetailInformation {
     public int lun;
     /** How the capacity is given, the library's own value. */
     public int capacity_specify;
-    /** Capacity in the library's own unit, high word. */
+    /** Capacity in blocks of 512 bytes, high word. */
     public int capacity_h;
     /** Capacity, low word. */
     public int capacity_l;
