@@ -1,6 +1,6 @@
-// Stands in for java.exe where there is no JVM for Windows: answers what kind of JVM it is, and looks
-// whether what a command line names is there. The libraries are found and loaded as a JVM does, and
-// each says its version. STAND_IN_ARCH and STAND_IN_STATUS are what it says and returns.
+// Stands in for java.exe where there is no JVM for Windows: answers what kind of JVM it is, and
+// looks whether what a command line names is there. The libraries are found and loaded as a JVM
+// does, and each says its version. STAND_IN_ARCH and STAND_IN_STATUS are what it says and returns.
 #include <windows.h>
 
 #include <cstdio>
@@ -43,7 +43,8 @@ std::string property(const std::string& file, const std::string& name) {
   UINT length = 0;
   if (block.empty() ||
       !GetFileVersionInfoA(file.c_str(), 0, static_cast<DWORD>(block.size()), block.data()) ||
-      !VerQueryValueA(block.data(), ("\\StringFileInfo\\040904B0\\" + name).c_str(), &text, &length)) {
+      !VerQueryValueA(block.data(), ("\\StringFileInfo\\040904B0\\" + name).c_str(), &text,
+                      &length)) {
     return "nothing";
   }
   return static_cast<const char*>(text);
@@ -85,8 +86,8 @@ int main(int count, char** arguments) {
     if (argument.compare(0, library_path.size(), library_path) == 0) {
       const std::string path = argument.substr(library_path.size());
       sound = load("quorvel.dll", path) && load("quorvelj.dll", path) && sound;
-    } else if (index + 1 < count && (argument == "-cp" || argument == "-jar" || argument == "--classes" ||
-                                     argument == "--natives")) {
+    } else if (index + 1 < count && (argument == "-cp" || argument == "-jar" ||
+                                     argument == "--classes" || argument == "--natives")) {
       sound = allExist(arguments[index + 1]) && sound;
     }
   }
