@@ -6,7 +6,7 @@ SOAK_JAVA := MALLOC_MMAP_THRESHOLD_=131072 $(JAVA) -cp $(BUILD)/lib/quorvelj.jar
   -Xms512m -Xmx512m -XX:+AlwaysPreTouch
 SOAK_SECONDS := 1800
 
-.PHONY: tour test check mutants benchmark chart coverage soak dist reference probe clean
+.PHONY: tour test check mutants benchmark chart coverage soak dist version reference probe clean
 .PHONY: packages-build packages-test packages-check packages-benchmark packages-coverage packages-dist
 
 tour: packages-build
@@ -53,6 +53,10 @@ probe: packages-build
 
 dist: packages-dist
 	scripts/dist.sh
+
+# make version VERSION=1.2.3; CONTRIBUTING.md says when.
+version:
+	scripts/version.sh "$$VERSION"
 
 packages-build packages-test packages-check packages-benchmark packages-coverage packages-dist:
 	scripts/install-packages.sh $(@:packages-%=%)

@@ -14,7 +14,7 @@ case "${1:-}" in
   wine) wanted=(wine wine32:i386) ;;
   i386) wanted=(g++-multilib openjdk-17-jre-headless:i386) ;;
   coverage) wanted=("${build[@]}" "${tests[@]}" gcovr) ;;
-  dist) wanted=("${build[@]}" "${tests[@]}" g++-multilib zip) ;;
+  dist) wanted=("${build[@]}" "${tests[@]}" g++-multilib unzip zip) ;;
   *) echo "usage: $0 build|test|check|benchmark|wine|i386|dist|coverage" >&2; exit 2 ;;
 esac
 

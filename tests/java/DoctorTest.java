@@ -26,8 +26,8 @@ import quorvelj.tools.LibraryFile;
 /**
  * What the doctor says of applications and libraries that do not fit, and what becomes of the calls
  * then. Usage: DoctorTest JAVA JAVA_OF_32_BITS TOOLS_JAR PRODUCT_JAR TESTS_JAR SOURCES DIRECTORY
- * LIBRARIES LIBRARIES_OF_32_BITS LIBRARIES_FOR_WINDOWS. The second and the last two may be missing
- * where this is not CI.
+ * LIBRARIES LIBRARIES_OF_32_BITS LIBRARIES_FOR_WINDOWS VERSION. The second JVM and the libraries for
+ * other targets may be missing where this is not CI.
  */
 public final class DoctorTest {
     private static final int MUTATIONS = 1000;
@@ -44,6 +44,7 @@ public final class DoctorTest {
     private final Path libraries;
     private final Path libraries32;
     private final Path librariesForWindows;
+    private final String version;
     private final List<String> failures = new ArrayList<>();
 
     private String printed = "";
@@ -60,6 +61,7 @@ public final class DoctorTest {
         libraries = Paths.get(arguments[7]);
         libraries32 = Paths.get(arguments[8]);
         librariesForWindows = Paths.get(arguments[9]);
+        version = arguments[10];
     }
 
     public static void main(String[] arguments) throws Exception {
@@ -330,7 +332,8 @@ public final class DoctorTest {
             throws Exception {
         boolean isOwn = from.equals(libraries);
         doctorOf(from);
-        expectReport(0, bridge + " 1.0.0, " + machine + " ");
+        expectReport(0, bridge + " " + version + ", " + machine + " ");
+        expectReport(0, quorvel + " " + version + " (the simulator), " + machine + " ");
         expectReport(0, "371 of 371 in " + quorvel);
         expectReport(0, isOwn ? "the application's class loads quorvel before quorvelj"
                 : "for another system than this JVM's: only read");
@@ -375,7 +378,7 @@ public final class DoctorTest {
         doctorOf(libraries);
         expectReport(1, "a 32-bit JVM does not load 64-bit libraries: take a 64-bit JVM");
         doctorOf(libraries32);
-        expectReport(0, "libquorvelj.so 1.0.0, x86 ");
+        expectReport(0, "libquorvelj.so " + version + ", x86 ");
         java = java64;
         Path mixed = copies(libraries, "libquorvelj.so", "libquorvel.so", "QV_", "QV_");
         Files.copy(libraries32.resolve("libquorvel.so"), mixed.resolve("libquorvel.so"),

@@ -43,12 +43,7 @@ final class Libraries {
             return;
         }
         LibraryFile bridge = read(bridgeFile);
-        boolean forWindows = bridgeFile.getName().endsWith(".dll");
-        LibraryFile quorvel =
-                read(
-                        new File(
-                                bridgeFile.getParentFile(),
-                                forWindows ? "quorvel.dll" : "libquorvel.so"));
+        LibraryFile quorvel = read(quorvelFor(bridgeFile, directories));
         if (bridge != null) {
             examineFit(bridge, quorvel);
             examineSearch(bridge);
@@ -76,6 +71,18 @@ final class Libraries {
             }
         }
         return null;
+    }
+
+    /** Its quorvel: the one beside it, or the first that an application finds that loads it itself. */
+    private File quorvelFor(File bridge, List<File> directories) {
+        String name = bridge.getName().replace("quorvelj", "quorvel");
+        for (File directory : directories) {
+            File file = new File(directory, name);
+            if (loadsQuorvelFirst && file.exists()) {
+                return file;
+            }
+        }
+        return new File(bridge.getParentFile(), name);
     }
 
     private static String shown(List<File> directories) {
