@@ -53,8 +53,9 @@ struct Arguments {
 
 void append(Bytes& bytes, const Value& value) {
   if (value.data != nullptr) {
-    const auto* const first = static_cast<const std::byte*>(value.data);
-    bytes.insert(bytes.end(), first, first + value.bytes);
+    const std::size_t used = bytes.size();
+    bytes.resize(used + value.bytes);
+    std::memcpy(bytes.data() + used, value.data, value.bytes);
   }
 }
 
@@ -64,8 +65,9 @@ void fillOutputs(const Arguments& arguments, const Bytes& source) {
   for (const Value& value : arguments) {
     if (value.role == Role::kOutput && value.data != nullptr) {
       const std::size_t given = std::min(value.bytes, source.size() - used);
-      std::memset(value.data, 0, value.bytes);
-      std::copy_n(source.data() + used, given, static_cast<std::byte*>(value.data));
+      auto* const output = static_cast<std::byte*>(value.data);
+      std::copy_n(source.data() + used, given, output);
+      std::memset(output + given, 0, value.bytes - given);
       used += given;
     }
   }
@@ -212,7 +214,9 @@ size_t quorvelSimLastInput(const char* function, int index, void* buffer, size_t
     return 0;
   }
   const auto& input = inputs[static_cast<std::size_t>(index)];
-  std::copy_n(input.data(), std::min(size, input.size()), static_cast<std::byte*>(buffer));
+  if (const std::size_t copied = std::min(size, input.size()); copied > 0) {
+    std::memcpy(buffer, input.data(), copied);
+  }
   return input.size();
 }
 
