@@ -8,7 +8,7 @@ git ls-files '*.cpp' '*.h' | xargs clang-format --dry-run --Werror
 
 echo "== clang"
 cmake --preset linux-clang -DCMAKE_COMPILE_WARNING_AS_ERROR=ON >/dev/null
-cmake --build --preset linux-clang
+cmake --build --preset linux-clang --parallel "$(nproc)"
 
 echo "== clang-tidy"
 git ls-files 'bridge/*.cpp' 'methods/**.cpp' 'simulator/*.cpp' 'recorder/*.cpp' ':!recorder/exports.cpp' |

@@ -13,18 +13,31 @@ using Role = Value::Role;
 
 constexpr char kAllFunctions[] = "*";
 
+/// A copy of an input, in memory that is kept: fresh memory for large records is slow.
+struct Input {
+  Bytes memory;
+  std::size_t size = 0;
+
+  void take(const Value& value) {
+    size = value.data == nullptr ? 0 : value.bytes;
+    memory.resize(std::max(memory.size(), size));
+    if (size > 0) {
+      std::memcpy(memory.data(), value.data, size);
+    }
+  }
+};
+
 /// What a test asks of one function, and the inputs of the last call.
 struct Control {
   int forcedResult = 0;
   int forcedTimes = 0;
   Bytes prepared;
   int calls = 0;
-  std::vector<Bytes> lastInputs;
+  std::vector<Input> lastInputs;
 
-  /// Keeps their memory: fresh memory for large records is slow.
   void forgetInputs() {
-    for (Bytes& input : lastInputs) {
-      input.clear();
+    for (Input& input : lastInputs) {
+      input.size = 0;
     }
   }
 };
@@ -53,9 +66,8 @@ struct Arguments {
 
 void append(Bytes& bytes, const Value& value) {
   if (value.data != nullptr) {
-    const std::size_t used = bytes.size();
-    bytes.resize(used + value.bytes);
-    std::memcpy(bytes.data() + used, value.data, value.bytes);
+    const auto* const first = static_cast<const std::byte*>(value.data);
+    bytes.insert(bytes.end(), first, first + value.bytes);
   }
 }
 
@@ -149,7 +161,7 @@ Call::Call(const char* function, const Value* values, std::size_t count, bool ha
   control.lastInputs.resize(count);
   for (std::size_t index = 0; index < count; ++index) {
     if (values[index].role != Role::kOutput) {
-      append(control.lastInputs[index], values[index]);
+      control.lastInputs[index].take(values[index]);
     }
   }
   if (self.observer != nullptr) {
@@ -214,10 +226,10 @@ size_t quorvelSimLastInput(const char* function, int index, void* buffer, size_t
     return 0;
   }
   const auto& input = inputs[static_cast<std::size_t>(index)];
-  if (const std::size_t copied = std::min(size, input.size()); copied > 0) {
-    std::memcpy(buffer, input.data(), copied);
+  if (const std::size_t copied = std::min(size, input.size); copied > 0) {
+    std::memcpy(buffer, input.memory.data(), copied);
   }
-  return input.size();
+  return input.size;
 }
 
 void quorvelSimObserve(void (*observer)(const char* function)) {
