@@ -149,6 +149,13 @@ std::string identifierOf(const QVSessionInfo& session) {
   return {reinterpret_cast<const char*>(session.session_id), sizeof session.session_id};
 }
 
+void multiplyLast(Value* values, std::size_t count, int countParameter) {
+  if (countParameter >= 0) {
+    const auto records = *static_cast<const std::int32_t*>(values[countParameter].data);
+    values[count - 1].bytes *= static_cast<std::size_t>(std::max(records, 0));
+  }
+}
+
 Call::Call(const char* function, const Value* values, std::size_t count, bool hasHandler) {
   Simulator& self = simulator();
   self.lock.lock();
