@@ -12,7 +12,7 @@ javadoc -quiet -encoding UTF-8 -Xdoclint:all -Werror -Xmaxwarns 5000 -Xmaxerrs 5
 
 echo "== clang"
 cmake --preset linux-clang -DCMAKE_COMPILE_WARNING_AS_ERROR=ON >/dev/null
-cmake --build --preset linux-clang
+cmake --build --preset linux-clang --parallel "$(nproc)"
 
 echo "== clang-tidy"
 git ls-files 'bridge/*.cpp' 'methods/**.cpp' 'simulator/*.cpp' 'recorder/*.cpp' ':!recorder/exports.cpp' |

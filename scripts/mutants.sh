@@ -138,6 +138,7 @@ run_tests() {
   local -r slow=AllInformation.*:CopyPairs.*Form
   # Only the variant that keeps identifiers is made of these.
   if [[ $file == bridge/cached_env.* || $file == bridge/class_lookup.h ]]; then
+    seen=
     make_targets cached_tests || seen="compiler"
     [ -z "$seen" ] && attempt "$jobs" 900 cached_tests '*Cached*' &&
       attempt "$jobs" 900 cached_tests '-*Cached*' || return 0

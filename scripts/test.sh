@@ -29,7 +29,7 @@ build() {
   [ -z "${CI:-}" ] || options+=(-DCMAKE_COMPILE_WARNING_AS_ERROR=ON)
   echo "== build of $1"
   cmake --preset "$1" "${options[@]}" >/dev/null
-  cmake --build --preset "$1"
+  cmake --build --preset "$1" --parallel "$(nproc)"
 }
 
 run() {

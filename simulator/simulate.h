@@ -6,6 +6,7 @@
 
 #include "arraylib/accounts.h"
 #include "arraylib/prototype.h"
+#include "arraylib/record.h"
 #include "simulator/codes.h"
 #include "simulator/state.h"
 
@@ -62,9 +63,14 @@ class Call {
   int result_ = 0;
 };
 
+/// Makes the last argument as many records as the argument of this number says; -1 for one.
+void multiplyLast(Value* values, std::size_t count, int countParameter);
+
 template <class... Parameter>
-int call(const char* function, int (*handler)(Parameter...), Parameter... parameters) {
-  const Value values[] = {describe(parameters)..., Value{}};
+int call(const char* function, int countParameter, int (*handler)(Parameter...),
+         Parameter... parameters) {
+  Value values[] = {describe(parameters)..., Value{}};
+  multiplyLast(values, sizeof...(Parameter), countParameter);
   const Call running(function, values, sizeof...(Parameter), handler != nullptr);
   return handler == nullptr || running.settled() ? running.result() : handler(parameters...);
 }
@@ -73,7 +79,7 @@ int call(const char* function, int (*handler)(Parameter...), Parameter... parame
 
 #define SIMULATE(count, function, ...)                                                      \
   int function(QUORVEL_PARAMETERS_##count(function)) {                                      \
-    return quorvelsim::call(#function,                                                      \
+    return quorvelsim::call(#function, quorvelj::kCountParameter<function>,                 \
                             static_cast<decltype(&function)>(SIMULATE_HANDLER(__VA_ARGS__)) \
                                 QUORVEL_ARGUMENTS_##count);                                 \
   }

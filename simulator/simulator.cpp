@@ -13,18 +13,31 @@ using Role = Value::Role;
 
 constexpr char kAllFunctions[] = "*";
 
+/// A copy of an input, in memory that is kept: fresh memory for large records is slow.
+struct Input {
+  Bytes memory;
+  std::size_t size = 0;
+
+  void take(const Value& value) {
+    size = value.data == nullptr ? 0 : value.bytes;
+    memory.resize(std::max(memory.size(), size));
+    if (size > 0) {
+      std::memcpy(memory.data(), value.data, size);
+    }
+  }
+};
+
 /// What a test asks of one function, and the inputs of the last call.
 struct Control {
   int forcedResult = 0;
   int forcedTimes = 0;
   Bytes prepared;
   int calls = 0;
-  std::vector<Bytes> lastInputs;
+  std::vector<Input> lastInputs;
 
-  /// Keeps their memory: fresh memory for large records is slow.
   void forgetInputs() {
-    for (Bytes& input : lastInputs) {
-      input.clear();
+    for (Input& input : lastInputs) {
+      input.size = 0;
     }
   }
 };
@@ -64,8 +77,9 @@ void fillOutputs(const Arguments& arguments, const Bytes& source) {
   for (const Value& value : arguments) {
     if (value.role == Role::kOutput && value.data != nullptr) {
       const std::size_t given = std::min(value.bytes, source.size() - used);
-      std::memset(value.data, 0, value.bytes);
-      std::copy_n(source.data() + used, given, static_cast<std::byte*>(value.data));
+      auto* const output = static_cast<std::byte*>(value.data);
+      std::copy_n(source.data() + used, given, output);
+      std::memset(output + given, 0, value.bytes - given);
       used += given;
     }
   }
@@ -135,6 +149,13 @@ std::string identifierOf(const QVSessionInfo& session) {
   return {reinterpret_cast<const char*>(session.session_id), sizeof session.session_id};
 }
 
+void multiplyLast(Value* values, std::size_t count, int countParameter) {
+  if (countParameter >= 0) {
+    const auto records = *static_cast<const std::int32_t*>(values[countParameter].data);
+    values[count - 1].bytes *= static_cast<std::size_t>(std::max(records, 0));
+  }
+}
+
 Call::Call(const char* function, const Value* values, std::size_t count, bool hasHandler) {
   Simulator& self = simulator();
   self.lock.lock();
@@ -147,7 +168,7 @@ Call::Call(const char* function, const Value* values, std::size_t count, bool ha
   control.lastInputs.resize(count);
   for (std::size_t index = 0; index < count; ++index) {
     if (values[index].role != Role::kOutput) {
-      append(control.lastInputs[index], values[index]);
+      control.lastInputs[index].take(values[index]);
     }
   }
   if (self.observer != nullptr) {
@@ -212,8 +233,10 @@ size_t quorvelSimLastInput(const char* function, int index, void* buffer, size_t
     return 0;
   }
   const auto& input = inputs[static_cast<std::size_t>(index)];
-  std::copy_n(input.data(), std::min(size, input.size()), static_cast<std::byte*>(buffer));
-  return input.size();
+  if (const std::size_t copied = std::min(size, input.size); copied > 0) {
+    std::memcpy(buffer, input.memory.data(), copied);
+  }
+  return input.size;
 }
 
 void quorvelSimObserve(void (*observer)(const char* function)) {

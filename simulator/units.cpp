@@ -150,11 +150,4 @@ SIMULATE(2, QV_DiscoverUnitInformation, discover)
 SIMULATE(2, QV_DiscoverUnitInformationEx, discover)
 SIMULATE(3, QV_AddAdditionalUnit)
 SIMULATE(3, QV_GetAdditionalUnitInformation)
-
-// Written out, because only here the caller's count says how large the output is.
-int QV_GetUnitParamTable(std::int32_t count, QVUnitParam* table) {
-  const std::size_t bytes = count < 0 ? 0 : static_cast<std::size_t>(count) * sizeof *table;
-  const Value values[] = {describe(count), {Value::Role::kOutput, table, bytes}};
-  const Call running("QV_GetUnitParamTable", values, std::size(values), true);
-  return running.settled() ? running.result() : getUnitParamTable(count, table);
-}
+SIMULATE(2, QV_GetUnitParamTable, getUnitParamTable)

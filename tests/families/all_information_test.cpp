@@ -50,17 +50,6 @@ TEST_F(AllInformation, Whole) {
       "76038748:int32 cfg ctrl_condition[0] ctrl_condition[1] last_lu");
 }
 
-// Objects of classes without a known field are made all the same.
-TEST_F(AllInformation, ObjectsWithoutFields) {
-  expectFields(information("QV_GetAllInformation"),
-               "turbo_lu=TurboLu; prefetch_info=PrefetchInformation; verify=OnlineVerify; "
-               "on_opt=NowWZParameter[2]; on_opt[1]=NowWZParameter; boot_opt=BootOption; "
-               "on_sysparam=OnlineSystemParam; on_tuning=OnlineTuningParam; tuning=TuningParam; "
-               "pre_tuning=PrefetchTuning; cache_prt=CachePartition; timezonelist=TimeZoneList; "
-               "timeinfo=TimeInfo; systemluall=NASSystemLUAll; userluall=NASUserLUAll; "
-               "nasosstatus=NASOSStatusList; account.account_info[0].user_id=admin");
-}
-
 TEST_F(AllInformation, LightForm) {
   expectFields(information("QV_GetAllInformationLite"),
                "pair_info.lu=PairLUInfo[2046]; pair_info.ctl=PoolCtlCapa[2]; pair_info.sys=null; "

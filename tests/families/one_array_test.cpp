@@ -238,6 +238,14 @@ TEST_F(OneArray, BundlesTellWhatThePagesTell) {
       "AllInfo_Replication.pool_info.sys.pool_enable_count = "
       "AllInformation.pool_info.sys.pool_enable_count; AllInfo_Tuning.luowner.count = "
       "ArrayCondition.lu_count");
+  // Objects of classes without a known field are made all the same.
+  expectFields(pages_["AllInformation"],
+               "turbo_lu=TurboLu; prefetch_info=PrefetchInformation; verify=OnlineVerify; "
+               "on_opt=NowWZParameter[2]; on_opt[1]=NowWZParameter; boot_opt=BootOption; "
+               "on_sysparam=OnlineSystemParam; on_tuning=OnlineTuningParam; tuning=TuningParam; "
+               "pre_tuning=PrefetchTuning; cache_prt=CachePartition; timezonelist=TimeZoneList; "
+               "timeinfo=TimeInfo; systemluall=NASSystemLUAll; userluall=NASUserLUAll; "
+               "nasosstatus=NASOSStatusList; account.account_info[0].user_id=admin");
 }
 
 TEST_F(OneArray, FirmwareAndAddresses) {

@@ -1,4 +1,5 @@
 // Registered units.
+#include "arraylib/units.h"
 #include "tests/families/registered_unit.h"
 
 namespace quorvelj::testing {
@@ -44,6 +45,9 @@ TEST_F(UnitRegistration, ListOfUnits) {
                "=QVUnitParam[2]; [0].unit_name=east; [1].unit_name=north; [1].device_type=201");
   EXPECT_EQ(get(call("QV_GetUnitParamTable", {number(0)}).result, ""), "QVUnitParam[0]");
   EXPECT_EQ(call("QV_GetUnitParamTable", {number(-1)}).result, nullptr);
+  const QVUnitParam prepared[2] = {{}, {.unit_name = "second"}};
+  quorvelSimPrepareOutput("QV_GetUnitParamTable", prepared, sizeof prepared);
+  EXPECT_EQ(get(call("QV_GetUnitParamTable", {number(2)}).result, "[1].unit_name"), "second");
 }
 
 TEST_F(UnitRegistration, NamesAreCutToTheirBuffer) {

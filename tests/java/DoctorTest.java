@@ -1,7 +1,7 @@
 import java.io.ByteArrayOutputStream;
 import java.io.File;
 import java.io.IOException;
-import java.io.InputStream;
+import java.io.PrintStream;
 import java.nio.charset.StandardCharsets;
 import java.nio.file.Files;
 import java.nio.file.Path;
@@ -21,7 +21,9 @@ import java.util.zip.ZipEntry;
 import java.util.zip.ZipFile;
 import java.util.zip.ZipOutputStream;
 import javax.tools.ToolProvider;
+import quorvelj.tools.Application;
 import quorvelj.tools.LibraryFile;
+import quorvelj.tools.Main;
 
 /**
  * What the doctor says of applications and libraries that do not fit, and what becomes of the calls
@@ -113,22 +115,31 @@ public final class DoctorTest {
 
     private void run(String... command) throws IOException, InterruptedException {
         Process process = new ProcessBuilder(command).redirectErrorStream(true).start();
-        printed = new String(allOf(process.getInputStream()), StandardCharsets.UTF_8);
+        printed = new String(Application.allOf(process.getInputStream()), StandardCharsets.UTF_8);
         status = process.waitFor();
     }
 
+    /** In this JVM, unless another is asked: to start one takes longer than the doctor does. */
     private void doctor(String... arguments) throws IOException, InterruptedException {
-        run(Stream.concat(Stream.of(java, QUICK[0], QUICK[1], "-jar", toolsJar, "doctor"), Arrays.stream(arguments))
-                .toArray(String[]::new));
-    }
-
-    private static byte[] allOf(InputStream in) throws IOException {
-        ByteArrayOutputStream out = new ByteArrayOutputStream();
-        byte[] buffer = new byte[1 << 13];
-        for (int count; (count = in.read(buffer)) > 0; ) {
-            out.write(buffer, 0, count);
+        Stream<String> words = Stream.concat(Stream.of("doctor"), Arrays.stream(arguments));
+        if (java.equals(java32)) {
+            run(Stream.concat(Stream.of(java, QUICK[0], QUICK[1], "-jar", toolsJar), words)
+                    .toArray(String[]::new));
+            return;
         }
-        return out.toByteArray();
+        ByteArrayOutputStream bytes = new ByteArrayOutputStream();
+        PrintStream all = new PrintStream(bytes, true, "UTF-8");
+        PrintStream out = System.out;
+        PrintStream err = System.err;
+        System.setOut(all);
+        System.setErr(all);
+        try {
+            status = Main.run(words.collect(Collectors.toList()), all);
+        } finally {
+            System.setOut(out);
+            System.setErr(err);
+        }
+        printed = bytes.toString("UTF-8");
     }
 
     // Applications
@@ -165,7 +176,7 @@ public final class DoctorTest {
             for (ZipEntry entry : Collections.list(product.entries())) {
                 if (!replaced.containsKey(entry.getName())) {
                     out.putNextEntry(new ZipEntry(entry.getName()));
-                    out.write(allOf(product.getInputStream(entry)));
+                    out.write(Application.allOf(product.getInputStream(entry)));
                 }
             }
             for (Map.Entry<String, byte[]> entry : replaced.entrySet()) {
@@ -265,7 +276,7 @@ public final class DoctorTest {
         String name = "tessaly/str/diskarray/RgDetail.class";
         byte[] whole;
         try (ZipFile product = new ZipFile(productJar)) {
-            whole = allOf(product.getInputStream(product.getEntry(name)));
+            whole = Application.allOf(product.getInputStream(product.getEntry(name)));
         }
         byte[] newer = whole.clone();
         newer[7] = 99; // the version of the class file
@@ -291,7 +302,7 @@ public final class DoctorTest {
         doctor("--classes", broken + File.pathSeparator + tour, "--natives", lib, "--used");
         expectReport(1, "RgDetail.lu_count  missing, wanted int: QV_GetAllInformation,"
                 + " QV_GetRaidGroupInformation and 1 more will throw 2817");
-        doctor("--help");
+        run(java, QUICK[0], QUICK[1], "-jar", toolsJar, "doctor", "--help");
         expect(status == 0 && printed.split("\n").length < 24, "help");
         String[][] refused = {
             {"--nothing", "unknown: --nothing"},
@@ -343,7 +354,7 @@ public final class DoctorTest {
         expectReport(1, "QV_GetPfmStatisCfg missing: " + bridge + " will not load");
         expectReport(1, "370 of 371 in " + quorvel);
         if (isOwn) {
-            run(java, "-Djava.library.path=" + lacking, "-classpath",
+            run(java, QUICK[0], QUICK[1], "-Djava.library.path=" + lacking, "-classpath",
                     productJar + File.pathSeparator + testsJar, "DoctorCall", "QV_GetUnitCount");
             expect(printed.startsWith("UnsatisfiedLinkError")
                     && printed.contains("undefined symbol: QV_GetPfmStatisCfg"), printed);
@@ -401,7 +412,7 @@ public final class DoctorTest {
         Path apart = copies(libraries, "libquorvel.so", "libquorvelj.so", "$ORIGIN", "/nowher");
         doctor("--classes", jar, "--natives", apart.toString());
         expectReport(1, apart + " is not in LD_LIBRARY_PATH: libquorvel.so is not found");
-        run(java, "-Djava.library.path=" + apart, "-classpath",
+        run(java, QUICK[0], QUICK[1], "-Djava.library.path=" + apart, "-classpath",
                 jar + File.pathSeparator + testsJar, "DoctorCall", "QV_GetUnitCount");
         expect(printed.startsWith("UnsatisfiedLinkError"), printed);
     }

@@ -42,7 +42,9 @@ std::string contentOf(const std::string& path) {
   return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
+/// A new file: one that is written anew goes to the disk at once.
 void write(const std::string& path, const std::string& content) {
+  std::remove(path.c_str());
   std::ofstream(path, std::ios::binary) << content;
 }
 

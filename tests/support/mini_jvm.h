@@ -13,6 +13,7 @@
 #include "tests/support/mini_jvm/heap.h"
 #include "tests/support/native_methods.h"
 #include "tests/support/pending_exception.h"
+#include "tests/support/test_runtime.h"
 
 namespace quorvelj::testing {
 
@@ -87,6 +88,8 @@ class MiniJvm {
   std::map<const char*, std::vector<char>> characters;
   mini::Object* thrown = nullptr;
   mini::Heap heap;
+  /// The recorder of the thread that made the JVM, and has it for itself.
+  Recorder& recorded = recorder();
 
  private:
   struct Env {

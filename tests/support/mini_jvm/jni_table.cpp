@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdarg>
+#include <cstring>
 #include <functional>
 #include <iomanip>
 #include <sstream>
@@ -9,7 +10,6 @@
 
 #include "tests/support/fail.h"
 #include "tests/support/mini_jvm/inputs.h"
-#include "tests/support/test_runtime.h"
 
 namespace quorvelj::testing::mini {
 namespace {
@@ -71,11 +71,11 @@ bool enter(MiniJvm& jvm, bool fallible, const char* call, const Detail&... detai
     ++jvm.callsUnderException;
   }
   const bool fails = fallible && ++jvm.fallibleCalls == jvm.failingCall;
-  if (recorder().tracing || fails) {
+  if (jvm.recorded.tracing || fails) {
     std::ostringstream event;
     event << call;
     static_cast<void>(((event << ' ' << detail), ...));
-    recorder().add(event.str());
+    jvm.recorded.add(event.str());
     if (fails) {
       jvm.failedFunction = call;
       jvm.failedCall = event.str();
@@ -308,14 +308,14 @@ template <class Element, class Array>
 void getRegion(MiniJvm& jvm, Array array, jsize start, jsize count, Element* values) {
   const Element* const first = region<Element>(jvm, Region<Element>::kGet, array, start, count);
   if (first != nullptr) {
-    std::copy_n(first, count, values);
+    std::memcpy(values, first, static_cast<std::size_t>(count) * sizeof *values);
   }
 }
 template <class Element, class Array>
 void setRegion(MiniJvm& jvm, Array array, jsize start, jsize count, const Element* values) {
   Element* const first = region<Element>(jvm, Region<Element>::kSet, array, start, count);
   if (first != nullptr) {
-    std::copy_n(values, count, first);
+    std::memcpy(first, values, static_cast<std::size_t>(count) * sizeof *values);
   }
 }
 

@@ -29,7 +29,7 @@ import java.util.zip.ZipFile;
  * The classes of an application, as its jars and directories have them. They are read, not loaded;
  * `construct` alone runs code of theirs.
  */
-final class Application implements AutoCloseable {
+public final class Application implements AutoCloseable {
     /** A class that cannot be had, with a reason of one line. */
     static final class NoClass extends Exception {
         private static final long serialVersionUID = 1L;
@@ -230,7 +230,8 @@ final class Application implements AutoCloseable {
         return platform.getResourceAsStream(name);
     }
 
-    private static byte[] allOf(InputStream in) throws IOException {
+    /** The bytes that are left. */
+    public static byte[] allOf(InputStream in) throws IOException {
         ByteArrayOutputStream out = new ByteArrayOutputStream();
         byte[] buffer = new byte[1 << 13];
         for (int count; (count = in.read(buffer)) > 0; ) {
