@@ -1,4 +1,6 @@
 // Registered units.
+#include <cstring>
+
 #include "arraylib/units.h"
 #include "tests/families/registered_unit.h"
 
@@ -45,7 +47,8 @@ TEST_F(UnitRegistration, ListOfUnits) {
                "=QVUnitParam[2]; [0].unit_name=east; [1].unit_name=north; [1].device_type=201");
   EXPECT_EQ(get(call("QV_GetUnitParamTable", {number(0)}).result, ""), "QVUnitParam[0]");
   EXPECT_EQ(call("QV_GetUnitParamTable", {number(-1)}).result, nullptr);
-  const QVUnitParam prepared[2] = {{}, {.unit_name = "second"}};
+  QVUnitParam prepared[2]{};
+  std::strcpy(prepared[1].unit_name, "second");
   quorvelSimPrepareOutput("QV_GetUnitParamTable", prepared, sizeof prepared);
   EXPECT_EQ(get(call("QV_GetUnitParamTable", {number(2)}).result, "[1].unit_name"), "second");
 }
