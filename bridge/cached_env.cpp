@@ -42,6 +42,21 @@ KnownClass* NativeCall::seek(const char* name) {
   });
 }
 
+KnownClass* NativeCall::keepRead(const ClassMap& map, jclass type) {
+  KnownClass* const known = find([this, &map, type](const KnownClass& other) {
+    const FieldTable* table = other.tables;
+    while (table != nullptr && table->map != &map) {
+      table = table->next;
+    }
+    return table != nullptr && jni_->IsSameObject(other.type, type) == JNI_TRUE;
+  });
+  if (known == nullptr) {
+    return keep(nullptr, type);
+  }
+  jni_->DeleteLocalRef(type);
+  return known;
+}
+
 KnownClass* NativeCall::keep(const char* name, jclass type) {
   KnownClass* known = find([this, name, type](const KnownClass& other) {
     // Classes of two names are two classes.
@@ -61,7 +76,7 @@ KnownClass* NativeCall::keep(const char* name, jclass type) {
   return known;
 }
 
-FieldTable* NativeCall::fieldsOf(const ClassMap& map, KnownClass& known) {
+FieldTable* NativeCall::seekFields(const ClassMap& map, KnownClass& known) {
   FieldTable* table = known.tables;
   while (table != nullptr && table->map != &map) {
     table = table->next;
@@ -96,7 +111,7 @@ ClassLookup ClassLookup::toRead(Env env, const ClassMap& map, jobject object) {
     return {map, nullptr};
   }
   const jclass type = env->GetObjectClass(object);
-  KnownClass* const known = env.call()->keep(nullptr, type);
+  KnownClass* const known = env.call()->keepRead(map, type);
   if (known == nullptr) {
     deleteLocalRef(env, type);
   }

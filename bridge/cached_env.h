@@ -75,8 +75,13 @@ class NativeCall {
   /// is the class's, or null where an object has shown the class. Returns null where there is no
   /// memory; the caller keeps its reference then.
   KnownClass* keep(const char* name, jclass type);
+  /// The same for the class of an object that `map` reads: as a rule that of the one before.
+  KnownClass* keepRead(const ClassMap& map, jclass type);
   /// The fields of `map` in a class that is known, or null where there is no memory.
-  static FieldTable* fieldsOf(const ClassMap& map, KnownClass& known);
+  static FieldTable* fieldsOf(const ClassMap& map, KnownClass& known) {
+    return known.tables != nullptr && known.tables->map == &map ? known.tables
+                                                                : seekFields(map, known);
+  }
   /// The class that a field is looked up in whose identifier has its place there.
   jclass ownerOf(const jfieldID* place) const;
 
@@ -84,6 +89,7 @@ class NativeCall {
   template <class Wanted>
   KnownClass* find(Wanted wanted);
   KnownClass* seek(const char* name);
+  static FieldTable* seekFields(const ClassMap& map, KnownClass& known);
 
   JNIEnv* jni_;
   /// The one that was asked for last comes first.
@@ -100,6 +106,8 @@ inline void keepField(FieldName name, jfieldID id) {
     *name.place = id;
   }
 }
+/// JNI's access of a field that was found raises nothing.
+inline bool accessedInRow(FieldName name) { return name.place != nullptr; }
 inline KnownClass* knownAs(Env env, const char* name) {
   return env.call() == nullptr ? nullptr : env.call()->named(name);
 }
