@@ -44,11 +44,7 @@ KnownClass* NativeCall::seek(const char* name) {
 
 KnownClass* NativeCall::keepRead(const ClassMap& map, jclass type) {
   KnownClass* const known = find([this, &map, type](const KnownClass& other) {
-    const FieldTable* table = other.tables;
-    while (table != nullptr && table->map != &map) {
-      table = table->next;
-    }
-    return table != nullptr && jni_->IsSameObject(other.type, type) == JNI_TRUE;
+    return other.tableOf(map) != nullptr && jni_->IsSameObject(other.type, type) == JNI_TRUE;
   });
   if (known == nullptr) {
     return keep(nullptr, type);
@@ -76,16 +72,10 @@ KnownClass* NativeCall::keep(const char* name, jclass type) {
   return known;
 }
 
-FieldTable* NativeCall::seekFields(const ClassMap& map, KnownClass& known) {
-  FieldTable* table = known.tables;
-  while (table != nullptr && table->map != &map) {
-    table = table->next;
-  }
-  if (table != nullptr) {
-    return table;
-  }
+FieldTable* NativeCall::newFields(const ClassMap& map, KnownClass& known) {
   const std::size_t count = map.fields.size();
-  table = static_cast<FieldTable*>(allocateKept(sizeof(FieldTable) + count * sizeof(jfieldID)));
+  auto* const table =
+      static_cast<FieldTable*>(allocateKept(sizeof(FieldTable) + count * sizeof(jfieldID)));
   if (table != nullptr) {
     *table = {known.tables, &map, count};
     std::fill_n(table->ids(), count, nullptr);

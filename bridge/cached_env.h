@@ -55,6 +55,13 @@ struct KnownClass {
   /// The no-argument constructor; null until it is looked up.
   jmethodID constructor;
   FieldTable* tables;
+  [[nodiscard]] FieldTable* tableOf(const ClassMap& map) const {
+    FieldTable* table = tables;
+    while (table != nullptr && table->map != &map) {
+      table = table->next;
+    }
+    return table;
+  }
 };
 
 /// One call of a native method, and the classes and fields that it has looked up. What there is no
@@ -79,8 +86,8 @@ class NativeCall {
   KnownClass* keepRead(const ClassMap& map, jclass type);
   /// The fields of `map` in a class that is known, or null where there is no memory.
   static FieldTable* fieldsOf(const ClassMap& map, KnownClass& known) {
-    return known.tables != nullptr && known.tables->map == &map ? known.tables
-                                                                : seekFields(map, known);
+    FieldTable* const table = known.tableOf(map);
+    return table != nullptr ? table : newFields(map, known);
   }
   /// The class that a field is looked up in whose identifier has its place there.
   jclass ownerOf(const jfieldID* place) const;
@@ -89,7 +96,7 @@ class NativeCall {
   template <class Wanted>
   KnownClass* find(Wanted wanted);
   KnownClass* seek(const char* name);
-  static FieldTable* seekFields(const ClassMap& map, KnownClass& known);
+  static FieldTable* newFields(const ClassMap& map, KnownClass& known);
 
   JNIEnv* jni_;
   /// The one that was asked for last comes first.

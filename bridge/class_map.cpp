@@ -46,7 +46,8 @@ bool isInt(const Field& field) { return field.rank == 0 && field.kind <= FieldKi
 
 /// Visits the fields, row by row those that are ints; stops at the first result that is not `kOk`.
 template <class Int, class Other>
-int eachField(Env env, const ClassMap& map, const ClassLookup& lookup, Int visitInt, Other visit) {
+[[gnu::always_inline]] inline int eachField(Env env, const ClassMap& map, const ClassLookup& lookup,
+                                            Int visitInt, Other visit) {
   const Field* field = map.fields.data();
   const std::size_t count = map.fields.size();
   std::size_t index = 0;
