@@ -116,14 +116,14 @@ void measure(benchmark::State& state, ByName byName) {
   }                                                                                               \
   BENCHMARK(BM_##name)->Unit(benchmark::kMillisecond)
 
-#define SLICE(name)                                                                \
-  void BM_GetAllInfo_##name(benchmark::State& state) {                             \
-    quorvelSimReset();                                                             \
-    prepare<ArrayAllInfo_##name>("QV_GetAllInfo_" #name);                          \
-    measure(state, [](JNIEnv* env, jstring unit) {                                 \
-      return METHOD(GetAllInfo_1##name)(env, nullptr, unit, nullptr, nullptr);     \
-    });                                                                            \
-  }                                                                                \
+#define SLICE(name)                                                            \
+  void BM_GetAllInfo_##name(benchmark::State& state) {                         \
+    quorvelSimReset();                                                         \
+    prepare<ArrayAllInfo_##name>("QV_GetAllInfo_" #name);                      \
+    measure(state, [](JNIEnv* env, jstring unit) {                             \
+      return METHOD(GetAllInfo_1##name)(env, nullptr, unit, nullptr, nullptr); \
+    });                                                                        \
+  }                                                                            \
   BENCHMARK(BM_GetAllInfo_##name)->Unit(benchmark::kMillisecond)
 
 SLICE(HG);

@@ -79,18 +79,16 @@ using Interface = JNINativeInterface_;
 using Makers = Entries<&Interface::NewObjectV, &Interface::NewObjectArray, &Interface::NewIntArray,
                        &Interface::NewByteArray, &Interface::NewStringUTF>;
 using Classes = Entries<&Interface::FindClass, &Interface::GetObjectClass>;
-using LookUps =
-    Entries<&Interface::GetMethodID, &Interface::GetFieldID, &Interface::IsSameObject>;
+using LookUps = Entries<&Interface::GetMethodID, &Interface::GetFieldID, &Interface::IsSameObject>;
 using Deletions = Entries<&Interface::DeleteLocalRef>;
-using Others =
-    Entries<&Interface::SetIntField, &Interface::GetIntField, &Interface::SetObjectField,
-            &Interface::GetObjectField, &Interface::SetObjectArrayElement,
-            &Interface::GetObjectArrayElement, &Interface::GetArrayLength,
-            &Interface::SetIntArrayRegion, &Interface::GetIntArrayRegion,
-            &Interface::SetByteArrayRegion, &Interface::GetByteArrayRegion,
-            &Interface::GetIntArrayElements, &Interface::ReleaseIntArrayElements,
-            &Interface::GetStringUTFLength, &Interface::GetStringUTFChars,
-            &Interface::ReleaseStringUTFChars, &Interface::ExceptionOccurred>;
+using Others = Entries<&Interface::SetIntField, &Interface::GetIntField, &Interface::SetObjectField,
+                       &Interface::GetObjectField, &Interface::SetObjectArrayElement,
+                       &Interface::GetObjectArrayElement, &Interface::GetArrayLength,
+                       &Interface::SetIntArrayRegion, &Interface::GetIntArrayRegion,
+                       &Interface::SetByteArrayRegion, &Interface::GetByteArrayRegion,
+                       &Interface::GetIntArrayElements, &Interface::ReleaseIntArrayElements,
+                       &Interface::GetStringUTFLength, &Interface::GetStringUTFChars,
+                       &Interface::ReleaseStringUTFChars, &Interface::ExceptionOccurred>;
 
 template <class... List>
 struct Lists {
@@ -113,7 +111,7 @@ JniCounts countJni(JNIEnv* env, Work work) {
   env->functions = &counting;
   work();
   env->functions = original;
-  JniCounts counts{Others::counts(),  Classes::counts(), Classes::sum(),
+  JniCounts counts{Others::counts(), Classes::counts(), Classes::sum(),
                    Deletions::sum(), Makers::sum(),     mostHeld};
   const auto append = [](std::vector<long>& to, const std::vector<long>& from) {
     to.insert(to.end(), from.begin(), from.end());

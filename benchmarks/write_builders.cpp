@@ -17,6 +17,8 @@ using quorvelj::ClassOf;
 using quorvelj::Field;
 using quorvelj::FieldKind;
 
+bool isInt(const Field& field) { return field.rank == 0 && field.kind <= FieldKind::kUInt8; }
+
 std::string simpleName(const ClassMap& map) {
   const std::string name = map.className;
   return name.substr(name.rfind('/') + 1);
@@ -31,6 +33,8 @@ class Form {
   virtual std::string object(const ClassMap& map) = 0;
   /// The class of an array's elements.
   virtual std::string element(const std::string& className) = 0;
+  /// What stands behind a row of ints.
+  virtual std::string behindInts() = 0;
   /// What stands before the lines of a reader.
   virtual std::string guard(const ClassMap& map) = 0;
 };
@@ -42,6 +46,7 @@ class ByName : public Form {
   }
   std::string object(const ClassMap& map) override { return element(map.className); }
   std::string element(const std::string& className) override { return '"' + className + '"'; }
+  std::string behindInts() override { return ""; }
   std::string guard(const ClassMap&) override { return ""; }
 };
 
@@ -72,6 +77,7 @@ class Kept : public Form {
     declare("jclass", name, "keepClass(env, \"" + className + "\")");
     return name;
   }
+  std::string behindInts() override { return " &&\n      !excepted(env)"; }
   std::string guard(const ClassMap& map) override {
     return "  if (!isOf(env, object, " + object(map) + ")) {\n    return by_name::read" +
            simpleName(map) + "(env, object, record);\n  }\n";
@@ -123,6 +129,9 @@ class Writer {
     }
     for (const Field& field : map.fields) {
       text_ += " &&\n      " + (reads ? load(map, field) : store(map, field));
+      if (isInt(field) && (&field == &map.fields.back() || !isInt((&field)[1]))) {
+        text_ += form_.behindInts();
+      }
     }
     text_ += reads ? ";\n}\n\n" : "\n    ? object : nullptr;\n}\n\n";
   }
@@ -174,8 +183,7 @@ class Writer {
   }
 
   std::string load(const ClassMap& owner, const Field& field) {
-    const std::string in =
-        "(env, object, " + form_.field(owner, field) + ", record." + field.name;
+    const std::string in = "(env, object, " + form_.field(owner, field) + ", record." + field.name;
     switch (field.kind) {
       case FieldKind::kInt32:
         return (field.rank == 0 ? "getInt" : "getNumbers") + in + ")";

@@ -43,6 +43,13 @@ struct Found<Name> {
     return id != nullptr;
   }
   void letGo(JNIEnv* env) const { env->DeleteLocalRef(type); }
+  bool finishInt(JNIEnv* env) const {
+    if (env->ExceptionOccurred() != nullptr) {
+      return false;
+    }
+    letGo(env);
+    return true;
+  }
 
   jclass type;
   jfieldID id = nullptr;
@@ -56,6 +63,8 @@ struct Found<jfieldID> {
     return true;
   }
   void letGo(JNIEnv*) const {}
+  /// `excepted` stands behind a row of ints.
+  bool finishInt(JNIEnv*) const { return true; }
 
   jfieldID id = nullptr;
 };
@@ -94,11 +103,7 @@ bool setInt(JNIEnv* env, jobject object, Field field, jint value) {
     return false;
   }
   env->SetIntField(object, found.id, value);
-  if (excepted(env)) {
-    return false;
-  }
-  found.letGo(env);
-  return true;
+  return found.finishInt(env);
 }
 
 /// A text that cannot be stored does not end a builder.
@@ -248,8 +253,12 @@ bool getInt(JNIEnv* env, jobject object, Field field, std::int32_t& value) {
     return false;
   }
   value = env->GetIntField(object, found.id);
-  found.letGo(env);
-  return !excepted(env);
+  if constexpr (std::is_same_v<Field, Name>) {
+    found.letGo(env);
+    return !excepted(env);
+  } else {
+    return true;
+  }
 }
 
 template <class Field, std::size_t N>

@@ -42,6 +42,17 @@ KnownClass* NativeCall::seek(const char* name) {
   });
 }
 
+KnownClass* NativeCall::keepRead(const ClassMap& map, jclass type) {
+  KnownClass* const known = find([this, &map, type](const KnownClass& other) {
+    return other.tableOf(map) != nullptr && jni_->IsSameObject(other.type, type) == JNI_TRUE;
+  });
+  if (known == nullptr) {
+    return keep(nullptr, type);
+  }
+  jni_->DeleteLocalRef(type);
+  return known;
+}
+
 KnownClass* NativeCall::keep(const char* name, jclass type) {
   KnownClass* known = find([this, name, type](const KnownClass& other) {
     // Classes of two names are two classes.
@@ -61,16 +72,10 @@ KnownClass* NativeCall::keep(const char* name, jclass type) {
   return known;
 }
 
-FieldTable* NativeCall::fieldsOf(const ClassMap& map, KnownClass& known) {
-  FieldTable* table = known.tables;
-  while (table != nullptr && table->map != &map) {
-    table = table->next;
-  }
-  if (table != nullptr) {
-    return table;
-  }
+FieldTable* NativeCall::newFields(const ClassMap& map, KnownClass& known) {
   const std::size_t count = map.fields.size();
-  table = static_cast<FieldTable*>(allocateKept(sizeof(FieldTable) + count * sizeof(jfieldID)));
+  auto* const table =
+      static_cast<FieldTable*>(allocateKept(sizeof(FieldTable) + count * sizeof(jfieldID)));
   if (table != nullptr) {
     *table = {known.tables, &map, count};
     std::fill_n(table->ids(), count, nullptr);
@@ -96,7 +101,7 @@ ClassLookup ClassLookup::toRead(Env env, const ClassMap& map, jobject object) {
     return {map, nullptr};
   }
   const jclass type = env->GetObjectClass(object);
-  KnownClass* const known = env.call()->keep(nullptr, type);
+  KnownClass* const known = env.call()->keepRead(map, type);
   if (known == nullptr) {
     deleteLocalRef(env, type);
   }

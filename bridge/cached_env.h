@@ -55,6 +55,13 @@ struct KnownClass {
   /// The no-argument constructor; null until it is looked up.
   jmethodID constructor;
   FieldTable* tables;
+  [[nodiscard]] FieldTable* tableOf(const ClassMap& map) const {
+    FieldTable* table = tables;
+    while (table != nullptr && table->map != &map) {
+      table = table->next;
+    }
+    return table;
+  }
 };
 
 /// One call of a native method, and the classes and fields that it has looked up. What there is no
@@ -75,8 +82,13 @@ class NativeCall {
   /// is the class's, or null where an object has shown the class. Returns null where there is no
   /// memory; the caller keeps its reference then.
   KnownClass* keep(const char* name, jclass type);
+  /// The same for the class of an object that `map` reads: as a rule that of the one before.
+  KnownClass* keepRead(const ClassMap& map, jclass type);
   /// The fields of `map` in a class that is known, or null where there is no memory.
-  static FieldTable* fieldsOf(const ClassMap& map, KnownClass& known);
+  static FieldTable* fieldsOf(const ClassMap& map, KnownClass& known) {
+    FieldTable* const table = known.tableOf(map);
+    return table != nullptr ? table : newFields(map, known);
+  }
   /// The class that a field is looked up in whose identifier has its place there.
   jclass ownerOf(const jfieldID* place) const;
 
@@ -84,6 +96,7 @@ class NativeCall {
   template <class Wanted>
   KnownClass* find(Wanted wanted);
   KnownClass* seek(const char* name);
+  static FieldTable* newFields(const ClassMap& map, KnownClass& known);
 
   JNIEnv* jni_;
   /// The one that was asked for last comes first.
@@ -100,6 +113,8 @@ inline void keepField(FieldName name, jfieldID id) {
     *name.place = id;
   }
 }
+/// JNI's access of a field that was found raises nothing.
+inline bool accessedInRow(FieldName name) { return name.place != nullptr; }
 inline KnownClass* knownAs(Env env, const char* name) {
   return env.call() == nullptr ? nullptr : env.call()->named(name);
 }

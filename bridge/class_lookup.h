@@ -1,6 +1,7 @@
 #pragma once
 
 #include "bridge/class_map.h"
+#include "bridge/jni_toolkit.h"
 
 namespace quorvelj {
 
@@ -17,25 +18,26 @@ class ClassLookup {
   /// The same class, of whose objects `map` names other fields.
   [[nodiscard]] ClassLookup withFieldsOf(const ClassMap& map) const { return {map, known_}; }
 
-  FieldName operator[](const Field& field) const {
-    return {field.name, table_ == nullptr ? nullptr : table_->ids() + (&field - first_)};
+  /// A field of this place among the map's.
+  [[nodiscard]] FieldName nameOf(const Field& field, std::size_t index) const {
+    return {field.name, table_ == nullptr ? nullptr : table_->ids() + index};
   }
+  /// Whether an access in the row of ints that ends here left an exception.
+  [[nodiscard]] bool rowFailed(Env env) const { return table_ != nullptr && exceptionPending(env); }
 
  private:
   ClassLookup(const ClassMap& map, KnownClass* known)
-      : known_(known),
-        table_(known == nullptr ? nullptr : NativeCall::fieldsOf(map, *known)),
-        first_(map.fields.data()) {}
+      : known_(known), table_(known == nullptr ? nullptr : NativeCall::fieldsOf(map, *known)) {}
 
   KnownClass* known_;
   /// Null where nothing is kept.
   FieldTable* table_;
-  const Field* first_;
 #else
   static ClassLookup toBuild(Env, const ClassMap&) { return {}; }
   static ClassLookup toRead(Env, const ClassMap&, jobject) { return {}; }
   [[nodiscard]] ClassLookup withFieldsOf(const ClassMap&) const { return {}; }
-  FieldName operator[](const Field& field) const { return field.name; }
+  [[nodiscard]] FieldName nameOf(const Field& field, std::size_t) const { return field.name; }
+  [[nodiscard]] bool rowFailed(Env) const { return false; }
 #endif
 };
 

@@ -41,6 +41,35 @@ std::size_t strideOf(const Field& field, std::size_t dimension) {
   return stride;
 }
 
+/// Whether Java has a single int for a field.
+bool isInt(const Field& field) { return field.rank == 0 && field.kind <= FieldKind::kUInt8; }
+
+/// Visits the fields, row by row those that are ints; stops at the first result that is not `kOk`.
+template <class Int, class Other>
+[[gnu::always_inline]] inline int eachField(Env env, const ClassMap& map, const ClassLookup& lookup,
+                                            Int visitInt, Other visit) {
+  const Field* field = map.fields.data();
+  const std::size_t count = map.fields.size();
+  std::size_t index = 0;
+  while (index < count) {
+    int result = kOk;
+    if (isInt(*field)) {
+      do {
+        result = visitInt(*field, lookup.nameOf(*field, index));
+      } while (result == kOk && ++index < count && isInt(*++field));
+      result = result == kOk && lookup.rowFailed(env) ? kFailed : result;
+    } else {
+      result = visit(*field, lookup.nameOf(*field, index));
+      ++index;
+      ++field;
+    }
+    if (result != kOk) {
+      return result;
+    }
+  }
+  return kOk;
+}
+
 // Building
 
 bool terminated(const char* slots, std::size_t count, std::size_t width) {
@@ -147,13 +176,8 @@ int setTexts(Env env, jobject object, const Field& field, FieldName name, const 
 int setFields(Env env, jobject object, const ClassLookup& lookup, const ClassMap& map,
               const std::byte* record);
 
-int setField(Env env, jobject object, const ClassLookup& lookup, const Field& field,
+int setField(Env env, jobject object, const ClassLookup& lookup, const Field& field, FieldName name,
              const std::byte* at) {
-  const FieldName name = lookup[field];
-  // Most fields are ints.
-  if (field.kind == FieldKind::kInt32 && field.rank == 0) {
-    return setIntField(env, object, name, valueAt<std::int32_t>(at));
-  }
   const auto storeArray = [&] {
     return storeNew(env, object, field, name, newArray(env, field, 0, at));
   };
@@ -162,10 +186,7 @@ int setField(Env env, jobject object, const ClassLookup& lookup, const Field& fi
       return field.rank == 1 ? setIntArrayField(env, object, name, intsAt(at), lengthOf(field, 0))
                              : storeArray();
     case FieldKind::kInt8:
-      return field.rank == 0 ? setIntField(env, object, name, valueAt<std::int8_t>(at))
-                             : storeArray();
-    case FieldKind::kUInt8:
-      return setIntField(env, object, name, valueAt<std::uint8_t>(at));
+      return storeArray();
     case FieldKind::kText:
       return setTexts(env, object, field, name, textAt(at));
     case FieldKind::kBytes:
@@ -176,18 +197,28 @@ int setField(Env env, jobject object, const ClassLookup& lookup, const Field& fi
                              : storeArray();
     case FieldKind::kPart:
       return setFields(env, object, lookup.withFieldsOf(*field.element), *field.element, at);
+    case FieldKind::kUInt8:
+      break;  // GCOV_EXCL_LINE: an int.
   }
   return kFailed;  // GCOV_EXCL_LINE: the switch answers for every kind.
 }
 
+std::int32_t intAt(const Field& field, const std::byte* at) {
+  return field.kind == FieldKind::kInt32  ? valueAt<std::int32_t>(at)
+         : field.kind == FieldKind::kInt8 ? valueAt<std::int8_t>(at)
+                                          : valueAt<std::uint8_t>(at);
+}
+
 int setFields(Env env, jobject object, const ClassLookup& lookup, const ClassMap& map,
               const std::byte* record) {
-  for (const Field& field : map.fields) {
-    if (setField(env, object, lookup, field, record + field.offset) != kOk) {
-      return kFailed;
-    }
-  }
-  return kOk;
+  return eachField(
+      env, map, lookup,
+      [=](const Field& field, FieldName name) {
+        return setIntField(env, object, name, intAt(field, record + field.offset));
+      },
+      [&](const Field& field, FieldName name) {
+        return setField(env, object, lookup, field, name, record + field.offset);
+      });
 }
 
 // Reading
@@ -241,7 +272,7 @@ int getObject(Env env, jobject object, const Field& field, FieldName name, std::
 int getInt(Env env, jobject object, const Field& field, FieldName name, std::byte* at) {
   const auto value = static_cast<std::int32_t>(getIntField(env, object, name));
   // The -1 of a field that could not be read is told from a stored one by the exception.
-  if (exceptionPending(env)) {
+  if ((value == -1 || !accessedInRow(name)) && exceptionPending(env)) {
     return kFailed;
   }
   if (field.kind == FieldKind::kInt32) {
@@ -252,26 +283,16 @@ int getInt(Env env, jobject object, const Field& field, FieldName name, std::byt
   return kOk;
 }
 
-int getField(Env env, jobject object, const ClassLookup& lookup, const Field& field,
-             std::byte* at) {
-  const FieldName name = lookup[field];
+int getField(Env env, jobject object, const Field& field, FieldName name, std::byte* at) {
   switch (field.kind) {  // GCOV_EXCL_BR_LINE: a case for every kind.
     case FieldKind::kInt32:
-      if (field.rank == 0) {
-        return getInt(env, object, field, name, at);
-      }
       return field.rank == 1 ? getIntArrayField(env, object, name, intsAt(at), lengthOf(field, 0))
                              : getIntMatrixField(env, object, name, intsAt(at), lengthOf(field, 0),
                                                  lengthOf(field, 1));
     case FieldKind::kInt8:
-      if (field.rank == 0) {
-        return getInt(env, object, field, name, at);
-      }
       return field.rank == 1
                  ? getIntArrayFieldAsBytes(env, object, name, bytesAt(at), field.extents[0])
                  : getObject(env, object, field, name, at);
-    case FieldKind::kUInt8:
-      return getInt(env, object, field, name, at);
     case FieldKind::kText:
       return field.rank == 0 ? getStringField(env, object, name, textAt(at), field.elementBytes)
                              : getStringArrayField(env, object, name, textAt(at),
@@ -289,6 +310,8 @@ int getField(Env env, jobject object, const ClassLookup& lookup, const Field& fi
       return getObject(env, object, field, name, at);
     case FieldKind::kPart:
       return read(env, *field.element, object, at);
+    case FieldKind::kUInt8:
+      break;  // GCOV_EXCL_LINE: an int.
   }
   return kFailed;  // GCOV_EXCL_LINE: the switch answers for every kind.
 }
@@ -330,14 +353,17 @@ int read(Env env, const ClassMap& map, jobject object, void* record) {
     return kNothingToRead;
   }
   const ClassLookup lookup = ClassLookup::toRead(env, map, object);
-  for (const Field& field : map.fields) {
-    const int result =
-        getField(env, object, lookup, field, static_cast<std::byte*>(record) + field.offset);
-    if (result != kOk) {
-      return result;
-    }
-  }
-  return kOk;
+  const auto place = [record](const Field& field) {
+    return static_cast<std::byte*>(record) + field.offset;
+  };
+  return eachField(
+      env, map, lookup,
+      [=](const Field& field, FieldName name) {
+        return getInt(env, object, field, name, place(field));
+      },
+      [=](const Field& field, FieldName name) {
+        return getField(env, object, field, name, place(field));
+      });
 }
 
 }  // namespace quorvelj

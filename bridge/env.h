@@ -31,6 +31,9 @@ inline jfieldID knownField(FieldName) { return nullptr; }
 /// The class that a field is looked up in, or null where it is not known yet.
 inline jclass knownOwner(Env, FieldName) { return nullptr; }
 inline void keepField(FieldName, jfieldID) {}
+/// Whether an int of this name is accessed without a look at exceptions; the walker looks once
+/// behind a row of ints.
+inline bool accessedInRow(FieldName) { return false; }
 /// The class of this name, or null where it is not known yet.
 inline jclass knownClass(Env, const char*) { return nullptr; }
 /// Takes over the local reference to a class that was found. Returns the one to use instead, or

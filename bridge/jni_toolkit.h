@@ -227,7 +227,7 @@ inline int setIntField(Env env, jobject object, FieldName name, jint value) {
     return kFailed;
   }
   env->SetIntField(object, field.id, value);
-  return finish(env, field.reference);
+  return accessedInRow(name) ? kOk : finish(env, field.reference);
 }
 
 inline jobject getObjectField(Env env, jobject object, FieldName name, const char* signature) {
