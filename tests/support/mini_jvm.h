@@ -70,6 +70,8 @@ class MiniJvm {
   std::optional<PendingException> pending();
   void clearPending() { thrown = nullptr; }
 
+  /// Whether an access to an int can be made to fail. In no JVM it does.
+  bool intsFail = true;
   /// The JNI call to fail: the n-th of those that can, counted from 1; 0 fails none.
   int failingCall = 0;
   /// The JNI function that failed so, or "".

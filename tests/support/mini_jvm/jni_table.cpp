@@ -180,7 +180,7 @@ void deleteLocalRef(MiniJvm& jvm, jobject reference) {
 /// The slot of a field access, or null where the access fails.
 Slot* access(MiniJvm& jvm, const char* call, jobject object, jfieldID id, const char* signature) {
   auto* const field = reinterpret_cast<Member*>(id);
-  const bool fails = enter(jvm, true, call);
+  const bool fails = enter(jvm, *signature != 'I' || jvm.intsFail, call);
   Object* const target = jvm.heap.resolve(object);
   if (fails || target == nullptr) {
     throwNew(jvm, "java/lang/InternalError");
