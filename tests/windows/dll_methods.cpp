@@ -13,7 +13,8 @@ namespace quorvelj::testing {
 namespace {
 
 HMODULE dll() {
-  static const HMODULE module = LoadLibraryA(keepsIdentifiers() ? "cached\\quorvelj.dll" : "quorvelj.dll");
+  static const HMODULE module =
+      LoadLibraryA(keepsIdentifiers() ? "cached\\quorvelj.dll" : "quorvelj.dll");
   if (module == nullptr) {
     fail("quorvelj.dll cannot be loaded: error " + std::to_string(GetLastError()));
   }
