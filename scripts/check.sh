@@ -11,7 +11,7 @@ javadoc -quiet -encoding UTF-8 -Xdoclint:all -Werror -Xmaxwarns 5000 -Xmaxerrs 5
   -d build/javadoc -sourcepath java tessaly.str.diskarray
 
 echo "== clang"
-cmake --preset linux-clang -DCMAKE_COMPILE_WARNING_AS_ERROR=ON >/dev/null
+cmake --preset linux-clang -DQUORVELJ_CACHE_IDS=ON -DCMAKE_COMPILE_WARNING_AS_ERROR=ON >/dev/null
 cmake --build --preset linux-clang --parallel "$(nproc)"
 
 echo "== clang-tidy"
