@@ -137,5 +137,15 @@ TEST(CachedIdsOfSubclasses, AreTheirOwn) {
   EXPECT_EQ(jvm.heap.misuses(), 0);
 }
 
+// What a reader left pending ends the building behind it, as it does where each field is asked.
+TEST(CachedIdsUnderAnException, BuildNothing) {
+  MiniJvm jvm;
+  NativeCall call(jvm.env());
+  jvm.failingCall = 1;
+  jvm.env()->FindClass("Missing");
+  const Threshold record{};
+  EXPECT_EQ(build(call.env(), ClassOf<Threshold>::kMap, &record), nullptr);
+}
+
 }  // namespace
 }  // namespace quorvelj::testing
