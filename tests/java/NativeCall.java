@@ -1,6 +1,5 @@
 import java.lang.management.ManagementFactory;
 import java.lang.management.ThreadMXBean;
-import java.lang.reflect.Array;
 import java.lang.reflect.InvocationTargetException;
 import java.lang.reflect.Method;
 import java.lang.reflect.Modifier;
@@ -14,8 +13,6 @@ final class NativeCall {
     /** The code of a library that refuses. */
     static final int REFUSED = 1234;
 
-    /** No fixed-length copy takes more elements. */
-    private static final int LONG_ENOUGH = 8192;
     private static final DiskArrayUtilityJNI ARRAY = new DiskArrayUtilityJNI();
     private static final ThreadMXBean THREADS = ManagementFactory.getThreadMXBean();
 
@@ -45,23 +42,6 @@ final class NativeCall {
     /** The library's function, of which the light forms build less. */
     String function() {
         return name().replaceAll("Lite2?$", "");
-    }
-
-    /** A name, ints of 0, new objects and arrays. */
-    Object[] plainArguments() throws ReflectiveOperationException {
-        Class<?>[] types = method.getParameterTypes();
-        Object[] arguments = new Object[types.length];
-        for (int index = 0; index < types.length; ++index) {
-            Class<?> type = types[index];
-            arguments[index] = type == int.class
-                    ? Integer.valueOf(0)
-                    : type == String.class
-                            ? "north"
-                            : type.isArray()
-                                    ? Array.newInstance(type.getComponentType(), LONG_ENOUGH)
-                                    : type.getConstructor().newInstance();
-        }
-        return arguments;
     }
 
     /** Returns what the method threw, or null. */

@@ -12,7 +12,7 @@ public final class SmallStacks {
 
     private SmallStacks(NativeCall call) throws ReflectiveOperationException {
         this.call = call;
-        this.arguments = call.plainArguments();
+        this.arguments = PlainArguments.of(call.method);
     }
 
     public static void main(String[] unused) throws Exception {

@@ -21,7 +21,6 @@ import java.util.Comparator;
 public final class TwoBuilds {
     /** The record of the whole array. */
     private static final int LARGEST_RECORD = 76_038_764;
-    private static final int LONG_ENOUGH = 8192;
     private static final int LEAST_VALUES = 20_000_000;
     private static final long MOST_GROWTH = 4_000_000;
     private static long compared;
@@ -63,20 +62,8 @@ public final class TwoBuilds {
 
         /** Returns what the method returns, or what it throws. */
         Object call(Method method) throws ReflectiveOperationException {
-            Class<?>[] types = method.getParameterTypes();
-            Object[] arguments = new Object[types.length];
-            for (int index = 0; index < types.length; ++index) {
-                Class<?> type = types[index];
-                arguments[index] = type == int.class
-                        ? Integer.valueOf(1)
-                        : type == String.class
-                                ? "north"
-                                : type.isArray()
-                                        ? Array.newInstance(type.getComponentType(), LONG_ENOUGH)
-                                        : type.getConstructor().newInstance();
-            }
             try {
-                return method.invoke(array, arguments);
+                return method.invoke(array, PlainArguments.of(method));
             } catch (InvocationTargetException thrown) {
                 return thrown.getCause();
             }

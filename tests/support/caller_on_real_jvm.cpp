@@ -16,10 +16,8 @@ constexpr char kToString[] = "()Ljava/lang/String;";
 
 JNIEnv* start() {
   std::string classPath = "-Djava.class.path=" QUORVELJ_CLASS_PATH;
-  const std::string libraries = QUORVELJ_LIBRARY_PATH;
-  std::string libraryPath =
-      "-Djava.library.path=" + (keepsIdentifiers() ? libraries + "/cached:" : std::string()) +
-      libraries;
+  std::string libraryPath = "-Djava.library.path=" QUORVELJ_LIBRARY_PATH;
+  libraryPath += keepsIdentifiers() ? "/cached" : "";
   JavaVMOption options[] = {{classPath.data(), nullptr}, {libraryPath.data(), nullptr}};
   JavaVMInitArgs arguments{JNI_VERSION_1_8, 2, options, JNI_FALSE};
   JavaVM* jvm = nullptr;
